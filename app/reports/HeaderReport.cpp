@@ -1,0 +1,119 @@
+#include "app/reports/HeaderReport.h"
+
+#include <iterator>
+#include <string_view>
+
+#include <fmt/format.h>
+
+#include "c3d/ParameterSection.h"
+#include "support/NumberForms.h"
+#include "support/Text.h"
+
+namespace reports {
+
+using modAllPurpose::ReportOutput;
+using modAllPurposeNumbers::FormatNumber;
+using modAllPurposeNumbers::GeneralForm;
+using modAllPurposeNumbers::NumberPattern;
+using modVantrel::C3dHeader;
+using modVantrel::FileState;
+
+namespace {
+
+constexpr NumberPattern kEventNumber("00");
+constexpr NumberPattern kEventTime("###0.0000");
+constexpr NumberPattern kFrameTime("0.0#########");
+
+// A label, padded to the column of the values, and its value.
+void Field(ReportOutput& output, std::string_view label, int value) {
+  output.Line(fmt::format("{:<35}{}", label, value));
+}
+
+void Field(ReportOutput& output, std::string_view label, float value) {
+  output.Line(fmt::format("{:<35}{}", label, GeneralForm(value)));
+}
+
+void StoredFields(const C3dHeader& header, ReportOutput& output) {
+  Field(output, "ParamBlockPointer:", header.ParamBlockPointer);
+  Field(output, "FileID:", header.FileID);
+  Field(output, "PointLabelCount:", header.PointLabelCount);
+  Field(output, "AnalogValuesPerFrame:", header.AnalogValuesPerFrame);
+  Field(output, "FirstPointFrameNumber:", header.FirstPointFrameNumber);
+  Field(output, "LastPointFrameNumber:", header.LastPointFrameNumber);
+  Field(output, "MaxInterpolationGapAllowed:", header.MaxInterpolationGapAllowed);
+  Field(output, "ScaleFactor:", header.ScaleFactor);
+  Field(output, "FirstMarkerAndAnalogBlockPointer:", header.FirstMarkerAndAnalogBlockPointer);
+  Field(output, "AnalogSamplesPerChannel:", header.AnalogSamplesPerChannel);
+  Field(output, "PointFrameRate:", header.PointFrameRate);
+  Field(output, "EventDataFlag:", header.EventDataFlag);
+}
+
+void HeaderEvents(const C3dHeader& header, ReportOutput& output) {
+  output.Line(
+      "(The following event information is the old style information, and not necessarily the PIG "
+      "information.)");
+  Field(output, "TimedEventsCount:", header.TimedEventsCount);
+  output.Line("Event numbers, times, display switches, and labels");
+  for (std::int32_t i = 1; i <= header.TimedEventsCount; ++i) {
+    output.Line(fmt::format("  {}  {}  {}  '{}'", FormatNumber(kEventNumber, i),
+                            FormatNumber(kEventTime, double{header.EventTimes[i]}),
+                            header.EventDisplaySwitches[i],
+                            modAllPurpose::Trimmed(header.EventLabels[i])));
+  }
+}
+
+void ReservedAreas(const C3dHeader& header, ReportOutput& output) {
+  output.Line("Reserved1: " + HexDump(header.Reserved1));
+  output.Line("Reserved2: " + HexDump(header.Reserved2));
+  output.Line("Reserved3: " + HexDump(header.Reserved3));
+  output.Line("Reserved4: " + HexDump(header.Reserved4));
+}
+
+void DerivedFields(const FileState& state, ReportOutput& output) {
+  output.Line("  --Extra calculated stuff--");
+  Field(output, "AnalogChannelsCount:", state.AnalogChannelsCount);
+  Field(output, "AnalogFrameRate:", state.AnalogFrameRate);
+  Field(output, "SeekPtrForFirstC3dParam:", state.SeekPtrForFirstC3dParam);
+  Field(output, "SeekPtrForFirstFrameData:", state.SeekPtrForFirstFrameData);
+  Field(output, "ProcessorType (0=Intel IEEE):", state.ProcessorType);
+  Field(output, "DataStoredAsIntegerOrSingle:", state.DataStoredAsIntegerOrSingle);
+  Field(output, "PointFrameCount:", state.PointFrameCount);
+  Field(output, "ElapsedTimeOfWalk:", state.ElapsedTimeOfWalk);
+  Field(output, "WalkStartTime:", state.WalkStartTime);
+  Field(output, "WalkEndTime:", state.WalkEndTime);
+  output.Line(fmt::format(
+      "{:<35}{}", "TimeBetweenFrames:", FormatNumber(kFrameTime, double{state.TimeBetweenFrames})));
+}
+
+}  // namespace
+
+std::string HexDump(std::span<const std::byte> bytes) {
+  std::string dump;
+  for (const std::byte byte : bytes) {
+    fmt::format_to(std::back_inserter(dump), " {:X}", std::to_integer<unsigned>(byte));
+  }
+  return dump;
+}
+
+void ShowHeaderInfo(const FileState& state, ReportOutput& output) {
+  output.BeginReport();
+  output.Line("OpenC3dFileSpec: " + state.OpenC3dFileSpec);
+  output.Line("");
+  StoredFields(state.Header, output);
+  HeaderEvents(state.Header, output);
+  ReservedAreas(state.Header, output);
+  output.Line("");
+  DerivedFields(state, output);
+  output.Line("");
+}
+
+void ShowParameterHeader(const FileState& state, ReportOutput& output) {
+  const modVantrel::ParamBlockHeader header = modVantrel::ReadParamBlockHeader(state);
+  output.BeginReport();
+  output.Line(fmt::format("ParamBlockPointer:  {}", header.ParamBlockPointer));
+  output.Line(fmt::format("RecordID:           {}", header.RecordID));
+  output.Line(fmt::format("ParamBlockCount:    {}", header.ParamBlockCount));
+  output.Line(fmt::format("ProcessorType:      {}", header.ProcessorType));
+}
+
+}  // namespace reports

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "support/RandomAccessFile.h"
+
+namespace modVantrel {
+
+// The one class that reads the C3D file. Positions are counted from 1 and moved by every read.
+//
+// Each read is checked against the file: a position below 1 is error 63, a read that the file
+// cannot fill is error 62, wherever it points. Bytes are buffered, so that walking a chain of small
+// records does not cost a system call a field.
+class BinaryFile {
+ public:
+  // Opens `path` (UTF-8) and stands at position 1. Errors as RandomAccessFile::Open.
+  void Open(const std::string& path);
+  bool IsOpen() const { return file_.IsOpen(); }
+  void Close() noexcept;
+
+  // Error 63 where `position` is below 1. A position past the end is an error only when read.
+  void Seek(std::int32_t position);
+
+  // The position of the next byte; error 6 where 32 bits cannot hold it.
+  std::int32_t Position() const;
+
+  std::uint8_t ReadByte();
+  std::int16_t ReadInteger();
+  // The four bytes of a stored float, read little-endian.
+  std::uint32_t ReadSingleBits();
+  // `size` characters of Windows-1252 text, as UTF-8.
+  std::string ReadText(std::size_t size);
+
+  // The next `count` bytes; valid until the next call.
+  std::span<const std::byte> Read(std::size_t count);
+
+  // Moves over `count` bytes, which the file must hold.
+  void Skip(std::uint64_t count);
+
+  // Error 62 unless at least `count` bytes are left. Call it before allocating for them.
+  void RequireLeft(std::uint64_t count) const;
+
+  // How many bytes a read may fetch beyond those asked for. Walking one label through the frames
+  // sets it to fit the frames' size; ReadAhead restores it.
+  static constexpr std::size_t kDefaultReadAhead = 64 * 1024;
+
+  // Forgets the buffered bytes, so that the next read sees the file as it is now.
+  void ForgetBuffer();
+
+  // Sets the read-ahead of a file for the lifetime of this object.
+  class ReadAhead {
+   public:
+    ReadAhead(BinaryFile& file, std::size_t bytes) : file_(file), previous_(file.readAhead_) {
+      file_.readAhead_ = bytes;
+    }
+    ReadAhead(const ReadAhead&) = delete;
+    ReadAhead& operator=(const ReadAhead&) = delete;
+    ~ReadAhead() { file_.readAhead_ = previous_; }
+
+   private:
+    BinaryFile& file_;
+    std::size_t previous_;
+  };
+
+ private:
+  bool IsBuffered(std::size_t count) const;
+  void Fill(std::size_t count);
+
+  modAllPurpose::RandomAccessFile file_;
+  std::uint64_t offset_ = 0;  // of the next byte, from 0
+  std::vector<std::byte> buffer_;
+  std::uint64_t bufferOffset_ = 0;
+  std::size_t bufferedBytes_ = 0;
+  std::size_t readAhead_ = kDefaultReadAhead;
+};
+
+}  // namespace modVantrel

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <cstdint>
+
+#include "support/OneBasedTable.h"
+
+// The gait events and strides of the open file, as records. What fills them is the gait layer.
+namespace modVantrel {
+
+inline constexpr std::int32_t kSideNone = 0;
+inline constexpr std::int32_t kSideLeft = 1;
+inline constexpr std::int32_t kSideRight = 2;
+
+inline constexpr std::int32_t kTypeOther = 0;
+inline constexpr std::int32_t kTypeFootStrike = 1;
+inline constexpr std::int32_t kTypeFootOff = 2;
+
+struct EventRecord {
+  std::int32_t Side = kSideNone;
+  std::int32_t Type = kTypeOther;
+  float Time = 0;  // seconds
+
+  friend bool operator==(const EventRecord&, const EventRecord&) = default;
+};
+
+// The gait cycle of one foot, from its strike to its next strike. Times are seconds.
+struct StrideRecord {
+  std::int32_t Side = kSideNone;
+  std::int32_t Number = 0;  // 1, 2, 3 ... for each side, in time order
+  float StartStrikeTime = 0;
+  float OppositeFootOffTime = 0;
+  float OppositeFootStrikeTime = 0;
+  float SameFootOffTime = 0;
+  float StopStrikeTime = 0;
+
+  friend bool operator==(const StrideRecord&, const StrideRecord&) = default;
+};
+
+struct EventFrameRecord {
+  std::int32_t Frame = 0;  // index of the frame, 1 = the file's first
+  std::int32_t Side = kSideNone;
+  std::int32_t Type = kTypeOther;
+
+  friend bool operator==(const EventFrameRecord&, const EventFrameRecord&) = default;
+};
+
+// What an open found in the file's events.
+struct GaitEventState {
+  std::int32_t TotalCount = 0;  // as the file states it, whatever the lists hold
+  std::int32_t SidedStrikeOffCount = 0;
+  std::int32_t SidedGeneralCount = 0;
+  std::int32_t NonSidedCount = 0;
+  modAllPurpose::OneBasedTable<EventRecord> SidedStrikeOffEvents;
+  modAllPurpose::OneBasedTable<EventRecord> SidedGeneralEvents;
+  modAllPurpose::OneBasedTable<EventRecord> NonSidedEvents;
+  std::int32_t ValidStrideCount = 0;
+  modAllPurpose::OneBasedTable<StrideRecord> ValidStrides;
+  std::int32_t StrideEventCount = 0;
+  modAllPurpose::OneBasedTable<EventRecord> StrideEvents;
+
+  friend bool operator==(const GaitEventState&, const GaitEventState&) = default;
+};
+
+}  // namespace modVantrel

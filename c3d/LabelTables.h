@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "c3d/FileState.h"
+
+// The tables of point and analog labels, filled once by an open.
+namespace modVantrel {
+
+// Takes UsesPrefixes and, where it is true, LabelPrefix from the SUBJECTS group. What the file does
+// not say keeps the value of the previous open.
+void ReadLabelPrefix(FileState& state);
+
+// `label` without `prefix` where it begins with it, ignoring case.
+std::string WithoutPrefix(std::string_view label, std::string_view prefix);
+
+// Sizes PointLabels to the header's count and fills it from POINT:LABELS; what is missing there
+// stays empty.
+void FillPointLabels(FileState& state);
+
+// Sizes AnalogLabels and AnalogDescriptions to the rounded channel count and fills them where the
+// file holds both parameters. Descriptions lose the prefix like labels.
+void FillAnalogLabels(FileState& state);
+
+}  // namespace modVantrel

@@ -1,0 +1,70 @@
+#include "cli/CommandLine.h"
+
+#include <algorithm>
+#include <iostream>
+
+#include <CLI/CLI.hpp>
+
+#include "Version.h"
+#include "cli/ReportTable.h"
+
+namespace cli {
+
+namespace {
+
+constexpr const char* kDescription =
+    "Prints reports of C3D motion-capture files on standard output, for scripts and batches.";
+
+constexpr const char* kFooter =
+    "\nExit status: 0 all well, 1 a file failed or its report was refused (the others are still "
+    "printed), 2 wrong usage.";
+
+void AddOptions(CLI::App& app, Request& request) {
+  app.add_option("--label", request.Label, "Point or analog label, in any case");
+  app.add_option("--group", request.Group, "Group of the parameter section");
+  app.add_option("--param", request.Param, "Parameter of that group");
+  app.add_option("REPORT", request.Report, "What to print: " + ReportNames(", "))
+      ->required()
+      ->check(CLI::Validator(
+          [](const std::string& name) {
+            return FindReport(name) != nullptr
+                       ? std::string()
+                       : "there is no report '" + name + "'; there are: " + ReportNames(", ");
+          },
+          ""));
+  app.add_option("FILE", request.Files, "C3D files")->required();
+}
+
+void CheckRequest(CLI::App& app, Request& request) {
+  request.HasGroup = app.count("--group") > 0;
+  request.HasParam = app.count("--param") > 0;
+  if (request.HasParam && !request.HasGroup) throw CLI::RequiresError("--param", "--group");
+  if (FindReport(request.Report)->NeedsLabel && app.count("--label") == 0) {
+    throw CLI::RequiresError("the report '" + request.Report + "'", "--label");
+  }
+}
+
+}  // namespace
+
+std::variant<Request, int> ParseCommandLine(std::vector<std::string> arguments) {
+  CLI::App app(kDescription, "vantrel-report");
+  app.footer(kFooter);
+  app.allow_windows_style_options(false);
+  app.set_version_flag("--version", std::string("vantrel-report ") + kVersion);
+  Request request;
+  AddOptions(app, request);
+  try {
+    std::ranges::reverse(arguments);  // the order in which the parser takes them
+    app.parse(std::move(arguments));
+    CheckRequest(app, request);
+    return request;
+  } catch (const CLI::Success& done) {
+    return app.exit(done);
+  } catch (const CLI::ParseError& error) {
+    std::cerr << "vantrel-report: " << error.what()
+              << "\nTry 'vantrel-report --help' for more information.\n";
+    return kUsageError;
+  }
+}
+
+}  // namespace cli

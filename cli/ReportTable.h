@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "c3d/FileState.h"
+#include "cli/CommandLine.h"
+#include "support/ReportOutput.h"
+
+namespace cli {
+
+using ReportFunction = modAllPurpose::ReportResult (*)(const modVantrel::FileState& state,
+                                                       const Request& request,
+                                                       modAllPurpose::ReportOutput& output);
+
+struct ReportEntry {
+  std::string_view Name;
+  ReportFunction Run;
+  bool NeedsLabel;
+};
+
+// The report of that name; null where there is none.
+const ReportEntry* FindReport(std::string_view name);
+
+// All names in the order of the help, with `separator` between them.
+std::string ReportNames(std::string_view separator);
+
+}  // namespace cli

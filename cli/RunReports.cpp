@@ -1,0 +1,75 @@
+#include "cli/RunReports.h"
+
+#include <cstdio>
+#include <new>
+#include <string>
+#include <string_view>
+
+#include <fmt/format.h>
+
+#include "c3d/OpenC3dFile.h"
+#include "cli/ReportTable.h"
+#include "cli/StandardOutput.h"
+#include "support/RuntimeError.h"
+
+namespace cli {
+
+using modAllPurpose::RuntimeError;
+
+namespace {
+
+void Complain(const std::string& file, std::string_view message) {
+  fmt::print(stderr, "vantrel-report: {}: {}\n", file, message);
+}
+
+void Complain(const std::string& file, const RuntimeError& error) {
+  Complain(file, fmt::format("{} {}", modAllPurpose::RuntimeErrorTitle(error), error.what()));
+}
+
+// Opens `file` and writes its report; answers with the message of a failed open or a refused input,
+// empty where all is well.
+std::string_view OpenAndReport(const std::string& file, const Request& request,
+                               StandardOutput& output) {
+  modVantrel::FileState state;
+  const auto opened = modVantrel::OpenC3dFile(state, file, [](modVantrel::FileState&) {});
+  if (opened != modVantrel::OpenResult::Success) return modVantrel::OpenFailureMessage(opened);
+  return FindReport(request.Report)->Run(state, request, output).Text();
+}
+
+bool Report(const std::string& file, const Request& request) {
+  const bool several = request.Files.size() > 1;
+  StandardOutput output(several ? fmt::format("==> {} <==", file) : std::string());
+  try {
+    std::string_view complaint;
+    try {
+      complaint = OpenAndReport(file, request, output);
+    } catch (const RuntimeError&) {
+      output.Flush();  // what the report had written stands
+      throw;
+    }
+    output.Flush();
+    if (!complaint.empty()) Complain(file, complaint);
+    return complaint.empty();
+  } catch (const RuntimeError& error) {
+    Complain(file, error);
+  } catch (const std::bad_alloc&) {
+    Complain(file, RuntimeError(modAllPurpose::ErrorNumber::OutOfMemory));
+  }
+  return false;
+}
+
+}  // namespace
+
+int RunReports(const Request& request) {
+  int status = kAllWell;
+  try {
+    for (const std::string& file : request.Files) {
+      if (!Report(file, request)) status = kSomeFailed;
+    }
+  } catch (const OutputClosed&) {
+    // Whoever read the output has seen enough.
+  }
+  return status;
+}
+
+}  // namespace cli

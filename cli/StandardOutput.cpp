@@ -1,0 +1,37 @@
+#include "cli/StandardOutput.h"
+
+#include <cerrno>
+#include <cstdio>
+
+#include "support/RuntimeError.h"
+
+namespace cli {
+
+namespace {
+
+constexpr std::size_t kPieceSize = 256 * 1024;
+
+}  // namespace
+
+void StandardOutput::BeginReport() {
+  if (!heading_.empty()) Line(heading_);
+}
+
+void StandardOutput::AppendOutput(std::string_view text, bool /*paneOnly*/, bool continueLine) {
+  pending_ += text;
+  if (!continueLine) pending_ += '\n';
+  if (pending_.size() >= kPieceSize) Flush();
+}
+
+void StandardOutput::Flush() {
+  std::string piece;
+  piece.swap(pending_);
+  errno = 0;
+  const bool written = std::fwrite(piece.data(), 1, piece.size(), stdout) == piece.size() &&
+                       std::fflush(stdout) == 0;
+  if (written) return;
+  if (errno == EPIPE) throw OutputClosed();
+  throw modAllPurpose::FileErrorFromErrno(errno);
+}
+
+}  // namespace cli

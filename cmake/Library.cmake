@@ -1,0 +1,10 @@
+# vantrel_library(NAME SOURCES ... LINKS ...): one layer of the program.
+#
+# Includes are written from the root of the tree ("c3d/ParamRecord.h"), so that each one shows the
+# layer it reaches into; LINKS names the layers below.
+function(vantrel_library name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  add_library(${name} STATIC ${ARG_SOURCES})
+  target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR}/generated)
+  target_link_libraries(${name} PUBLIC ${ARG_LINKS} PRIVATE vantrel_warnings)
+endfunction()

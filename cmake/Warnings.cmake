@@ -1,0 +1,10 @@
+# Every target is compiled with these warnings, each an error: a silent conversion changes numbers.
+add_library(vantrel_warnings INTERFACE)
+target_compile_options(vantrel_warnings INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wnon-virtual-dtor
+  -Woverloaded-virtual -Wold-style-cast -Wcast-align -Wdouble-promotion -Werror)
+
+if(VANTREL_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()

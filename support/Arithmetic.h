@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstdint>
+
+// The program's arithmetic: expressions are worked out in double precision, results are stored as
+// 32-bit floats, and a result that its type cannot hold is a run-time error instead of a wrong
+// number.
+namespace modAllPurposeNumbers {
+
+// `value` rounded to a 32-bit float. Error 6 when a finite value does not fit; infinities and NaN,
+// which can only come from the data themselves, pass.
+float ToSingle(double value);
+
+// dividend / divisor; error 11 when the divisor is 0.
+double Divide(double dividend, double divisor);
+
+// Signed 16-bit difference and sum; error 6 outside -32768..32767.
+std::int16_t SubtractIntegers(std::int16_t left, std::int16_t right);
+std::int16_t AddIntegers(std::int16_t left, std::int16_t right);
+
+// `value` as a signed 32-bit number; error 6 where it does not fit.
+std::int32_t ToLong(std::int64_t value);
+
+// `value` rounded to a whole number, halves to the even neighbour; error 6 where the result is not
+// a signed 32-bit number (NaN included).
+std::int32_t RoundToLong(double value);
+
+}  // namespace modAllPurposeNumbers

@@ -1,0 +1,145 @@
+#include "support/NumberForms.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <charconv>
+#include <cmath>
+#include <cstdint>
+#include <iterator>
+
+#include <fmt/format.h>
+
+namespace modAllPurposeNumbers {
+
+namespace {
+
+__extension__ using Wide = unsigned __int128;
+
+constexpr int kMantissaBits = 52;
+constexpr int kExponentBias = 1023;
+constexpr unsigned kExponentMask = 0x7FF;
+constexpr std::size_t kMostDecimals = 12;
+
+constexpr auto kPowersOfTen = [] {
+  std::array<std::uint64_t, kMostDecimals + 1> powers{};
+  std::uint64_t power = 1;
+  for (auto& entry : powers) {
+    entry = power;
+    power *= 10;
+  }
+  return powers;
+}();
+
+// The digits of a number before and, as a whole number, behind its decimal point.
+struct FixedDigits {
+  std::uint64_t Integer = 0;
+  std::uint64_t Decimals = 0;
+};
+
+// fraction / 2^bits in units of 10^-decimals, a tie rounded up. `fraction` is below 2^bits.
+std::uint64_t RoundedFraction(std::uint64_t fraction, int bits, std::uint64_t power) {
+  if (bits < 64 && fraction <= UINT64_MAX / power) {
+    const std::uint64_t scaled = fraction * power;
+    return (scaled >> bits) + ((scaled >> (bits - 1)) & 1U);
+  }
+  if (bits > 127) return 0;
+  const Wide scaled = Wide{fraction} * power;
+  return static_cast<std::uint64_t>((scaled >> bits) + ((scaled >> (bits - 1)) & 1U));
+}
+
+// Splits a finite magnitude below 2^53 into its digits, rounded to `decimals` places on the exact
+// value, ties away from zero.
+FixedDigits RoundedDigits(double magnitude, std::size_t decimals) {
+  const auto bits = std::bit_cast<std::uint64_t>(magnitude);
+  const auto exponent = static_cast<int>((bits >> kMantissaBits) & kExponentMask);
+  std::uint64_t mantissa = bits & ((std::uint64_t{1} << kMantissaBits) - 1);
+  if (exponent != 0) mantissa |= std::uint64_t{1} << kMantissaBits;
+  if (mantissa == 0) return {};
+  // magnitude = mantissa / 2^fractionBits, with the mantissa's trailing zeros taken out.
+  int fractionBits = kExponentBias + kMantissaBits - std::max(exponent, 1);
+  const int zeros = std::min(std::countr_zero(mantissa), fractionBits);
+  mantissa >>= zeros;
+  fractionBits -= zeros;
+  if (fractionBits == 0) return {mantissa, 0};
+
+  const std::uint64_t integer = fractionBits < 64 ? mantissa >> fractionBits : 0;
+  const std::uint64_t fraction =
+      fractionBits < 64 ? mantissa - (integer << fractionBits) : mantissa;
+  const std::uint64_t power = kPowersOfTen[decimals];
+  const std::uint64_t rounded = RoundedFraction(fraction, fractionBits, power);
+  return rounded == power ? FixedDigits{integer + 1, 0} : FixedDigits{integer, rounded};
+}
+
+// Appends `number` with at least `width` digits.
+void AppendDigits(std::string& text, std::uint64_t number, std::size_t width) {
+  std::array<char, 24> digits{};
+  auto first = digits.end();
+  while (number != 0) {
+    *--first = static_cast<char>('0' + number % 10);
+    number /= 10;
+  }
+  const auto count = static_cast<std::size_t>(std::distance(first, digits.end()));
+  if (count < width) text.append(width - count, '0');
+  text.append(first, digits.end());
+}
+
+void AppendDecimals(std::string& text, std::uint64_t decimals, const NumberPattern& pattern) {
+  std::size_t places = pattern.MostDecimals();
+  while (places > pattern.LeastDecimals() && decimals % 10 == 0) {
+    decimals /= 10;
+    --places;
+  }
+  if (places == 0) return;
+  text += '.';
+  AppendDigits(text, decimals, places);
+}
+
+// Appends "NaN", "Inf" or "-Inf" and answers true where `value` is one of them.
+bool AppendNonFinite(std::string& text, double value) {
+  if (std::isfinite(value)) return false;
+  if (std::isnan(value)) {
+    text += "NaN";
+  } else {
+    text += value < 0 ? "-Inf" : "Inf";
+  }
+  return true;
+}
+
+}  // namespace
+
+void AppendNumber(std::string& text, const NumberPattern& pattern, double value) {
+  if (AppendNonFinite(text, value)) return;
+  if (value < 0) text += '-';
+  text.append(pattern.LeadingBlanks(), ' ');
+  const double magnitude = std::fabs(value);
+  constexpr double kAllWholeFromHere = 9007199254740992.0;  // 2^53
+  if (magnitude >= kAllWholeFromHere) {
+    fmt::format_to(std::back_inserter(text), "{:.0f}", magnitude);
+    AppendDecimals(text, 0, pattern);
+    return;
+  }
+  const FixedDigits digits = RoundedDigits(magnitude, pattern.MostDecimals());
+  AppendDigits(text, digits.Integer, pattern.LeastIntegerDigits());
+  AppendDecimals(text, digits.Decimals, pattern);
+}
+
+std::string FormatNumber(const NumberPattern& pattern, double value) {
+  std::string text;
+  AppendNumber(text, pattern, value);
+  return text;
+}
+
+std::string GeneralForm(float value) {
+  std::string text;
+  if (AppendNonFinite(text, double{value})) return text;
+  constexpr int kSignificantDigits = 7;
+  std::array<char, 32> digits{};
+  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), double{value},
+                                 std::chars_format::general, kSignificantDigits);
+  text.assign(digits.data(), end.ptr);
+  std::replace(text.begin(), text.end(), 'e', 'E');
+  return text;
+}
+
+}  // namespace modAllPurposeNumbers

@@ -1,0 +1,10 @@
+#include "support/ReportOutput.h"
+
+namespace modAllPurpose {
+
+void TextReport::AppendOutput(std::string_view text, bool /*paneOnly*/, bool continueLine) {
+  text_ += text;
+  if (!continueLine) text_ += '\n';
+}
+
+}  // namespace modAllPurpose

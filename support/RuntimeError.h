@@ -1,0 +1,58 @@
+#pragma once
+
+#include <exception>
+#include <string>
+
+namespace modAllPurpose {
+
+// The numbered errors that end a command. Each number has one fixed description.
+enum class ErrorNumber {
+  Overflow = 6,
+  OutOfMemory = 7,
+  SubscriptOutOfRange = 9,
+  DivisionByZero = 11,
+  FileNotFound = 53,
+  DeviceIoError = 57,
+  DiskFull = 61,
+  InputPastEndOfFile = 62,
+  BadRecordNumber = 63,
+  PermissionDenied = 70,
+  PathFileAccessError = 75,
+  PathNotFound = 76,
+  ObjectVariableNotSet = 91,
+};
+
+// Thrown where an error happens and caught only where a command promises to ignore it; anywhere
+// else it travels to the window or the tool, which shows it.
+class RuntimeError : public std::exception {
+ public:
+  explicit RuntimeError(ErrorNumber number) noexcept : number_(number) {}
+
+  ErrorNumber Number() const noexcept { return number_; }
+
+  // The description alone, for example "Subscript out of range".
+  const char* what() const noexcept override;
+
+ private:
+  ErrorNumber number_;
+};
+
+// "Run-time error '9':", the first line of every message about an error.
+std::string RuntimeErrorTitle(const RuntimeError& error);
+
+// The error for an errno value that making, opening, writing or renaming a file left behind.
+RuntimeError FileErrorFromErrno(int systemError);
+
+// Runs `work` and swallows a RuntimeError; returns whether it ran to its end. Other exceptions
+// pass.
+template <typename Work>
+bool IgnoringErrors(Work&& work) {
+  try {
+    work();
+    return true;
+  } catch (const RuntimeError&) {
+    return false;
+  }
+}
+
+}  // namespace modAllPurpose

@@ -1,0 +1,94 @@
+#include "support/Text.h"
+
+#include <algorithm>
+#include <array>
+
+namespace modAllPurpose {
+
+namespace {
+
+// Code points of the Windows-1252 bytes 0x80 to 0x9F; all other bytes are their own code point.
+constexpr std::array<char16_t, 32> kHighControls = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+constexpr char16_t CodePoint(unsigned char byte) {
+  return byte >= 0x80 && byte <= 0x9F ? kHighControls[byte - 0x80U] : byte;
+}
+
+void AppendUtf8(char16_t codePoint, std::string& text) {
+  const unsigned code = codePoint;
+  if (code < 0x80) {
+    text += static_cast<char>(code);
+  } else if (code < 0x800) {
+    text += static_cast<char>(0xC0U | (code >> 6U));
+    text += static_cast<char>(0x80U | (code & 0x3FU));
+  } else {
+    text += static_cast<char>(0xE0U | (code >> 12U));
+    text += static_cast<char>(0x80U | ((code >> 6U) & 0x3FU));
+    text += static_cast<char>(0x80U | (code & 0x3FU));
+  }
+}
+
+// Upper-cases the two-byte UTF-8 character at `lead`, `trail`. The letters outside ASCII that
+// Windows-1252 holds in both cases all take two bytes in either case.
+void UpperCaseTwoBytes(char& lead, char& trail) {
+  const auto first = static_cast<unsigned char>(lead);
+  const auto second = static_cast<unsigned char>(trail);
+  if (first == 0xC3 && second >= 0xA0 && second <= 0xBE && second != 0xB7) {  // U+00E0..U+00FE
+    trail = static_cast<char>(second - 0x20);
+  } else if (first == 0xC3 && second == 0xBF) {  // U+00FF, whose capital is U+0178
+    lead = static_cast<char>(0xC5);
+    trail = static_cast<char>(0xB8);
+  } else if (first == 0xC5 && (second == 0x93 || second == 0xA1 || second == 0xBE)) {  // oe, s, z
+    trail = static_cast<char>(second - 1);
+  }
+}
+
+}  // namespace
+
+std::string& TrimInPlace(std::string& text) {
+  text.erase(text.find_last_not_of(' ') + 1);
+  text.erase(0, text.find_first_not_of(' '));
+  return text;
+}
+
+std::string_view Trimmed(std::string_view text) {
+  const auto first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+std::string UpperCase(std::string_view text) {
+  std::string upper(text);
+  for (std::size_t i = 0; i < upper.size(); ++i) {
+    const auto byte = static_cast<unsigned char>(upper[i]);
+    if (byte >= 'a' && byte <= 'z') {
+      upper[i] = static_cast<char>(byte - 0x20);
+    } else if ((byte == 0xC3 || byte == 0xC5) && i + 1 < upper.size()) {
+      UpperCaseTwoBytes(upper[i], upper[i + 1]);
+      ++i;
+    }
+  }
+  return upper;
+}
+
+std::string_view StripAtNul(std::string_view text) { return text.substr(0, text.find('\0')); }
+
+std::string PadRightToWidth(std::string_view text, std::int32_t width) {
+  const auto wanted = static_cast<std::size_t>(std::max(width, 0));
+  const auto lengthWithoutTrailingBlanks = text.find_last_not_of(' ') + 1;
+  std::string padded(text);
+  if (lengthWithoutTrailingBlanks <= wanted) padded.resize(wanted, ' ');
+  return padded;
+}
+
+std::string FromWindows1252(std::span<const std::byte> bytes) {
+  std::string text;
+  text.reserve(bytes.size());
+  for (const std::byte byte : bytes) AppendUtf8(CodePoint(static_cast<unsigned char>(byte)), text);
+  return text;
+}
+
+}  // namespace modAllPurpose

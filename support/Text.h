@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+
+// All texts inside the program are UTF-8; the only exception are bytes on their way in.
+namespace modAllPurpose {
+
+// Removes the blanks (character 32, nothing else) at both ends of `text` and returns it.
+std::string& TrimInPlace(std::string& text);
+
+// `text` without the blanks at its ends.
+std::string_view Trimmed(std::string_view text);
+
+// The upper case of the letters that Windows-1252 holds in both cases, one to one; every other
+// character stays, so the result has as many bytes as `text`.
+std::string UpperCase(std::string_view text);
+
+// The text before the first NUL character, or all of it.
+std::string_view StripAtNul(std::string_view text);
+
+// `text` brought to `width` characters by adding blanks or dropping trailing ones; a text that is
+// longer without its trailing blanks comes back unchanged. For ASCII texts: a byte is a character.
+std::string PadRightToWidth(std::string_view text, std::int32_t width);
+
+// Windows-1252 bytes as UTF-8. The five codes that the code page leaves open keep their number.
+std::string FromWindows1252(std::span<const std::byte> bytes);
+
+}  // namespace modAllPurpose

@@ -1,0 +1,30 @@
+#!/usr/bin/env bash
+# Sets up, builds and runs every test: the optimised build in the plain and in a comma locale, and
+# the core under the sanitizers. Without arguments it does all of that; with the name of a preset
+# (release, debug, asan) only that build.
+set -euo pipefail
+cd "$(dirname "$0")"
+
+build_and_test() {
+  cmake --preset "$1"
+  cmake --build --preset "$1"
+  ctest --preset "$1" --parallel 2
+}
+
+# A locale whose decimal sign is a comma, made here so that none has to be installed.
+test_under_comma_locale() {
+  local folder=$PWD/build/locales
+  mkdir -p "$folder"
+  [ -d "$folder/de_DE.UTF-8" ] || localedef -i de_DE -f UTF-8 "$folder/de_DE.UTF-8"
+  LOCPATH=$folder LC_ALL=de_DE.UTF-8 ctest --preset release --parallel 2
+}
+
+./setup.sh
+if [ $# -gt 0 ]; then
+  build_and_test "$1"
+  exit
+fi
+tests/check_format.sh
+build_and_test release
+test_under_comma_locale
+build_and_test asan

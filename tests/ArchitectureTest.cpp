@@ -1,0 +1,113 @@
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <regex>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path kRoot = VANTREL_SOURCE_DIR;
+
+// The folders of the program and the ones each may include from, itself aside.
+const std::map<std::string, std::vector<std::string>> kMayInclude = {
+    {"support", {}},
+    {"c3d", {"support"}},
+    {"gait", {"support", "c3d"}},
+    {"deploy", {"support"}},
+    {"app/reports", {"support", "c3d", "gait"}},
+    {"app", {"support", "c3d", "gait", "deploy", "app/reports"}},
+    {"cli", {"support", "c3d", "gait", "app/reports"}},
+    {"sample", {"support", "c3d"}},
+};
+
+const std::vector<std::string> kMayUseQt = {"app", "support/modMsgBoxPlus"};
+
+struct Include {
+  std::string File;    // from the root of the tree
+  std::string Target;  // as written
+  bool Quoted;
+};
+
+std::vector<Include> IncludesOf(const fs::path& file) {
+  static const std::regex kInclude(R"re(^\s*#\s*include\s*([<"])([^>"]+)[>"])re");
+  std::vector<Include> includes;
+  std::ifstream text(file);
+  for (std::string line; std::getline(text, line);) {
+    std::smatch match;
+    if (std::regex_search(line, match, kInclude)) {
+      includes.push_back({fs::relative(file, kRoot).generic_string(), match[2], match[1] == "\""});
+    }
+  }
+  return includes;
+}
+
+// The includes of the sources that stand in `folder` itself.
+std::vector<Include> IncludesIn(const std::string& folder) {
+  std::vector<Include> includes;
+  if (!fs::is_directory(kRoot / folder)) return includes;
+  for (const auto& entry : fs::directory_iterator(kRoot / folder)) {
+    const auto extension = entry.path().extension();
+    if (extension != ".cpp" && extension != ".h") continue;
+    for (Include& include : IncludesOf(entry.path())) includes.push_back(std::move(include));
+  }
+  return includes;
+}
+
+// The folder of the program that a quoted include reaches into; empty for a generated header.
+std::string FolderOf(const std::string& target) {
+  const auto slash = target.rfind('/');
+  return slash == std::string::npos ? std::string() : target.substr(0, slash);
+}
+
+bool MayUseQt(const std::string& file) {
+  if (file.starts_with("app/reports/")) return false;
+  return std::ranges::any_of(kMayUseQt, [&](const auto& place) { return file.starts_with(place); });
+}
+
+bool IsQtHeader(const std::string& target) {
+  static const std::regex kQt(R"(^(Q[A-Z]|Qt|Qsci))");
+  return std::regex_search(target, kQt);
+}
+
+TEST(Architecture, EveryFolderIncludesFromTheLayersBelowOnly) {
+  std::size_t checked = 0;
+  for (const auto& [folder, below] : kMayInclude) {
+    for (const Include& include : IncludesIn(folder)) {
+      if (!include.Quoted || FolderOf(include.Target).empty()) continue;
+      ++checked;
+      const std::string target = FolderOf(include.Target);
+      EXPECT_TRUE(target == folder || std::ranges::find(below, target) != below.end())
+          << include.File << " includes " << include.Target;
+    }
+  }
+  EXPECT_GT(checked, 0U);
+}
+
+TEST(Architecture, OnlyTheWindowUsesQt) {
+  for (const auto& [folder, below] : kMayInclude) {
+    for (const Include& include : IncludesIn(folder)) {
+      if (IsQtHeader(include.Target)) {
+        EXPECT_TRUE(MayUseQt(include.File)) << include.File << " includes " << include.Target;
+      }
+    }
+  }
+}
+
+TEST(Architecture, EverySourceFolderOfTheTreeIsKnown) {
+  for (const auto& entry : fs::recursive_directory_iterator(kRoot)) {
+    const std::string file = fs::relative(entry.path(), kRoot).generic_string();
+    if (entry.path().extension() != ".cpp" || file.starts_with("build/")) continue;
+    if (file.starts_with("tests/") || file.starts_with("bench/") || file.starts_with("fuzz/")) {
+      continue;
+    }
+    EXPECT_TRUE(kMayInclude.contains(FolderOf(file))) << file << " stands in no known layer";
+  }
+}
+
+}  // namespace

@@ -1,0 +1,44 @@
+#include "tests/TestTrials.h"
+
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <sstream>
+
+namespace tests {
+
+TemporaryFolder::TemporaryFolder() {
+  std::random_device random;
+  std::ostringstream name;
+  name << "vantrel-test-" << std::hex << random() << random();
+  path_ = std::filesystem::temp_directory_path() / name.str();
+  std::filesystem::create_directory(path_);
+}
+
+TemporaryFolder::~TemporaryFolder() {
+  std::error_code ignored;
+  std::filesystem::remove_all(path_, ignored);
+}
+
+OpenedTrial::OpenedTrial(const sample::Trial& trial) : file_(folder_ / "trial.c3d") {
+  trial.WriteTo(file_);
+  result_ = modVantrel::OpenC3dFile(state_, file_.string(), NoEvents);
+}
+
+void NoEvents(modVantrel::FileState& /*state*/) {}
+
+int ErrorNumberOf(const std::function<void()>& work) {
+  try {
+    work();
+    return 0;
+  } catch (const modAllPurpose::RuntimeError& error) {
+    return static_cast<int>(error.Number());
+  }
+}
+
+std::string ReadWholeFile(const std::filesystem::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+}  // namespace tests
