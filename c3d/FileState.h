@@ -6,6 +6,7 @@
 #include "c3d/BinaryFile.h"
 #include "c3d/C3dHeader.h"
 #include "c3d/GaitEvents.h"
+#include "c3d/MacDataFile.h"
 #include "support/OneBasedTable.h"
 
 namespace modVantrel {
@@ -43,10 +44,15 @@ struct FileState {
   // The open file. Reading moves its position and changes nothing else of the state.
   mutable BinaryFile C3dFileNumber;
 
-  // Paths of the side files that one motion system writes; empty for every other.
+  // The side files that one motion system writes; empty for every other.
   std::string EvtFileSpec;
   std::string DataFileSpec;
+  MacDataFile MacData;
 };
+
+// `time` (seconds) moved into the capture: not below 0, then not before its start, then not behind
+// its end. A time that is not a number stays.
+float ClampToWalk(const FileState& state, float time);
 
 // Closes the file and forgets what was read from its side files. The other fields stay.
 void CloseC3dFile(FileState& state) noexcept;

@@ -4,13 +4,17 @@
 #include <cmath>
 
 #include "c3d/LabelTables.h"
+#include "c3d/MacSideFiles.h"
+#include "c3d/MotionSystem.h"
 #include "c3d/ParameterSection.h"
 #include "c3d/StoredNumbers.h"
 #include "support/Arithmetic.h"
+#include "support/FileSystem.h"
 #include "support/RuntimeError.h"
 
 namespace modVantrel {
 
+using modAllPurpose::FileExists;
 using modAllPurpose::IgnoringErrors;
 using modAllPurposeNumbers::AddIntegers;
 using modAllPurposeNumbers::Divide;
@@ -20,8 +24,15 @@ using modAllPurposeNumbers::ToSingle;
 namespace {
 
 OpenResult OpenForReading(FileState& state) {
-  const bool opened = IgnoringErrors([&state] { state.C3dFileNumber.Open(state.OpenC3dFileSpec); });
-  return opened ? OpenResult::Success : OpenResult::FileNotOpened;
+  const bool opened = IgnoringErrors([&state] {
+    state.C3dFileNumber.Open(state.OpenC3dFileSpec);
+    if constexpr (giTypeOfMotionSystem == MotionSystem::Mac) {
+      state.MacData.SideFileNumber.Open(state.DataFileSpec);
+    }
+  });
+  if (!opened) return OpenResult::FileNotOpened;
+  if constexpr (giTypeOfMotionSystem == MotionSystem::Mac) ReadMacDataFile(state.MacData);
+  return OpenResult::Success;
 }
 
 OpenResult ReadHeader(FileState& state) {
@@ -151,10 +162,18 @@ std::string_view OpenFailureMessage(OpenResult result) {
 
 OpenResult OpenC3dFile(FileState& state, const std::string& fileSpec,
                        const EventSteps& findEvents) {
+  SideFileSpecs sideFiles;
+  if constexpr (giTypeOfMotionSystem == MotionSystem::Mac) {
+    sideFiles = SideFilesOf(fileSpec);
+    if (!FileExists(sideFiles.Evt) || !FileExists(sideFiles.Data)) {
+      CloseC3dFile(state);
+      return OpenResult::SideFilesMissing;
+    }
+  }
   CloseC3dFile(state);
   state.OpenC3dFileSpec = fileSpec;
-  state.EvtFileSpec.clear();
-  state.DataFileSpec.clear();
+  state.EvtFileSpec = sideFiles.Evt;
+  state.DataFileSpec = sideFiles.Data;
   try {
     const OpenResult result = RunSteps(state);
     if (result != OpenResult::Success) {

@@ -23,6 +23,15 @@ void AddOptions(CLI::App& app, Request& request) {
   app.add_option("--label", request.Label, "Point or analog label, in any case");
   app.add_option("--group", request.Group, "Group of the parameter section");
   app.add_option("--param", request.Param, "Parameter of that group");
+  app.add_flag("--events", request.Events, "Name the stride events in a point or analog listing");
+  app.add_option("--output-dir", request.Gcd.OutputFolder,
+                 "Folder for GCD files, instead of the trial's own");
+  app.add_flag("--overwrite", request.Overwrite, "Let gcd replace existing files");
+  app.add_option("--gender", request.Gcd.Subject.Gender, "Gender in the header of GCD files");
+  app.add_option("--date-of-birth", request.Gcd.Subject.DateOfBirth,
+                 "Date of birth (YYYY-MM-DD) for the age in GCD files");
+  app.add_option("--visit-date", request.Gcd.Subject.VisitDate,
+                 "Date of the visit (YYYY-MM-DD) for the age in GCD files");
   app.add_option("REPORT", request.Report, "What to print: " + ReportNames(", "))
       ->required()
       ->check(CLI::Validator(

@@ -4,6 +4,8 @@
 #include <variant>
 #include <vector>
 
+#include "gait/GcdCommand.h"
+
 namespace cli {
 
 // What the user asked for.
@@ -15,6 +17,9 @@ struct Request {
   std::string Param;
   bool HasParam = false;
   bool HasGroup = false;
+  bool Events = false;
+  bool Overwrite = false;
+  modVantrel::GcdOptions Gcd;
 };
 
 // The exit statuses of the tool.

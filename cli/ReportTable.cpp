@@ -7,12 +7,17 @@
 #include "app/reports/ListingReport.h"
 #include "app/reports/NavigationTree.h"
 #include "app/reports/ParameterReport.h"
+#include "gait/GcdCommand.h"
+#include "gait/MeasuresReport.h"
+#include "gait/NormalizedReport.h"
+#include "gait/StrikeOffReport.h"
 
 namespace cli {
 
 using modAllPurpose::ReportOutput;
 using modAllPurpose::ReportResult;
 using modVantrel::FileState;
+using modVantrel::OverwriteAnswer;
 
 namespace {
 
@@ -34,12 +39,58 @@ ReportResult Parameters(const FileState& state, const Request& request, ReportOu
   return ReportResult::Written();
 }
 
+ReportResult Point(const FileState& state, const Request& request, ReportOutput& output) {
+  return request.Events ? reports::ShowPointDataWithEvents(state, request.Label, output)
+                        : reports::ShowPointData(state, request.Label, output);
+}
+
+ReportResult Analog(const FileState& state, const Request& request, ReportOutput& output) {
+  return request.Events ? reports::ShowAnalogDataWithEvents(state, request.Label, output)
+                        : reports::ShowAnalogData(state, request.Label, output);
+}
+
+ReportResult Normalized(const FileState& state, const Request& request, ReportOutput& output) {
+  return modVantrel::ShowNormalized(state, request.Label, output);
+}
+
+// Answers for the user as the command line says.
+class OverwriteOption : public modVantrel::OverwriteQuestion {
+ public:
+  explicit OverwriteOption(bool overwrite) : overwrite_(overwrite) {}
+
+  OverwriteAnswer Ask(const std::string& gcdFileName) override {
+    if (overwrite_) return OverwriteAnswer::YesToAll;
+    refused_ = gcdFileName;
+    return OverwriteAnswer::Cancel;
+  }
+
+  // The existing file that was not overwritten; empty where there was none.
+  const std::string& Refused() const { return refused_; }
+
+ private:
+  bool overwrite_;
+  std::string refused_;
+};
+
+ReportResult Gcd(const FileState& state, const Request& request, ReportOutput& output) {
+  OverwriteOption overwrite(request.Overwrite);
+  const ReportResult result = modVantrel::WriteGcdFiles(state, request.Gcd, overwrite, output);
+  if (overwrite.Refused().empty()) return result;
+  return ReportResult::Rejected("a GCD file exists already; --overwrite replaces it");
+}
+
 constexpr std::array kReports = {
     ReportEntry{"header", Plain<reports::ShowHeaderInfo>, false},
     ReportEntry{"parameter-header", Plain<reports::ShowParameterHeader>, false},
     ReportEntry{"groups", Plain<reports::ShowAllGroups>, false},
     ReportEntry{"parameters", Parameters, false},
     ReportEntry{"labels", Plain<reports::ShowPointLabels>, false},
+    ReportEntry{"point", Point, true},
+    ReportEntry{"analog", Analog, true},
+    ReportEntry{"events", Plain<modVantrel::ShowStrikeOffEvents>, false},
+    ReportEntry{"measures", Plain<modVantrel::ShowSingleValueStrikeOffMeasures>, false},
+    ReportEntry{"normalized", Normalized, true},
+    ReportEntry{"gcd", Gcd, false},
     ReportEntry{"tree", Plain<reports::ShowTree>, false},
 };
 

@@ -10,6 +10,7 @@
 #include "c3d/OpenC3dFile.h"
 #include "cli/ReportTable.h"
 #include "cli/StandardOutput.h"
+#include "gait/EventExtraction.h"
 #include "support/RuntimeError.h"
 
 namespace cli {
@@ -31,7 +32,7 @@ void Complain(const std::string& file, const RuntimeError& error) {
 std::string_view OpenAndReport(const std::string& file, const Request& request,
                                StandardOutput& output) {
   modVantrel::FileState state;
-  const auto opened = modVantrel::OpenC3dFile(state, file, [](modVantrel::FileState&) {});
+  const auto opened = modVantrel::OpenC3dFile(state, file, modVantrel::FindGaitEvents);
   if (opened != modVantrel::OpenResult::Success) return modVantrel::OpenFailureMessage(opened);
   return FindReport(request.Report)->Run(state, request, output).Text();
 }

@@ -2,7 +2,7 @@
 add_library(vantrel_warnings INTERFACE)
 target_compile_options(vantrel_warnings INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wnon-virtual-dtor
-  -Woverloaded-virtual -Wold-style-cast -Wcast-align -Wdouble-promotion -Werror)
+  -Woverloaded-virtual -Wold-style-cast -Wcast-align -Werror)
 
 if(VANTREL_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)

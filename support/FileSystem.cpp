@@ -1,8 +1,74 @@
 #include "support/FileSystem.h"
 
+#include <cerrno>
+#include <cstdio>
+#include <random>
 #include <system_error>
+#include <utility>
+
+#include <fmt/format.h>
+
+#include "support/RuntimeError.h"
 
 namespace modAllPurpose {
+
+namespace {
+
+std::FILE* CreateNew(const std::filesystem::path& path) {
+#ifdef _WIN32
+  return _wfopen(path.c_str(), L"wbx");
+#else
+  return std::fopen(path.c_str(), "wbx");
+#endif
+}
+
+// A file of a new name in a folder, removed again unless it takes another's place.
+class TemporaryFile {
+ public:
+  explicit TemporaryFile(const std::filesystem::path& folder) {
+    constexpr int kAttempts = 100;
+    std::random_device random;
+    for (int i = 0; i < kAttempts && file_ == nullptr; ++i) {
+      path_ = folder / fmt::format(".vantrel-{:08x}.tmp", random());
+      errno = 0;
+      file_ = CreateNew(path_);
+      if (file_ == nullptr && errno != EEXIST) break;
+    }
+    if (file_ == nullptr) throw FileErrorFromErrno(errno);
+  }
+  TemporaryFile(const TemporaryFile&) = delete;
+  TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+  ~TemporaryFile() {
+    if (file_ != nullptr) std::fclose(file_);
+    std::error_code ignored;
+    if (!path_.empty()) std::filesystem::remove(path_, ignored);
+  }
+
+  const std::filesystem::path& Path() const { return path_; }
+
+  void Write(std::string_view text) {
+    errno = 0;
+    const bool written = std::fwrite(text.data(), 1, text.size(), file_) == text.size();
+    const int writeError = errno;
+    const bool closed = std::fclose(std::exchange(file_, nullptr)) == 0;
+    if (!written) throw FileErrorFromErrno(writeError);
+    if (!closed) throw FileErrorFromErrno(errno);
+  }
+
+  void TakePlaceOf(const std::filesystem::path& target) {
+    std::error_code failure;
+    std::filesystem::rename(path_, target, failure);
+    if (failure) throw FileErrorFromErrno(failure.default_error_condition().value());
+    path_.clear();
+  }
+
+ private:
+  std::filesystem::path path_;
+  std::FILE* file_ = nullptr;
+};
+
+}  // namespace
 
 std::filesystem::path NativePath(const std::string& utf8Path) {
 #ifdef _WIN32
@@ -12,10 +78,31 @@ std::filesystem::path NativePath(const std::string& utf8Path) {
 #endif
 }
 
+std::string Utf8Path(const std::filesystem::path& nativePath) {
+#ifdef _WIN32
+  const std::u8string text = nativePath.u8string();
+  return {text.begin(), text.end()};
+#else
+  return nativePath.string();
+#endif
+}
+
 bool FileExists(const std::string& path) {
   std::error_code failure;
   const auto status = std::filesystem::status(NativePath(path), failure);
   return !failure && std::filesystem::exists(status) && !std::filesystem::is_directory(status);
+}
+
+void WriteFileInOneStep(const std::string& path, std::string_view text) {
+  namespace fs = std::filesystem;
+  const fs::path target = NativePath(path);
+  TemporaryFile temporary(target.parent_path());
+  temporary.Write(text);
+  std::error_code ignored;
+  if (fs::exists(target, ignored)) {
+    fs::permissions(temporary.Path(), fs::status(target, ignored).permissions(), ignored);
+  }
+  temporary.TakePlaceOf(target);
 }
 
 }  // namespace modAllPurpose

@@ -142,4 +142,12 @@ std::string GeneralForm(float value) {
   return text;
 }
 
+double LeadingNumber(std::string_view text) {
+  text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+  if (text.starts_with('+')) text.remove_prefix(1);
+  double number = 0;
+  const auto parsed = std::from_chars(text.data(), text.data() + text.size(), number);
+  return parsed.ec == std::errc() && std::isfinite(number) ? number : 0.0;
+}
+
 }  // namespace modAllPurposeNumbers

@@ -57,4 +57,7 @@ std::string FormatNumber(const NumberPattern& pattern, double value);
 // small: 120, 0.008333334, -1, 1E+07.
 std::string GeneralForm(float value);
 
+// The number that `text` begins with, blanks in front of it aside; 0 where it begins with none.
+double LeadingNumber(std::string_view text);
+
 }  // namespace modAllPurposeNumbers

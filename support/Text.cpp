@@ -84,6 +84,18 @@ std::string PadRightToWidth(std::string_view text, std::int32_t width) {
   return padded;
 }
 
+std::string_view WithoutExtension(std::string_view path) {
+  constexpr int kExtensionLength = 4;
+  const auto isContinuation = [](char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
+  };
+  for (int i = 0; i < kExtensionLength && !path.empty(); ++i) {
+    while (path.size() > 1 && isContinuation(path.back())) path.remove_suffix(1);
+    path.remove_suffix(1);
+  }
+  return path;
+}
+
 std::string FromWindows1252(std::span<const std::byte> bytes) {
   std::string text;
   text.reserve(bytes.size());

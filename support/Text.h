@@ -26,6 +26,9 @@ std::string_view StripAtNul(std::string_view text);
 // longer without its trailing blanks comes back unchanged. For ASCII texts: a byte is a character.
 std::string PadRightToWidth(std::string_view text, std::int32_t width);
 
+// `path` without its last four characters, the dot and three letters of its extension.
+std::string_view WithoutExtension(std::string_view path);
+
 // Windows-1252 bytes as UTF-8. The five codes that the code page leaves open keep their number.
 std::string FromWindows1252(std::span<const std::byte> bytes);
 

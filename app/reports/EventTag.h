@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace reports {
+
+// The tag column of a frame without an event, and of a frame's later samples.
+inline constexpr std::string_view kNoEventTag = "                 ";
+
+// The tag column of a listing with events. One object serves a whole listing.
+class EventTag {
+ public:
+  // The tag of the next frame. An event without a side goes on from the tag of the frame before.
+  // Valid until the next call.
+  std::string_view For(std::int32_t eventType, std::int32_t eventSide);
+
+ private:
+  std::string tag_;
+};
+
+}  // namespace reports

@@ -1,0 +1,109 @@
+#include "gait/EventExtraction.h"
+
+#include <string>
+
+#include "c3d/ParameterSection.h"
+#include "gait/EventSource.h"
+#include "gait/MacEvents.h"
+#include "gait/ValidStrides.h"
+#include "support/RuntimeError.h"
+#include "support/Text.h"
+
+namespace modVantrel {
+
+using modAllPurpose::IgnoringErrors;
+using modAllPurpose::OneBasedTable;
+using modAllPurpose::UpperCase;
+
+namespace {
+
+// The four parameters of the EVENT group.
+struct EventParams {
+  ParamRecord Used;
+  ParamRecord Contexts;
+  ParamRecord Labels;
+  ParamRecord Times;
+
+  std::string Context(std::int32_t i) const {
+    return UpperCase(Contexts.TextValues.At(ElementAt(i)));
+  }
+  std::string Label(std::int32_t i) const { return UpperCase(Labels.TextValues.At(ElementAt(i))); }
+  // The second value of the event's pair. The minutes in front of it are not taken.
+  float Seconds(std::int32_t i) const { return Times.SingleValues.At(ElementAt(2, i)); }
+};
+
+EventParams FindEventParams(const FileState& state) {
+  return {FindGroupAndParam(state, "EVENT", "USED").Param,
+          FindGroupAndParam(state, "EVENT", "CONTEXTS").Param,
+          FindGroupAndParam(state, "EVENT", "LABELS").Param,
+          FindGroupAndParam(state, "EVENT", "TIMES").Param};
+}
+
+std::int32_t SideOf(const std::string& context) {
+  if (context == "LEFT") return kSideLeft;
+  if (context == "RIGHT") return kSideRight;
+  return kSideNone;
+}
+
+std::int32_t TypeOf(const std::string& label) {
+  if (label == "FOOT STRIKE") return kTypeFootStrike;
+  if (label == "FOOT OFF") return kTypeFootOff;
+  return kTypeOther;
+}
+
+// The list that an event of that side and type belongs to, and its count.
+struct EventList {
+  std::int32_t& Count;
+  OneBasedTable<EventRecord>& Events;
+};
+
+EventList ListFor(GaitEventState& events, std::int32_t side, std::int32_t type) {
+  if (side == kSideNone) return {events.NonSidedCount, events.NonSidedEvents};
+  if (type == kTypeOther) return {events.SidedGeneralCount, events.SidedGeneralEvents};
+  return {events.SidedStrikeOffCount, events.SidedStrikeOffEvents};
+}
+
+void FillEventLists(FileState& state, const EventParams& params) {
+  GaitEventState& events = state.GaitEvents;
+  for (std::int32_t i = 1; i <= events.TotalCount; ++i) {
+    const std::int32_t side = SideOf(params.Context(i));
+    const std::int32_t type = TypeOf(params.Label(i));
+    const EventList list = ListFor(events, side, type);
+    list.Events.Append({side, type, ClampToWalk(state, params.Seconds(i))});
+    ++list.Count;
+  }
+}
+
+void ExtractFromParams(FileState& state) {
+  const EventParams params = FindEventParams(state);
+  GaitEventState& events = state.GaitEvents;
+  IgnoringErrors([&] { events.TotalCount = params.Used.IntegerValues.At(FirstElement()); });
+  if (events.TotalCount == 0) return;
+  const bool complete = IgnoringErrors([&] {
+    FillEventLists(state, params);
+    FindValidStrides(state);
+  });
+  if (!complete) events = {};
+}
+
+void ExtractFromSideFile(FileState& state) {
+  if (AppendMacEvents(state)) FindValidStrides(state);
+}
+
+}  // namespace
+
+void ExtractGaitEvents(FileState& state) {
+  state.GaitEvents = {};
+  if constexpr (kEventSource == EventSource::EventFile) {
+    ExtractFromSideFile(state);
+  } else {
+    ExtractFromParams(state);
+  }
+}
+
+void FindGaitEvents(FileState& state) {
+  ExtractGaitEvents(state);
+  TagStrideEventFrames(state);
+}
+
+}  // namespace modVantrel

@@ -1,0 +1,15 @@
+#pragma once
+
+namespace modVantrel {
+
+// Where gait events come from: the EVENT group of the C3D file, or the event file that one motion
+// system writes beside it. Fixed when the program is built.
+enum class EventSource { EventGroup = 0, EventFile = 1 };
+
+#ifdef VANTREL_EVENTS_FROM_SIDE_FILE
+inline constexpr EventSource kEventSource = EventSource::EventFile;
+#else
+inline constexpr EventSource kEventSource = EventSource::EventGroup;
+#endif
+
+}  // namespace modVantrel

@@ -1,0 +1,37 @@
+#include "gait/MacEvents.h"
+
+#include <algorithm>
+#include <array>
+
+#include "c3d/MacSideFiles.h"
+
+namespace modVantrel {
+
+bool AppendMacEvents(FileState& state) {
+  struct Kind {
+    modAllPurpose::OneBasedTable<std::int32_t> Frames;
+    std::int32_t Side;
+    std::int32_t Type;
+  };
+  const MacEventLines lines = ReadMacEventLines(state);
+  const std::array kinds = {
+      Kind{ParseFrameList(lines.RightToeOff), kSideRight, kTypeFootOff},
+      Kind{ParseFrameList(lines.RightHeelStrike), kSideRight, kTypeFootStrike},
+      Kind{ParseFrameList(lines.LeftToeOff), kSideLeft, kTypeFootOff},
+      Kind{ParseFrameList(lines.LeftHeelStrike), kSideLeft, kTypeFootStrike}};
+
+  GaitEventState& gait = state.GaitEvents;
+  for (const Kind& kind : kinds) gait.TotalCount += kind.Frames.Count();
+  if (std::ranges::any_of(kinds, [](const Kind& kind) { return kind.Frames.IsEmpty(); })) {
+    return false;
+  }
+  gait.SidedStrikeOffCount = gait.TotalCount;
+  for (const Kind& kind : kinds) {
+    for (const std::int32_t frame : kind.Frames) {
+      gait.SidedStrikeOffEvents.Append({kind.Side, kind.Type, FrameToTime(state, frame)});
+    }
+  }
+  return true;
+}
+
+}  // namespace modVantrel
