@@ -46,7 +46,7 @@ class BinaryFile {
 
   // How many bytes a read may fetch beyond those asked for. Walking one label through the frames
   // sets it to fit the frames' size; ReadAhead restores it.
-  static constexpr std::size_t kDefaultReadAhead = 64 * 1024;
+  static constexpr std::size_t kDefaultReadAhead = std::size_t{64} * 1024;
 
   // Forgets the buffered bytes, so that the next read sees the file as it is now.
   void ForgetBuffer();

@@ -27,7 +27,7 @@ constexpr std::size_t kCoordinates = 3;
 // Where the gap to the label's bytes in the next frame is at most this, reading it along is faster
 // than a system call a frame.
 constexpr std::int64_t kWidestGapToReadAlong = 4096;
-constexpr std::size_t kManyFrames = 256 * 1024;
+constexpr std::size_t kManyFrames = std::size_t{256} * 1024;
 
 // Sizes of the frame data in bytes; 0 where the storage is unknown.
 struct FrameLayout {
@@ -186,7 +186,7 @@ AnalogFrames ReadAnalogDataForIndex(const FileState& state, std::int32_t channel
 
   AnalogFrames frames(state.PointFrameCount);
   std::int32_t position = ToLong(std::int64_t{state.SeekPtrForFirstFrameData} +
-                                 state.Header.PointLabelCount * layout.PointSize +
+                                 std::int64_t{state.Header.PointLabelCount} * layout.PointSize +
                                  std::int64_t{channel - 1} * layout.ValueSize);
   for (std::int32_t frame = 1; frame <= state.PointFrameCount; ++frame) {
     frames[frame] = ReadAnalogFrameAt(state, position);

@@ -1,6 +1,7 @@
 #include "c3d/ParameterSection.h"
 
 #include <algorithm>
+#include <iterator>
 #include <span>
 #include <string>
 #include <utility>
@@ -21,7 +22,7 @@ using modAllPurposeNumbers::ToLong;
 namespace {
 
 constexpr std::uint8_t kHighestPositiveByte = 127;
-constexpr std::size_t kValueChunk = 16 * 1024;  // bytes decoded at a time
+constexpr std::size_t kValueChunk = std::size_t{16} * 1024;  // bytes decoded at a time
 
 std::string ReadTrimmedText(BinaryFile& file, std::size_t size) {
   std::string text = file.ReadText(size);
@@ -115,7 +116,7 @@ void ReadParamPart(BinaryFile& file, ParamRecord& record, std::uint8_t processor
   std::size_t stringLength = 0;
   if (record.DataType == kTextData) {
     stringLength = sizes.front();
-    std::ranges::rotate(sizes, std::next(sizes.begin()));
+    std::rotate(sizes.begin(), std::next(sizes.begin()), sizes.end());
     sizes.back() = 1;
   }
   if (values == Values::Skip) {

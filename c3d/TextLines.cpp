@@ -8,7 +8,7 @@ namespace modVantrel {
 
 namespace {
 
-constexpr std::size_t kPieceSize = 16 * 1024;
+constexpr std::size_t kPieceSize = std::size_t{16} * 1024;
 
 }  // namespace
 

@@ -23,9 +23,15 @@ namespace {
 
 // A report that takes the open file alone and never refuses.
 template <void (*Show)(const FileState&, ReportOutput&)>
-ReportResult Plain(const FileState& state, const Request& /*request*/, ReportOutput& output) {
+std::string Plain(const FileState& state, const Request& /*request*/, ReportOutput& output) {
   Show(state, output);
-  return ReportResult::Written();
+  return {};
+}
+
+// A report that may refuse its input.
+template <ReportResult (*Show)(const FileState&, const Request&, ReportOutput&)>
+std::string Refusing(const FileState& state, const Request& request, ReportOutput& output) {
+  return std::string(Show(state, request, output).Text());
 }
 
 ReportResult Parameters(const FileState& state, const Request& request, ReportOutput& output) {
@@ -72,24 +78,24 @@ class OverwriteOption : public modVantrel::OverwriteQuestion {
   std::string refused_;
 };
 
-ReportResult Gcd(const FileState& state, const Request& request, ReportOutput& output) {
+std::string Gcd(const FileState& state, const Request& request, ReportOutput& output) {
   OverwriteOption overwrite(request.Overwrite);
   const ReportResult result = modVantrel::WriteGcdFiles(state, request.Gcd, overwrite, output);
-  if (overwrite.Refused().empty()) return result;
-  return ReportResult::Rejected("a GCD file exists already; --overwrite replaces it");
+  if (overwrite.Refused().empty()) return std::string(result.Text());
+  return overwrite.Refused() + " exists already (--overwrite replaces it)";
 }
 
 constexpr std::array kReports = {
     ReportEntry{"header", Plain<reports::ShowHeaderInfo>, false},
     ReportEntry{"parameter-header", Plain<reports::ShowParameterHeader>, false},
     ReportEntry{"groups", Plain<reports::ShowAllGroups>, false},
-    ReportEntry{"parameters", Parameters, false},
+    ReportEntry{"parameters", Refusing<Parameters>, false},
     ReportEntry{"labels", Plain<reports::ShowPointLabels>, false},
-    ReportEntry{"point", Point, true},
-    ReportEntry{"analog", Analog, true},
+    ReportEntry{"point", Refusing<Point>, true},
+    ReportEntry{"analog", Refusing<Analog>, true},
     ReportEntry{"events", Plain<modVantrel::ShowStrikeOffEvents>, false},
     ReportEntry{"measures", Plain<modVantrel::ShowSingleValueStrikeOffMeasures>, false},
-    ReportEntry{"normalized", Normalized, true},
+    ReportEntry{"normalized", Refusing<Normalized>, true},
     ReportEntry{"gcd", Gcd, false},
     ReportEntry{"tree", Plain<reports::ShowTree>, false},
 };

@@ -9,9 +9,9 @@
 
 namespace cli {
 
-using ReportFunction = modAllPurpose::ReportResult (*)(const modVantrel::FileState& state,
-                                                       const Request& request,
-                                                       modAllPurpose::ReportOutput& output);
+// Writes a report of the open file; returns what a refused request is answered with, else nothing.
+using ReportFunction = std::string (*)(const modVantrel::FileState& state, const Request& request,
+                                       modAllPurpose::ReportOutput& output);
 
 struct ReportEntry {
   std::string_view Name;

@@ -29,19 +29,21 @@ void Complain(const std::string& file, const RuntimeError& error) {
 
 // Opens `file` and writes its report; answers with the message of a failed open or a refused input,
 // empty where all is well.
-std::string_view OpenAndReport(const std::string& file, const Request& request,
+std::string OpenAndReport(const std::string& file, const Request& request,
                                StandardOutput& output) {
   modVantrel::FileState state;
   const auto opened = modVantrel::OpenC3dFile(state, file, modVantrel::FindGaitEvents);
-  if (opened != modVantrel::OpenResult::Success) return modVantrel::OpenFailureMessage(opened);
-  return FindReport(request.Report)->Run(state, request, output).Text();
+  if (opened != modVantrel::OpenResult::Success) {
+    return std::string(modVantrel::OpenFailureMessage(opened));
+  }
+  return FindReport(request.Report)->Run(state, request, output);
 }
 
 bool Report(const std::string& file, const Request& request) {
   const bool several = request.Files.size() > 1;
   StandardOutput output(several ? fmt::format("==> {} <==", file) : std::string());
   try {
-    std::string_view complaint;
+    std::string complaint;
     try {
       complaint = OpenAndReport(file, request, output);
     } catch (const RuntimeError&) {

@@ -9,7 +9,7 @@ namespace cli {
 
 namespace {
 
-constexpr std::size_t kPieceSize = 256 * 1024;
+constexpr std::size_t kPieceSize = std::size_t{256} * 1024;
 
 }  // namespace
 

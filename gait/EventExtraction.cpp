@@ -74,7 +74,7 @@ void FillEventLists(FileState& state, const EventParams& params) {
   }
 }
 
-void ExtractFromParams(FileState& state) {
+[[maybe_unused]] void ExtractFromParams(FileState& state) {
   const EventParams params = FindEventParams(state);
   GaitEventState& events = state.GaitEvents;
   IgnoringErrors([&] { events.TotalCount = params.Used.IntegerValues.At(FirstElement()); });
@@ -86,7 +86,7 @@ void ExtractFromParams(FileState& state) {
   if (!complete) events = {};
 }
 
-void ExtractFromSideFile(FileState& state) {
+[[maybe_unused]] void ExtractFromSideFile(FileState& state) {
   if (AppendMacEvents(state)) FindValidStrides(state);
 }
 

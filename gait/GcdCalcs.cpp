@@ -11,7 +11,6 @@ using modAllPurposeNumbers::Divide;
 using modAllPurposeNumbers::ToSingle;
 using modCubicSpline::BuildComponentSpline;
 using modCubicSpline::Component;
-using modCubicSpline::SplineCurve;
 using modCubicSpline::SplineValueAt;
 
 namespace {

@@ -62,7 +62,7 @@ class GcdWriter {
 
 std::string GcdFileName(const std::string& trial, const StrideRecord& stride,
                         const std::string& outputFolder) {
-  const std::string name = fmt::format("{}-{}{}.gcd", modAllPurpose::WithoutExtension(trial),
+  std::string name = fmt::format("{}-{}{}.gcd", modAllPurpose::WithoutExtension(trial),
                                        SideName(stride.Side).front(), stride.Number);
   if (outputFolder.empty()) return name;
   const auto fileName = modAllPurpose::NativePath(name).filename();

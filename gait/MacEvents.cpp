@@ -10,8 +10,8 @@ namespace modVantrel {
 bool AppendMacEvents(FileState& state) {
   struct Kind {
     modAllPurpose::OneBasedTable<std::int32_t> Frames;
-    std::int32_t Side;
-    std::int32_t Type;
+    std::int32_t Side = kSideNone;
+    std::int32_t Type = kTypeOther;
   };
   const MacEventLines lines = ReadMacEventLines(state);
   const std::array kinds = {

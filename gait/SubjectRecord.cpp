@@ -25,7 +25,7 @@ constexpr std::array kGenderParams = {"GENDER", "SEX"};
 constexpr std::array kBirthParams = {"DOB", "BIRTHDATE", "DATE_OF_BIRTH", "DATEOFBIRTH"};
 constexpr std::array kVisitParams = {"DATE", "VISIT_DATE", "TRIAL_DATE"};
 
-constexpr std::size_t kLargestSubjectFile = 64 * 1024;
+constexpr std::size_t kLargestSubjectFile = std::size_t{64} * 1024;
 constexpr double kDaysPerYear = 365.0;
 
 // Calls `take` with the text of each parameter of those names, group by group, until it answers

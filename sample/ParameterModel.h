@@ -19,7 +19,7 @@ struct ParamSpec {
   std::string Description;
   bool Locked = false;
   // The stored type byte, where it is not the one of Values.
-  std::variant<std::monostate, std::int8_t> DataType;
+  std::variant<std::monostate, std::uint8_t> DataType;
 };
 
 // Parameters of one value (no dimensions) or of one list (one dimension; for texts the width of the

@@ -85,11 +85,11 @@ struct ModelOutput {
 constexpr std::array kModelOutputs = {
     ModelOutput{"PelvisAngles", {11, 1.2, 0.4, 0.8, 1.0}, {0, 4.1, 0.2, 0, 0}, {0, 5.0, 1.5, 0, 0}},
     ModelOutput{"HipAngles", {14, 21, 1.5, 4, 0.3}, {1, 6, 0.4, 1, 0}, {3, 4, 2.0, 2, 1.0}},
-    ModelOutput{"KneeAngles", {24, 17, 3.6, 15, 2.5}, {2, 3, 1.0, 1, 0}, {-4, 6, 0.5, 2, 2.0}},
-    ModelOutput{"AnkleAngles", {2, 8, 4.0, 9, 5.1}, {1, 2, 0.1, 0, 0}, {-9, 5, 2.2, 1, 0.7}},
+    ModelOutput{"KneeAngles", {24, 18, 3.14, 14, 5.59}, {2, 3, 1.0, 1, 0}, {-4, 6, 0.5, 2, 2.0}},
+    ModelOutput{"AnkleAngles", {2, 6, 5.97, 9, 2.57}, {1, 2, 0.1, 0, 0}, {-9, 5, 2.2, 1, 0.7}},
     ModelOutput{"HipMoment", {80, 620, 1.1, 240, 0.2}, {410, 300, 5.6, 90, 1}, {20, 70, 0.4, 0, 0}},
     ModelOutput{"KneeMoment", {110, 260, 0.9, 310, 2.2}, {160, 120, 5.9, 60, 1}, {5, 40, 1, 0, 0}},
-    ModelOutput{"AnkleMoment", {520, 560, 4.9, 190, 2.9}, {40, 60, 5, 0, 0}, {30, 50, 4.5, 9, 0}},
+    ModelOutput{"AnkleMoment", {450, 600, 5.34, 250, 1.82}, {40, 60, 5, 0, 0}, {30, 50, 4.5, 9, 0}},
     ModelOutput{"HipPower", {0, 0, 0, 0, 0}, {0, 0, 0, 0, 0}, {0.2, 0.6, 0.3, 0.5, 1.7}},
     ModelOutput{"KneePower", {0, 0, 0, 0, 0}, {0, 0, 0, 0, 0}, {-0.3, 0.4, 2.0, 0.7, 0.9}},
     ModelOutput{"AnklePower", {0, 0, 0, 0, 0}, {0, 0, 0, 0, 0}, {0.4, 1.1, 4.4, 0.9, 2.8}}};

@@ -64,7 +64,7 @@ Record ParamRecord(const GroupSpec& group, const ParamSpec& param, std::uint8_t 
   const std::size_t textWidth = param.Dimensions.empty() ? 1 : param.Dimensions.front();
   ByteWriter values(processor);
   int type = std::visit(ValueWriter{values, textWidth}, param.Values);
-  if (const auto* stored = std::get_if<std::int8_t>(&param.DataType)) type = *stored;
+  if (const auto* stored = std::get_if<std::uint8_t>(&param.DataType)) type = *stored;
 
   ByteWriter back(processor);
   back.SignedByte(type);

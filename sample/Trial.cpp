@@ -15,6 +15,8 @@ constexpr std::int32_t kLastFramePosition = 9;
 constexpr std::int32_t kBytesBeforeName = 2;
 constexpr unsigned kLongestName = 127;
 
+std::size_t Offset(std::int32_t position) { return static_cast<std::size_t>(position) - 1; }
+
 void Write(const std::filesystem::path& path, const std::byte* bytes, std::size_t size) {
   std::ofstream file;
   file.exceptions(std::ios::failbit | std::ios::badbit);

@@ -46,7 +46,6 @@ class Trial {
   void WriteSparseTo(const std::filesystem::path& path) const;
 
  private:
-  std::size_t Offset(std::int32_t position) const { return static_cast<std::size_t>(position) - 1; }
   Trial& Overwrite(std::int32_t position, const std::vector<std::byte>& bytes);
 
   std::vector<std::byte> bytes_;

@@ -74,14 +74,14 @@ FixedDigits RoundedDigits(double magnitude, std::size_t decimals) {
 // Appends `number` with at least `width` digits.
 void AppendDigits(std::string& text, std::uint64_t number, std::size_t width) {
   std::array<char, 24> digits{};
-  auto first = digits.end();
+  char* first = digits.data() + digits.size();
   while (number != 0) {
     *--first = static_cast<char>('0' + number % 10);
     number /= 10;
   }
-  const auto count = static_cast<std::size_t>(std::distance(first, digits.end()));
+  const auto count = static_cast<std::size_t>(digits.data() + digits.size() - first);
   if (count < width) text.append(width - count, '0');
-  text.append(first, digits.end());
+  text.append(first, digits.data() + digits.size());
 }
 
 void AppendDecimals(std::string& text, std::uint64_t decimals, const NumberPattern& pattern) {

@@ -1,0 +1,38 @@
+# Completion of vantrel-report for bash.
+_vantrel_report() {
+  local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
+  local reports="header parameter-header groups parameters labels point analog events measures
+    normalized gcd tree"
+  local options="--label --group --param --events --output-dir --overwrite --gender
+    --date-of-birth --visit-date --help --version"
+
+  case $previous in
+    --output-dir)
+      mapfile -t COMPREPLY < <(compgen -d -- "$current")
+      compopt -o filenames
+      return
+      ;;
+    --gender)
+      mapfile -t COMPREPLY < <(compgen -W "Female Male" -- "$current")
+      return
+      ;;
+    --label | --group | --param | --date-of-birth | --visit-date) return ;;
+  esac
+  if [[ $current == -* ]]; then
+    mapfile -t COMPREPLY < <(compgen -W "$options" -- "$current")
+    return
+  fi
+  local word
+  for word in "${COMP_WORDS[@]:1:COMP_CWORD-1}"; do
+    if [[ " ${reports//$'\n'/ } " == *" $word "* ]]; then
+      mapfile -t COMPREPLY < <(
+        compgen -d -- "$current"
+        compgen -f -X '!*.[cC]3[dD]' -- "$current"
+      )
+      compopt -o filenames
+      return
+    fi
+  done
+  mapfile -t COMPREPLY < <(compgen -W "$reports" -- "$current")
+}
+complete -F _vantrel_report vantrel-report
