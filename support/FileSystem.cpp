@@ -34,6 +34,8 @@ class TemporaryFile {
       file_ = CreateNew(path_);
       if (file_ == nullptr && errno != EEXIST) break;
     }
+    // A new file that cannot be found means that its folder is not there.
+    if (file_ == nullptr && errno == ENOENT) throw RuntimeError(ErrorNumber::PathNotFound);
     if (file_ == nullptr) throw FileErrorFromErrno(errno);
   }
   TemporaryFile(const TemporaryFile&) = delete;

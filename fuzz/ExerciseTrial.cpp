@@ -1,0 +1,119 @@
+#include "fuzz/ExerciseTrial.h"
+
+#include <algorithm>
+#include <functional>
+#include <vector>
+
+#include "app/reports/HeaderReport.h"
+#include "app/reports/ListingReport.h"
+#include "app/reports/NavigationTree.h"
+#include "app/reports/ParameterReport.h"
+#include "c3d/FrameData.h"
+#include "c3d/OpenC3dFile.h"
+#include "gait/EventExtraction.h"
+#include "gait/GcdCalcs.h"
+#include "gait/GcdCommand.h"
+#include "gait/MeasuresReport.h"
+#include "gait/NormalizedReport.h"
+#include "gait/StrikeOffReport.h"
+
+namespace fuzz {
+
+using modAllPurpose::ReportOutput;
+using modVantrel::FileState;
+
+namespace {
+
+// Takes a report and forgets it. What a damaged file makes a report print can be long without being
+// wrong, so the report is left after a while.
+class Discarded : public ReportOutput {
+ public:
+  struct LongEnough {};
+
+  void BeginReport() override {}
+  void AppendOutput(std::string_view text, bool /*paneOnly*/, bool /*continueLine*/) override {
+    constexpr std::size_t kMostBytes = std::size_t{1024} * 1024;
+    bytes_ += text.size() + 1;
+    if (bytes_ > kMostBytes) throw LongEnough();
+  }
+
+ private:
+  std::size_t bytes_ = 0;
+};
+
+// Runs one report; the errors that reports end in are expected.
+void Run(const std::function<void(ReportOutput&)>& report) {
+  Discarded output;
+  try {
+    report(output);
+  } catch (const modAllPurpose::RuntimeError&) {
+  } catch (const Discarded::LongEnough&) {
+  }
+}
+
+// The first labels, the last one, and one that is not there.
+std::vector<std::string> SomeLabels(const modAllPurpose::OneBasedTable<std::string>& labels) {
+  constexpr std::int32_t kFirstOnes = 3;
+  std::vector<std::string> some = {"no such label"};
+  for (std::int32_t i = 1; i <= std::min(labels.Count(), kFirstOnes); ++i)
+    some.push_back(labels[i]);
+  if (labels.Count() > kFirstOnes) some.push_back(labels[labels.Count()]);
+  return some;
+}
+
+void RunPlainReports(const FileState& state) {
+  using namespace reports;
+  Run([&](ReportOutput& output) { ShowHeaderInfo(state, output); });
+  Run([&](ReportOutput& output) { ShowParameterHeader(state, output); });
+  Run([&](ReportOutput& output) { ShowAllGroups(state, output); });
+  Run([&](ReportOutput& output) { ShowAllGroupsAndAllParams(state, output); });
+  Run([&](ReportOutput& output) { (void)ShowMatchingGroupAndAllParams(state, "POINT", output); });
+  Run([&](ReportOutput& output) {
+    (void)ShowMatchingGroupAndMatchingParam(state, "POINT", "LABELS", output);
+  });
+  Run([&](ReportOutput& output) { ShowPointLabels(state, output); });
+  Run([&](ReportOutput& output) { ShowTree(state, output); });
+  Run([&](ReportOutput& output) { modVantrel::ShowStrikeOffEvents(state, output); });
+  Run([&](ReportOutput& output) { modVantrel::ShowSingleValueStrikeOffMeasures(state, output); });
+}
+
+void RunLabelReports(const FileState& state) {
+  using namespace reports;
+  for (const std::string& label : SomeLabels(state.PointLabels)) {
+    Run([&](ReportOutput& output) { (void)ShowPointData(state, label, output); });
+    Run([&](ReportOutput& output) { (void)ShowPointDataWithEvents(state, label, output); });
+    Run([&](ReportOutput& output) { (void)modVantrel::ShowNormalized(state, label, output); });
+  }
+  for (const std::string& label : SomeLabels(state.AnalogLabels)) {
+    Run([&](ReportOutput& output) { (void)ShowAnalogData(state, label, output); });
+    Run([&](ReportOutput& output) { (void)ShowAnalogDataWithEvents(state, label, output); });
+  }
+}
+
+void RunGcdTexts(const FileState& state) {
+  modVantrel::clsGcdCalcs calcs(state);
+  const auto strides = std::min(state.GaitEvents.ValidStrideCount, 2);
+  for (std::int32_t i = 1; i <= strides; ++i) {
+    Run([&](ReportOutput& output) {
+      const auto subject = modVantrel::FindSubject(state, {});
+      output.Line(calcs.GcdText(i, "!Left", "L", subject, false, false));
+    });
+  }
+}
+
+}  // namespace
+
+void ExerciseTrial(const std::string& path) {
+  FileState state;
+  try {
+    const auto result = modVantrel::OpenC3dFile(state, path, modVantrel::FindGaitEvents);
+    if (result != modVantrel::OpenResult::Success) return;
+  } catch (const modAllPurpose::RuntimeError&) {
+    return;
+  }
+  RunPlainReports(state);
+  RunLabelReports(state);
+  RunGcdTexts(state);
+}
+
+}  // namespace fuzz
