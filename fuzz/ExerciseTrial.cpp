@@ -103,6 +103,12 @@ void RunGcdTexts(const FileState& state) {
 
 }  // namespace
 
+void ExerciseOpenFile(const FileState& state) {
+  RunPlainReports(state);
+  RunLabelReports(state);
+  RunGcdTexts(state);
+}
+
 void ExerciseTrial(const std::string& path) {
   FileState state;
   try {
@@ -111,9 +117,7 @@ void ExerciseTrial(const std::string& path) {
   } catch (const modAllPurpose::RuntimeError&) {
     return;
   }
-  RunPlainReports(state);
-  RunLabelReports(state);
-  RunGcdTexts(state);
+  ExerciseOpenFile(state);
 }
 
 }  // namespace fuzz

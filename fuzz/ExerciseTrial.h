@@ -2,11 +2,16 @@
 
 #include <string>
 
+#include "c3d/FileState.h"
+
 namespace fuzz {
 
 // Opens the file at `path` and, where that succeeds, runs every report on it, the listings of some
 // of its labels with and without events, and the texts of its GCD files. A result code or a
 // RuntimeError is an answer like any other; everything else leaves this function.
 void ExerciseTrial(const std::string& path);
+
+// The same for a file that is open.
+void ExerciseOpenFile(const modVantrel::FileState& state);
 
 }  // namespace fuzz

@@ -1,0 +1,46 @@
+#include "tests/damage/AllocationMeter.h"
+
+#include <algorithm>
+#include <atomic>
+#include <cstdlib>
+#include <malloc.h>
+#include <new>
+
+namespace tests {
+
+namespace {
+
+std::atomic<std::size_t> taken{0};
+std::atomic<std::size_t> peak{0};
+std::atomic<std::size_t> start{0};
+
+}  // namespace
+
+void AllocationMeter::Reset() {
+  start = taken.load();
+  peak = taken.load();
+}
+
+std::size_t AllocationMeter::Peak() { return peak - start; }
+
+void* Take(std::size_t size) {
+  void* memory = std::malloc(size);
+  if (memory == nullptr) throw std::bad_alloc();
+  taken += ::malloc_usable_size(memory);
+  peak = std::max(peak.load(), taken.load());
+  return memory;
+}
+
+void GiveBack(void* memory) noexcept {
+  if (memory != nullptr) taken -= ::malloc_usable_size(memory);
+  std::free(memory);
+}
+
+}  // namespace tests
+
+void* operator new(std::size_t size) { return tests::Take(size); }
+void* operator new[](std::size_t size) { return tests::Take(size); }
+void operator delete(void* memory) noexcept { tests::GiveBack(memory); }
+void operator delete[](void* memory) noexcept { tests::GiveBack(memory); }
+void operator delete(void* memory, std::size_t /*size*/) noexcept { tests::GiveBack(memory); }
+void operator delete[](void* memory, std::size_t /*size*/) noexcept { tests::GiveBack(memory); }
