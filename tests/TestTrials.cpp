@@ -25,6 +25,16 @@ OpenedTrial::OpenedTrial(const sample::Trial& trial) : file_(folder_ / "trial.c3
   result_ = modVantrel::OpenC3dFile(state_, file_.string(), NoEvents);
 }
 
+modVantrel::OpenResult TrialOpener::Open(const sample::Trial& trial) {
+  WriteAnew(trial, file_);
+  return modVantrel::OpenC3dFile(state_, file_.string(), NoEvents);
+}
+
+void WriteAnew(const sample::Trial& trial, const std::filesystem::path& path) {
+  std::filesystem::remove(path);
+  trial.WriteTo(path);
+}
+
 void NoEvents(modVantrel::FileState& /*state*/) {}
 
 int ErrorNumberOf(const std::function<void()>& work) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -42,6 +43,55 @@ class OpenedTrial {
   modVantrel::FileState state_;
   modVantrel::OpenResult result_;
 };
+
+// Opens trials one after the other in one state object, as a user does. A run-time error of an open
+// passes through; the state then is what the open left.
+class TrialOpener {
+ public:
+  modVantrel::OpenResult Open(const sample::Trial& trial);
+  modVantrel::OpenResult Open(const sample::TrialBuilder& builder) { return Open(builder.Build()); }
+
+  modVantrel::FileState& State() { return state_; }
+  // The file that every trial is written to.
+  std::string File() const { return file_.string(); }
+
+ private:
+  TemporaryFolder folder_;
+  std::filesystem::path file_ = folder_ / "trial.c3d";
+  modVantrel::FileState state_;
+};
+
+// Where the fields of the header stand in a file, counted from 1.
+namespace header {
+inline constexpr std::int32_t kParamBlockPointer = 1;
+inline constexpr std::int32_t kFileID = 2;
+inline constexpr std::int32_t kPointLabelCount = 3;
+inline constexpr std::int32_t kAnalogValuesPerFrame = 5;
+inline constexpr std::int32_t kMaxInterpolationGapAllowed = 11;
+inline constexpr std::int32_t kScaleFactor = 13;
+inline constexpr std::int32_t kFirstMarkerAndAnalogBlockPointer = 17;
+inline constexpr std::int32_t kAnalogSamplesPerChannel = 19;
+inline constexpr std::int32_t kPointFrameRate = 21;
+inline constexpr std::int32_t kReserved1 = 25;
+inline constexpr std::int32_t kEventDataFlag = 299;
+inline constexpr std::int32_t kTimedEventsCount = 301;
+inline constexpr std::int32_t kReserved2 = 303;
+inline constexpr std::int32_t kEventTimes = 305;
+inline constexpr std::int32_t kEventDisplaySwitches = 377;
+inline constexpr std::int32_t kReserved3 = 395;
+inline constexpr std::int32_t kEventLabels = 397;
+inline constexpr std::int32_t kReserved4 = 469;
+}  // namespace header
+
+// Where the parameter section of a trial starts, unless its builder was told otherwise, and its
+// fourth byte and first record.
+inline constexpr std::int32_t kSectionPosition = 513;
+inline constexpr std::int32_t kProcessorPosition = 516;
+inline constexpr std::int32_t kFirstRecordPosition = 517;
+
+// Writes `trial` to a new file in place of the one at `path`. Some file systems wait for the disk
+// when a file's content is replaced, which adds up in tests that write thousands.
+void WriteAnew(const sample::Trial& trial, const std::filesystem::path& path);
 
 // Stands for the search for events where a test does not need it.
 void NoEvents(modVantrel::FileState& state);
