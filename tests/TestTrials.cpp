@@ -46,6 +46,19 @@ int ErrorNumberOf(const std::function<void()>& work) {
   }
 }
 
+std::string TextOf(const std::function<void(modAllPurpose::ReportOutput&)>& report) {
+  modAllPurpose::TextReport output;
+  report(output);
+  return output.Text();
+}
+
+std::vector<std::string> LinesOf(const std::string& text) {
+  std::vector<std::string> lines;
+  std::istringstream stream(text);
+  for (std::string line; std::getline(stream, line);) lines.push_back(line);
+  return lines;
+}
+
 std::string ReadWholeFile(const std::filesystem::path& path) {
   std::ifstream file(path, std::ios::binary);
   return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};

@@ -4,10 +4,12 @@
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "c3d/FileState.h"
 #include "c3d/OpenC3dFile.h"
 #include "sample/TrialBuilder.h"
+#include "support/ReportOutput.h"
 #include "support/RuntimeError.h"
 
 namespace tests {
@@ -98,6 +100,12 @@ void NoEvents(modVantrel::FileState& state);
 
 // The number of the run-time error that `work` ends in; 0 where it ends without one.
 int ErrorNumberOf(const std::function<void()>& work);
+
+// What a report writes, lines ended by LF.
+std::string TextOf(const std::function<void(modAllPurpose::ReportOutput&)>& report);
+
+// The lines of `text` without their ends; the empty piece behind the last end is no line.
+std::vector<std::string> LinesOf(const std::string& text);
 
 std::string ReadWholeFile(const std::filesystem::path& path);
 
