@@ -19,6 +19,26 @@ constexpr const char* kFooter =
     "\nExit status: 0 all well, 1 a file failed or its report was refused (the others are still "
     "printed), 2 wrong usage.";
 
+// The parser takes an argument such as "[a,b]" for a list and splits it. With a NUL in front, which
+// no argument of a process can hold, it stays one text; the options take it away again.
+constexpr char kShield = '\0';
+
+void ShieldBrackets(std::vector<std::string>& arguments) {
+  for (std::string& argument : arguments) {
+    if (argument.starts_with('[')) argument.insert(0, 1, kShield);
+  }
+}
+
+void TakeShieldsAway(CLI::App& app) {
+  const CLI::Validator unshield(
+      [](std::string& value) {
+        if (value.starts_with(kShield)) value.erase(0, 1);
+        return std::string();
+      },
+      "");
+  for (CLI::Option* option : app.get_options()) option->transform(unshield);
+}
+
 void AddOptions(CLI::App& app, Request& request) {
   app.add_option("--label", request.Label, "Point or analog label, in any case");
   app.add_option("--group", request.Group, "Group of the parameter section");
@@ -42,6 +62,7 @@ void AddOptions(CLI::App& app, Request& request) {
           },
           ""));
   app.add_option("FILE", request.Files, "C3D files")->required();
+  TakeShieldsAway(app);
 }
 
 void CheckRequest(CLI::App& app, Request& request) {
@@ -63,6 +84,7 @@ std::variant<Request, int> ParseCommandLine(std::vector<std::string> arguments) 
   Request request;
   AddOptions(app, request);
   try {
+    ShieldBrackets(arguments);
     std::ranges::reverse(arguments);  // the order in which the parser takes them
     app.parse(std::move(arguments));
     CheckRequest(app, request);

@@ -121,9 +121,10 @@ TEST_F(ReportRunTest, AnEmptyNameIsAFileThatCannotBeOpened) {
 }
 
 TEST_F(ReportRunTest, AnyFileNameIsTakenAsItStands) {
-  for (const std::string name : {"with blank.c3d", " blanks ", "M\u00FCller \u20AC.c3d", "a,b.c3d",
-                                 "'quoted'.c3d", "\"quoted\"", "back\\slash", "%s%n.c3d", "{}.c3d",
-                                 "not utf-8 \xFF.c3d", "new\nline.c3d", "++", "header"}) {
+  for (const std::string name :
+       {"with blank.c3d", " blanks ", "M\u00FCller \u20AC.c3d", "[a,b]", "[trial]", "a,b.c3d",
+        "'quoted'.c3d", "\"quoted\"", "back\\slash", "%s%n.c3d", "{}.c3d", "not utf-8 \xFF.c3d",
+        "new\nline.c3d", "++", "header"}) {
     const std::string file = Write(name);
     ExpectOutput({"groups", file}, kGroups);
     const ToolResult result = RunTool({"groups", name}, {}, folder_.Path());
