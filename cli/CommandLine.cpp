@@ -2,11 +2,14 @@
 
 #include <algorithm>
 #include <iostream>
+#include <sstream>
 
 #include <CLI/CLI.hpp>
 
 #include "Version.h"
 #include "cli/ReportTable.h"
+#include "cli/StandardOutput.h"
+#include "support/RuntimeError.h"
 
 namespace cli {
 
@@ -74,6 +77,22 @@ void CheckRequest(CLI::App& app, Request& request) {
   }
 }
 
+// Prints what was asked for in place of a report, and returns the exit status.
+int PrintText(std::string text) {
+  if (!text.ends_with('\n')) text += '\n';
+  StandardOutput output({});
+  try {
+    output.Piece(text);
+    output.Flush();
+  } catch (const OutputClosed&) {
+    // Whoever asked has seen enough.
+  } catch (const modAllPurpose::RuntimeError& error) {
+    std::cerr << "vantrel-report: " << RuntimeErrorTitle(error) << ' ' << error.what() << '\n';
+    return kSomeFailed;
+  }
+  return kAllWell;
+}
+
 }  // namespace
 
 std::variant<Request, int> ParseCommandLine(std::vector<std::string> arguments) {
@@ -90,7 +109,9 @@ std::variant<Request, int> ParseCommandLine(std::vector<std::string> arguments) 
     CheckRequest(app, request);
     return request;
   } catch (const CLI::Success& done) {
-    return app.exit(done);
+    std::ostringstream text;
+    app.exit(done, text, std::cerr);
+    return PrintText(text.str());
   } catch (const CLI::ParseError& error) {
     std::cerr << "vantrel-report: " << error.what()
               << "\nTry 'vantrel-report --help' for more information.\n";

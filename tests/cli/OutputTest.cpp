@@ -88,4 +88,18 @@ TEST_F(OutputTest, AFullDiskIsARunTimeErrorOfItsFile) {
   }
 }
 
+TEST_F(OutputTest, HelpAndVersionThatCannotBePrintedAreNoSuccess) {
+  for (const std::string option : {"--help", "--version"}) {
+    const ToolResult result = RunTool({option}, {.Path = "/dev/full"});
+    EXPECT_EQ(result.Status, 1) << option;
+    EXPECT_EQ(result.Err, "vantrel-report: Run-time error '61': Disk full\n");
+  }
+}
+
+TEST_F(OutputTest, HelpIntoAClosedPipeEndsQuietly) {
+  const ToolResult result = RunTool({"--help"}, {.Path = "", .ClosedPipe = true});
+  EXPECT_EQ(result.Status, 0);
+  EXPECT_EQ(result.Err, "");
+}
+
 }  // namespace

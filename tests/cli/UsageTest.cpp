@@ -60,6 +60,7 @@ TEST(Usage, HelpNamesEveryOptionReportAndStatus) {
         "parameter-header", "groups", "parameters", "labels", "tree", "Exit status"}) {
     EXPECT_THAT(result.Out, HasSubstr(word));
   }
+  EXPECT_TRUE(result.Out.ends_with("\n")) << "the shell's prompt starts on a line of its own";
 }
 
 }  // namespace
