@@ -66,7 +66,7 @@ TEST_F(OutputTest, AClosedPipeEndsTheToolQuietly) {
   for (const std::vector<std::string>& arguments : {std::vector<std::string>{"groups", short_},
                                                     {"groups", short_, short_},
                                                     {"parameters", long_}}) {
-    const ToolResult result = RunTool(arguments, {.Path = "", .ClosedPipe = true});
+    const ToolResult result = RunTool(arguments, {.ClosedPipe = true});
     EXPECT_EQ(result.Status, 0);
     EXPECT_EQ(result.Err, "");
   }
@@ -74,7 +74,7 @@ TEST_F(OutputTest, AClosedPipeEndsTheToolQuietly) {
 
 TEST_F(OutputTest, AClosedPipeIsMetBehindAFailedFileToo) {
   const ToolResult result =
-      RunTool({"groups", (folder_ / "missing").string(), short_}, {.Path = "", .ClosedPipe = true});
+      RunTool({"groups", (folder_ / "missing").string(), short_}, {.ClosedPipe = true});
   EXPECT_EQ(result.Status, 1);
   EXPECT_EQ(tests::LinesOf(result.Err).size(), 1U) << "the missing file alone is named";
 }
@@ -97,7 +97,7 @@ TEST_F(OutputTest, HelpAndVersionThatCannotBePrintedAreNoSuccess) {
 }
 
 TEST_F(OutputTest, HelpIntoAClosedPipeEndsQuietly) {
-  const ToolResult result = RunTool({"--help"}, {.Path = "", .ClosedPipe = true});
+  const ToolResult result = RunTool({"--help"}, {.ClosedPipe = true});
   EXPECT_EQ(result.Status, 0);
   EXPECT_EQ(result.Err, "");
 }

@@ -3,6 +3,7 @@
 #include <array>
 #include <fcntl.h>
 #include <stdexcept>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -28,6 +29,11 @@ int PipeWithoutReader() {
   return ends[1];
 }
 
+void LimitMemory(std::size_t bytes) {
+  const rlimit limit{bytes, bytes};
+  if (bytes > 0 && ::setrlimit(RLIMIT_AS, &limit) != 0) ::_exit(kCannotRun);
+}
+
 // Becomes the tool; returns only where that fails.
 void Become(const std::vector<std::string>& arguments, const std::filesystem::path& folder) {
   if (!folder.empty() && ::chdir(folder.c_str()) != 0) return;
@@ -41,18 +47,20 @@ void Become(const std::vector<std::string>& arguments, const std::filesystem::pa
 
 }  // namespace
 
-ToolResult RunTool(const std::vector<std::string>& arguments, const ToolOutput& output,
+ToolResult RunTool(const std::vector<std::string>& arguments, const ToolSurroundings& surroundings,
                    const std::filesystem::path& folder) {
   const TemporaryFolder own;
   const std::string collected = (own / "out").string();
   const std::string complaints = (own / "err").string();
-  const int out = output.ClosedPipe ? PipeWithoutReader()
-                                    : OpenForWriting(output.Path.empty() ? collected : output.Path);
+  const int out = surroundings.ClosedPipe
+                      ? PipeWithoutReader()
+                      : OpenForWriting(surroundings.Path.empty() ? collected : surroundings.Path);
   const int err = OpenForWriting(complaints);
   const pid_t child = ::fork();
   if (child == 0) {
     ::dup2(out, STDOUT_FILENO);
     ::dup2(err, STDERR_FILENO);
+    LimitMemory(surroundings.MostMemory);
     Become(arguments, folder);
     ::_exit(kCannotRun);
   }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -13,17 +14,21 @@ struct ToolResult {
   std::string Err;
 };
 
-// Where the tool's standard output goes.
-struct ToolOutput {
+// Where the tool's standard output goes, and what it may use.
+struct ToolSurroundings {
   // A file or device to write to; empty to collect the output in the result.
-  std::string Path;
+  std::string Path = {};
   // A pipe whose reading end is closed before the tool starts.
   bool ClosedPipe = false;
+  // Bytes of address space that the tool may use; 0 for any number. Not for a sanitized tool, which
+  // needs terabytes of it.
+  std::size_t MostMemory = 0;
 };
 
 // Runs the built vantrel-report with `arguments` in `folder` (the current one where it is empty)
 // and waits for its end.
-ToolResult RunTool(const std::vector<std::string>& arguments, const ToolOutput& output = {},
+ToolResult RunTool(const std::vector<std::string>& arguments,
+                   const ToolSurroundings& surroundings = {},
                    const std::filesystem::path& folder = {});
 
 }  // namespace tests
