@@ -52,24 +52,29 @@ TrialBuilder SmallTrial(std::uint8_t processor) {
       .End(sample::SectionEnd::ZeroId);
 }
 
-// Opens `trial` and runs every report on it. True where the open or a report failed in one of the
-// ways that a damaged file may fail: a result code or a run-time error.
-bool Fails(const Trial& trial) {
-  tests::TrialOpener opener;
-  bool opened = false;
-  const int openError =
-      tests::ErrorNumberOf([&] { opened = opener.Open(trial) == OpenResult::Success; });
-  if (openError != 0 || !opened) return true;
-  bool failed = false;
-  for (const auto& report : AllReports()) {
-    failed |= tests::ErrorNumberOf([&] {
-                tests::TextOf([&](ReportOutput& output) { report(opener.State(), output); });
-              }) != 0;
+class DamagedTrial : public testing::TestWithParam<std::uint8_t> {
+ protected:
+  // Opens `trial` with a fresh state and runs every report on it. True where the open or a report
+  // failed in one of the ways that a damaged file may fail: a result code or a run-time error.
+  bool Fails(const Trial& trial) const {
+    tests::WriteAnew(trial, file_);
+    FileState state;
+    auto opened = OpenResult::FileNotOpened;
+    const int openError = tests::ErrorNumberOf(
+        [&] { opened = modVantrel::OpenC3dFile(state, file_.string(), tests::NoEvents); });
+    if (openError != 0 || opened != OpenResult::Success) return true;
+    bool failed = false;
+    for (const auto& report : AllReports()) {
+      failed |= tests::ErrorNumberOf([&] {
+                  tests::TextOf([&](ReportOutput& output) { report(state, output); });
+                }) != 0;
+    }
+    return failed;
   }
-  return failed;
-}
 
-class DamagedTrial : public testing::TestWithParam<std::uint8_t> {};
+  tests::TemporaryFolder folder_;
+  std::filesystem::path file_ = folder_ / "trial.c3d";
+};
 
 TEST_P(DamagedTrial, EveryPrefixEndsInAResultCodeOrARunTimeErrorUntilTheSectionIsWhole) {
   const Trial good = SmallTrial(GetParam()).Build();
