@@ -2,11 +2,14 @@
 
 #include <algorithm>
 #include <iostream>
+#include <sstream>
 
 #include <CLI/CLI.hpp>
 
 #include "Version.h"
 #include "cli/ReportTable.h"
+#include "cli/StandardOutput.h"
+#include "support/RuntimeError.h"
 
 namespace cli {
 
@@ -18,6 +21,26 @@ constexpr const char* kDescription =
 constexpr const char* kFooter =
     "\nExit status: 0 all well, 1 a file failed or its report was refused (the others are still "
     "printed), 2 wrong usage.";
+
+// The parser takes an argument such as "[a,b]" for a list and splits it. With a NUL in front, which
+// no argument of a process can hold, it stays one text; the options take it away again.
+constexpr char kShield = '\0';
+
+void ShieldBrackets(std::vector<std::string>& arguments) {
+  for (std::string& argument : arguments) {
+    if (argument.starts_with('[')) argument.insert(0, 1, kShield);
+  }
+}
+
+void TakeShieldsAway(CLI::App& app) {
+  const CLI::Validator unshield(
+      [](std::string& value) {
+        if (value.starts_with(kShield)) value.erase(0, 1);
+        return std::string();
+      },
+      "");
+  for (CLI::Option* option : app.get_options()) option->transform(unshield);
+}
 
 void AddOptions(CLI::App& app, Request& request) {
   app.add_option("--label", request.Label, "Point or analog label, in any case");
@@ -42,6 +65,7 @@ void AddOptions(CLI::App& app, Request& request) {
           },
           ""));
   app.add_option("FILE", request.Files, "C3D files")->required();
+  TakeShieldsAway(app);
 }
 
 void CheckRequest(CLI::App& app, Request& request) {
@@ -51,6 +75,22 @@ void CheckRequest(CLI::App& app, Request& request) {
   if (FindReport(request.Report)->NeedsLabel && app.count("--label") == 0) {
     throw CLI::RequiresError("the report '" + request.Report + "'", "--label");
   }
+}
+
+// Prints what was asked for in place of a report, and returns the exit status.
+int PrintText(std::string text) {
+  if (!text.ends_with('\n')) text += '\n';
+  StandardOutput output({});
+  try {
+    output.Piece(text);
+    output.Flush();
+  } catch (const OutputClosed&) {
+    // Whoever asked has seen enough.
+  } catch (const modAllPurpose::RuntimeError& error) {
+    std::cerr << "vantrel-report: " << RuntimeErrorTitle(error) << ' ' << error.what() << '\n';
+    return kSomeFailed;
+  }
+  return kAllWell;
 }
 
 }  // namespace
@@ -63,12 +103,15 @@ std::variant<Request, int> ParseCommandLine(std::vector<std::string> arguments) 
   Request request;
   AddOptions(app, request);
   try {
+    ShieldBrackets(arguments);
     std::ranges::reverse(arguments);  // the order in which the parser takes them
     app.parse(std::move(arguments));
     CheckRequest(app, request);
     return request;
   } catch (const CLI::Success& done) {
-    return app.exit(done);
+    std::ostringstream text;
+    app.exit(done, text, std::cerr);
+    return PrintText(text.str());
   } catch (const CLI::ParseError& error) {
     std::cerr << "vantrel-report: " << error.what()
               << "\nTry 'vantrel-report --help' for more information.\n";

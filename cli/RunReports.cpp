@@ -29,8 +29,7 @@ void Complain(const std::string& file, const RuntimeError& error) {
 
 // Opens `file` and writes its report; answers with the message of a failed open or a refused input,
 // empty where all is well.
-std::string OpenAndReport(const std::string& file, const Request& request,
-                               StandardOutput& output) {
+std::string OpenAndReport(const std::string& file, const Request& request, StandardOutput& output) {
   modVantrel::FileState state;
   const auto opened = modVantrel::OpenC3dFile(state, file, modVantrel::FindGaitEvents);
   if (opened != modVantrel::OpenResult::Success) {
@@ -46,7 +45,9 @@ bool Report(const std::string& file, const Request& request) {
     std::string complaint;
     try {
       complaint = OpenAndReport(file, request, output);
-    } catch (const RuntimeError&) {
+    } catch (const OutputClosed&) {
+      throw;
+    } catch (...) {
       output.Flush();  // what the report had written stands
       throw;
     }

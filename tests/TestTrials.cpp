@@ -25,6 +25,16 @@ OpenedTrial::OpenedTrial(const sample::Trial& trial) : file_(folder_ / "trial.c3
   result_ = modVantrel::OpenC3dFile(state_, file_.string(), NoEvents);
 }
 
+modVantrel::OpenResult TrialOpener::Open(const sample::Trial& trial) {
+  WriteAnew(trial, file_);
+  return modVantrel::OpenC3dFile(state_, file_.string(), NoEvents);
+}
+
+void WriteAnew(const sample::Trial& trial, const std::filesystem::path& path) {
+  std::filesystem::remove(path);
+  trial.WriteTo(path);
+}
+
 void NoEvents(modVantrel::FileState& /*state*/) {}
 
 int ErrorNumberOf(const std::function<void()>& work) {
@@ -34,6 +44,19 @@ int ErrorNumberOf(const std::function<void()>& work) {
   } catch (const modAllPurpose::RuntimeError& error) {
     return static_cast<int>(error.Number());
   }
+}
+
+std::string TextOf(const std::function<void(modAllPurpose::ReportOutput&)>& report) {
+  modAllPurpose::TextReport output;
+  report(output);
+  return output.Text();
+}
+
+std::vector<std::string> LinesOf(const std::string& text) {
+  std::vector<std::string> lines;
+  std::istringstream stream(text);
+  for (std::string line; std::getline(stream, line);) lines.push_back(line);
+  return lines;
 }
 
 std::string ReadWholeFile(const std::filesystem::path& path) {

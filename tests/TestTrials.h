@@ -1,12 +1,15 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "c3d/FileState.h"
 #include "c3d/OpenC3dFile.h"
 #include "sample/TrialBuilder.h"
+#include "support/ReportOutput.h"
 #include "support/RuntimeError.h"
 
 namespace tests {
@@ -43,11 +46,66 @@ class OpenedTrial {
   modVantrel::OpenResult result_;
 };
 
+// Opens trials one after the other in one state object, as a user does. A run-time error of an open
+// passes through; the state then is what the open left.
+class TrialOpener {
+ public:
+  modVantrel::OpenResult Open(const sample::Trial& trial);
+  modVantrel::OpenResult Open(const sample::TrialBuilder& builder) { return Open(builder.Build()); }
+
+  modVantrel::FileState& State() { return state_; }
+  // The file that every trial is written to.
+  std::string File() const { return file_.string(); }
+
+ private:
+  TemporaryFolder folder_;
+  std::filesystem::path file_ = folder_ / "trial.c3d";
+  modVantrel::FileState state_;
+};
+
+// Where the fields of the header stand in a file, counted from 1.
+namespace header {
+inline constexpr std::int32_t kParamBlockPointer = 1;
+inline constexpr std::int32_t kFileID = 2;
+inline constexpr std::int32_t kPointLabelCount = 3;
+inline constexpr std::int32_t kAnalogValuesPerFrame = 5;
+inline constexpr std::int32_t kMaxInterpolationGapAllowed = 11;
+inline constexpr std::int32_t kScaleFactor = 13;
+inline constexpr std::int32_t kFirstMarkerAndAnalogBlockPointer = 17;
+inline constexpr std::int32_t kAnalogSamplesPerChannel = 19;
+inline constexpr std::int32_t kPointFrameRate = 21;
+inline constexpr std::int32_t kReserved1 = 25;
+inline constexpr std::int32_t kEventDataFlag = 299;
+inline constexpr std::int32_t kTimedEventsCount = 301;
+inline constexpr std::int32_t kReserved2 = 303;
+inline constexpr std::int32_t kEventTimes = 305;
+inline constexpr std::int32_t kEventDisplaySwitches = 377;
+inline constexpr std::int32_t kReserved3 = 395;
+inline constexpr std::int32_t kEventLabels = 397;
+inline constexpr std::int32_t kReserved4 = 469;
+}  // namespace header
+
+// Where the parameter section of a trial starts, unless its builder was told otherwise, and its
+// fourth byte and first record.
+inline constexpr std::int32_t kSectionPosition = 513;
+inline constexpr std::int32_t kProcessorPosition = 516;
+inline constexpr std::int32_t kFirstRecordPosition = 517;
+
+// Writes `trial` to a new file in place of the one at `path`. Some file systems wait for the disk
+// when a file's content is replaced, which adds up in tests that write thousands.
+void WriteAnew(const sample::Trial& trial, const std::filesystem::path& path);
+
 // Stands for the search for events where a test does not need it.
 void NoEvents(modVantrel::FileState& state);
 
 // The number of the run-time error that `work` ends in; 0 where it ends without one.
 int ErrorNumberOf(const std::function<void()>& work);
+
+// What a report writes, lines ended by LF.
+std::string TextOf(const std::function<void(modAllPurpose::ReportOutput&)>& report);
+
+// The lines of `text` without their ends; the empty piece behind the last end is no line.
+std::vector<std::string> LinesOf(const std::string& text);
 
 std::string ReadWholeFile(const std::filesystem::path& path);
 

@@ -37,31 +37,17 @@ bool NextElement(ElementIndices& indices, const ParamRecord& record) {
   return false;
 }
 
-// "int(1,2,1,1,1,1,1)" as a column of 30 characters.
-std::string ElementTag(std::string_view type, const ElementIndices& indices,
-                       std::size_t indexCount) {
-  std::string tag(type);
-  for (std::size_t i = 0; i < indexCount; ++i) {
-    fmt::format_to(std::back_inserter(tag), "{}{}", i == 0 ? '(' : ',', indices[i]);
-  }
-  tag += ')';
-  tag.resize(kTagWidth, ' ');
-  return tag;
-}
-
 std::string ElementText(const ParamRecord& record, const ElementIndices& indices) {
   switch (record.DataType) {
     case modVantrel::kTextData:
-      return fmt::format("    {}'{}'", ElementTag("txt", indices, kTextIndices),
+      return fmt::format("    {}'{}'", ElementTag("txt", std::span(indices).first<kTextIndices>()),
                          record.TextValues.At(indices));
     case modVantrel::kByteData:
-      return fmt::format("    {}{}", ElementTag("byt", indices, indices.size()),
-                         record.ByteValues.At(indices));
+      return fmt::format("    {}{}", ElementTag("byt", indices), record.ByteValues.At(indices));
     case modVantrel::kIntegerData:
-      return fmt::format("    {}{}", ElementTag("int", indices, indices.size()),
-                         record.IntegerValues.At(indices));
+      return fmt::format("    {}{}", ElementTag("int", indices), record.IntegerValues.At(indices));
     default:
-      return fmt::format("    {}{}", ElementTag("sng", indices, indices.size()),
+      return fmt::format("    {}{}", ElementTag("sng", indices),
                          modAllPurposeNumbers::GeneralForm(record.SingleValues.At(indices)));
   }
 }
@@ -81,6 +67,16 @@ void PrintParamsOfGroup(const FileState& state, std::uint8_t groupId, ReportOutp
 }
 
 }  // namespace
+
+std::string ElementTag(std::string_view type, std::span<const std::int32_t> indices) {
+  std::string tag(type);
+  for (std::size_t i = 0; i < indices.size(); ++i) {
+    fmt::format_to(std::back_inserter(tag), "{}{}", i == 0 ? '(' : ',', indices[i]);
+  }
+  tag += ')';
+  tag.resize(kTagWidth, ' ');
+  return tag;
+}
 
 void PrintGroupAndParams(const ParamRecord& record, ReportOutput& output) {
   if (record.IsGroup()) {

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <cstdint>
+#include <span>
+#include <string>
 #include <string_view>
 
 #include "c3d/FileState.h"
@@ -7,6 +10,9 @@
 #include "support/ReportOutput.h"
 
 namespace reports {
+
+// The tag of an element, "int(1,2,1,1,1,1,1)", as a column of 30 characters; a longer one is cut.
+std::string ElementTag(std::string_view type, std::span<const std::int32_t> indices);
 
 // A group's name, or a parameter's name and one line for each of its elements, the last index
 // running fastest. The record must have been read with its values.
