@@ -1,5 +1,6 @@
 #include <array>
 #include <cmath>
+#include <filesystem>
 #include <limits>
 #include <string>
 
@@ -192,6 +193,18 @@ TEST(PointData, FrameThatIsClaimedButMissingIsAnErrorWhenItIsRead) {
   OpenedTrial trial(ThreePoints().Build().ClaimFrames(11, 15));
   ASSERT_EQ(trial.Result(), OpenResult::Success);
   EXPECT_EQ(ErrorNumberOf([&] { ReadPointDataForIndex(trial.State(), 1); }), kInputPastEndOfFile);
+}
+
+TEST(PointData, EveryCallReadsTheFileAnew) {
+  const sample::Trial whole = ThreePoints().Build();
+  OpenedTrial trial(whole);
+  EXPECT_EQ(ReadPointDataForIndex(trial.State(), 3).Count(), 4);
+  EXPECT_EQ(GetAnalogDataForLabel(trial.State(), "Fz").Count(), 4);
+  std::filesystem::resize_file(trial.File(), whole.Size() - 20);
+  EXPECT_EQ(ErrorNumberOf([&] { ReadPointDataForIndex(trial.State(), 3); }), kInputPastEndOfFile)
+      << "the file has shrunk since the last call";
+  EXPECT_EQ(ErrorNumberOf([&] { GetAnalogDataForLabel(trial.State(), "Fz"); }),
+            kInputPastEndOfFile);
 }
 
 // Frames with more bytes around a label than are worth reading along are read piece by piece.
