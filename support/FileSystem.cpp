@@ -34,6 +34,8 @@ class TemporaryFile {
       file_ = CreateNew(path_);
       if (file_ == nullptr && errno != EEXIST) break;
     }
+    // A new file cannot be missing itself: it is the folder.
+    if (file_ == nullptr && errno == ENOENT) throw RuntimeError(ErrorNumber::PathNotFound);
     if (file_ == nullptr) throw FileErrorFromErrno(errno);
   }
   TemporaryFile(const TemporaryFile&) = delete;

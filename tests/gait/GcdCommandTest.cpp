@@ -22,6 +22,7 @@ using tests::ReadWholeFile;
 using tests::TemporaryFolder;
 
 constexpr int kDivisionByZero = 11;
+constexpr int kPathNotFound = 76;
 
 // Answers as it was told and keeps the names it was asked about.
 class ToldAnswers : public OverwriteQuestion {
@@ -166,6 +167,15 @@ TEST_F(GcdFiles, OutputFolderTakesThemAll) {
   EXPECT_TRUE(Write({}, options).starts_with("Output: " + (other / "walk-L1.gcd").string()));
   EXPECT_EQ(NamesIn(other.Path()),
             (std::vector<std::string>{"walk-L1.gcd", "walk-L2.gcd", "walk-R1.gcd"}));
+  EXPECT_EQ(NamesIn(walk_.Folder().Path()), std::vector<std::string>{"walk.c3d"});
+}
+
+TEST_F(GcdFiles, OutputFolderThatIsMissingIsAnError) {
+  GcdOptions options;
+  options.OutputFolder = Path("missing");
+  EXPECT_EQ(ErrorNumberOf([&] { Write({}, options); }), kPathNotFound);
+  options.OutputFolder = walk_.File().string();
+  EXPECT_EQ(ErrorNumberOf([&] { Write({}, options); }), kPathNotFound) << "a file is no folder";
   EXPECT_EQ(NamesIn(walk_.Folder().Path()), std::vector<std::string>{"walk.c3d"});
 }
 
