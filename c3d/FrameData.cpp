@@ -158,6 +158,7 @@ AnalogFrames GetAnalogDataWithEventsForLabel(const FileState& state, std::string
 
 PointSamples ReadPointDataForIndex(const FileState& state, std::int32_t index) {
   if (index < 1 || index > state.Header.PointLabelCount) return {};
+  state.C3dFileNumber.ForgetBuffer();
   PointSamples samples(state.PointFrameCount);
   std::int32_t position = state.SeekPtrForFirstFrameData;
   for (std::int32_t label = 1; label <= index; ++label) {
@@ -176,6 +177,7 @@ PointSamples ReadPointDataForIndex(const FileState& state, std::int32_t index) {
 
 AnalogFrames ReadAnalogDataForIndex(const FileState& state, std::int32_t channel) {
   if (channel < 1 || static_cast<float>(channel) > state.AnalogChannelsCount) return {};
+  state.C3dFileNumber.ForgetBuffer();
   const FrameLayout layout = LayoutOf(state);
   // From the channel's first to its last sample in a frame.
   const double span = double{state.AnalogChannelsCount} * layout.ValueSize *

@@ -10,11 +10,8 @@ endif()
 
 if(VANTREL_SANITIZE)
   # The sanitizers' own code makes GCC see uninitialised reads in the standard library.
-  add_compile_options($<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
+  target_compile_options(vantrel_warnings INTERFACE
+    $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
-  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    # With the sanitizers' code in it, GCC takes the standard library's own <regex> for unsafe.
-    target_compile_options(vantrel_warnings INTERFACE -Wno-maybe-uninitialized)
-  endif()
 endif()

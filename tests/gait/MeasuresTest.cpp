@@ -1,0 +1,222 @@
+#include <array>
+#include <cmath>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "gait/EventExtraction.h"
+#include "gait/GcdCalcs.h"
+#include "gait/MeasuresReport.h"
+#include "support/NumberForms.h"
+#include "tests/GaitTrials.h"
+
+namespace {
+
+using namespace modVantrel;
+using modAllPurposeNumbers::GeneralForm;
+using tests::ErrorNumberOf;
+using tests::Moving;
+using tests::OpenedWalk;
+using tests::Standing;
+
+constexpr int kOverflow = 6;
+constexpr int kSubscriptOutOfRange = 9;
+constexpr int kDivisionByZero = 11;
+
+// The lengths' calibration: the float 1.005.
+const double kCalibration{1.005F};
+
+FileState StateWithStride(const StrideRecord& stride) {
+  FileState state;
+  state.GaitEvents.ValidStrides.Append(stride);
+  state.GaitEvents.ValidStrideCount = 1;
+  state.Header.PointFrameRate = 120;
+  return state;
+}
+
+SingleValueMeasures MeasuresOf(const FileState& state) {
+  return clsGcdCalcs(state).CalcSingleValueMeasures(1);
+}
+
+// The measures of the whole-frame trial whose left toe moves by `step` a frame, so that its stride
+// displaces it by 50 steps, and whose right toe stands where the left one starts the stride plus
+// `ahead`.
+SingleValueMeasures MeasuresOfToes(const std::array<float, 3>& step,
+                                   const std::array<float, 3>& ahead) {
+  sample::TrialBuilder builder = tests::WholeFrameTrial();
+  builder.AddPoint("LTOE", Moving({5, 6, 7}, step))
+      .AddPoint("RTOE", Standing(5 + 17 * step[0] + ahead[0], 6 + 17 * step[1] + ahead[1],
+                                 7 + 17 * step[2] + ahead[2]));
+  OpenedWalk walk(builder.Build(), FindGaitEvents);
+  return MeasuresOf(walk.State());
+}
+
+TEST(Measures, TimingOfAStrideOfTwelveTenthsOfASecond) {
+  const SingleValueMeasures measures =
+      MeasuresOf(StateWithStride({kSideLeft, 3, 0, 0.12F * 1.2F, 0.5F * 1.2F, 0.62F * 1.2F, 1.2F}));
+  EXPECT_EQ(measures.Side, kSideLeft);
+  EXPECT_EQ(measures.Number, 3);
+  EXPECT_EQ(GeneralForm(measures.StrideTime), "1.2");
+  EXPECT_EQ(GeneralForm(measures.Cadence), "0.8333333") << "strides per second";
+  EXPECT_FLOAT_EQ(measures.OppositeFootOffPct, 12);
+  EXPECT_FLOAT_EQ(measures.OppositeFootStrikePct, 50);
+  EXPECT_FLOAT_EQ(measures.SameFootOffPct, 62);
+  EXPECT_FLOAT_EQ(measures.StepTimePct, 50);
+  EXPECT_FLOAT_EQ(measures.SingleSupportPct, 38);
+  EXPECT_FLOAT_EQ(measures.DoubleSupportPct, 24);
+  EXPECT_EQ(measures.VideoRate, 120);
+}
+
+TEST(Measures, StepTimeIsFromTheOppositeStrikeToTheClosingStrike) {
+  const SingleValueMeasures measures =
+      MeasuresOf(StateWithStride({kSideRight, 1, 1, 1.125F, 1.75F, 1.875F, 2}));
+  EXPECT_EQ(measures.StepTimePct, 25.0F);
+  EXPECT_EQ(measures.OppositeFootStrikePct, 75.0F);
+}
+
+TEST(Measures, LengthsAreThoseOfTheFloorPlaneEnlargedByHalfAPercent) {
+  const SingleValueMeasures measures = MeasuresOfToes({16, 12, 100}, {300, 400, 900});
+  EXPECT_EQ(measures.StrideLength, static_cast<float>(1000 * kCalibration));
+  EXPECT_EQ(measures.StepLength, static_cast<float>(500 * kCalibration));
+  EXPECT_EQ(measures.Speed, static_cast<float>(double{measures.StrideLength} / 0.78125));
+}
+
+TEST(Measures, DirectionOfWalkingDoesNotMatter) {
+  const SingleValueMeasures there = MeasuresOfToes({16, 12, 0}, {300, 400, 0});
+  const SingleValueMeasures back = MeasuresOfToes({-16, -12, 0}, {-300, -400, 0});
+  EXPECT_EQ(there.StrideLength, back.StrideLength);
+  EXPECT_EQ(there.StepLength, back.StepLength);
+  EXPECT_EQ(there.ProgressionAxis, back.ProgressionAxis);
+}
+
+TEST(Measures, ProgressionAxisIsTheOneOfTheLargerDisplacement) {
+  EXPECT_EQ(MeasuresOfToes({16, 12, 0}, {}).ProgressionAxis, 1);
+  EXPECT_EQ(MeasuresOfToes({12, 16, 0}, {}).ProgressionAxis, 2);
+  EXPECT_EQ(MeasuresOfToes({-12, 16, 100}, {}).ProgressionAxis, 2);
+  EXPECT_EQ(MeasuresOfToes({3, -4, 0}, {}).ProgressionAxis, 2);
+}
+
+TEST(Measures, EqualDisplacementsCountAsX) {
+  EXPECT_EQ(MeasuresOfToes({16, 16, 0}, {}).ProgressionAxis, 1);
+  EXPECT_EQ(MeasuresOfToes({16, -16, 0}, {}).ProgressionAxis, 1);
+  EXPECT_EQ(MeasuresOfToes({0, 0, 9}, {}).ProgressionAxis, 1);
+}
+
+TEST(Measures, RightStrideStepsFromTheRightToeToTheLeft) {
+  sample::TrialBuilder builder;
+  builder.StoredAs(sample::Storage::Single).Frames(1, 81).Rate(64);
+  tests::AddStrideEvents(builder, "Right", tests::kWholeFrameStride);
+  // At the first strike the right toe is at 10 * 17; the left one then stands 330 ahead of that.
+  builder.AddPoint("LTOE", Standing(500, 0, 0)).AddPoint("RTOE", Moving({0, 0, 0}, {10, 0, 0}));
+  OpenedWalk walk(builder.Build(), FindGaitEvents);
+  const SingleValueMeasures measures = MeasuresOf(walk.State());
+  EXPECT_EQ(measures.Side, kSideRight);
+  EXPECT_EQ(measures.StrideLength, static_cast<float>(500 * kCalibration));
+  EXPECT_EQ(measures.StepLength, static_cast<float>(330 * kCalibration));
+}
+
+TEST(Measures, OneToeMarkerAloneGivesNoLengths) {
+  for (const std::string toe : {"LTOE", "RTOE"}) {
+    sample::TrialBuilder builder = tests::WholeFrameTrial();
+    builder.AddPoint(toe, Moving({}, {16, 12, 0}));
+    OpenedWalk walk(builder.Build(), FindGaitEvents);
+    const SingleValueMeasures measures = MeasuresOf(walk.State());
+    EXPECT_EQ(measures.StrideLength, 0.0F) << toe;
+    EXPECT_EQ(measures.StepLength, 0.0F);
+    EXPECT_EQ(measures.Speed, 0.0F);
+    EXPECT_EQ(measures.ProgressionAxis, 0);
+    EXPECT_EQ(measures.StrideTime, 0.78125F) << "the timing is there";
+  }
+}
+
+TEST(Measures, MissingToeSampleGivesNoNumberAndNoError) {
+  const SingleValueMeasures measures = MeasuresOfToes({16, 12, 0}, {std::nanf(""), 0, 0});
+  EXPECT_TRUE(std::isnan(measures.StepLength));
+  EXPECT_FALSE(std::isnan(measures.StrideLength));
+}
+
+TEST(Measures, StrideOfNoDurationIsADivisionByZero) {
+  EXPECT_EQ(ErrorNumberOf([] {
+              MeasuresOf(StateWithStride({kSideLeft, 1, 1, 1, 1, 1, 1}));
+            }),
+            kDivisionByZero);
+}
+
+TEST(Measures, CadenceBeyondAFloatIsAnOverflow) {
+  EXPECT_EQ(ErrorNumberOf([] {
+              MeasuresOf(StateWithStride({kSideLeft, 1, 0, 0, 0, 0, 1e-40F}));
+            }),
+            kOverflow);
+}
+
+TEST(Measures, StrideWithoutASideIsAnIndexErrorWhereThereAreToes) {
+  sample::TrialBuilder builder = tests::WholeFrameTrial();
+  builder.AddPoint("LTOE", Standing(0, 0, 0)).AddPoint("RTOE", Standing(0, 0, 0));
+  OpenedWalk walk(builder.Build(), FindGaitEvents);
+  for (const std::int32_t side : {-1, 0, 3}) {
+    walk.State().GaitEvents.ValidStrides[1].Side = side;
+    EXPECT_EQ(ErrorNumberOf([&] { MeasuresOf(walk.State()); }), kSubscriptOutOfRange) << side;
+  }
+}
+
+TEST(Measures, StrideWithoutASideHasItsTimingWhereThereAreNoToes) {
+  const SingleValueMeasures measures =
+      MeasuresOf(StateWithStride({kSideNone, 1, 0, 0.1F, 0.5F, 0.6F, 1}));
+  EXPECT_EQ(measures.Cadence, 1.0F);
+}
+
+TEST(Measures, StrideOutsideTheListIsAnIndexError) {
+  const FileState state = StateWithStride({kSideLeft, 1, 0, 0.1F, 0.5F, 0.6F, 1});
+  clsGcdCalcs calcs(state);
+  for (const std::int32_t index : {-1, 0, 2}) {
+    EXPECT_EQ(ErrorNumberOf([&] { calcs.CalcSingleValueMeasures(index); }), kSubscriptOutOfRange);
+  }
+}
+
+std::string MeasuresReport(const FileState& state) {
+  return tests::ReportText([&](auto& output) { ShowSingleValueStrikeOffMeasures(state, output); });
+}
+
+TEST(MeasuresReport, TrialWithoutStridesIsOneEmptyLine) {
+  EXPECT_EQ(MeasuresReport(FileState()), "\n");
+}
+
+TEST(MeasuresReport, PrintsEachStride) {
+  sample::TrialBuilder builder = tests::WholeFrameTrial();
+  builder.AddPoint("LTOE", Moving({}, {16, 12, 0})).AddPoint("RTOE", Standing(572, 604, 99));
+  OpenedWalk walk(builder.Build(), FindGaitEvents);
+  const std::string left =
+      "    Stridetime:              0.78125\n"
+      "    Cadence:                 1.28\n"
+      "    StepTimePct:             50\n"
+      "    OppositeFootOffPct:      10\n"
+      "    OppositeFootStrikePct:   50\n"
+      "    SameFootOffPct:          60\n"
+      "    SingleSupportPct:        40\n"
+      "    DoubleSupportPct:        20\n"
+      "    StrideLength:            1005\n"
+      "    StepLength:              502.5\n"
+      "    Speed:                   1286.4\n"
+      "    VideoRate:               64\n"
+      "\n";
+  EXPECT_EQ(MeasuresReport(walk.State()), "Left Side #1\n" + left + "\n");
+
+  StrideRecord second = walk.Gait().ValidStrides[1];
+  second.Number = 12;
+  walk.State().GaitEvents.ValidStrides.Append(second);
+  walk.State().GaitEvents.ValidStrideCount = 2;
+  EXPECT_EQ(MeasuresReport(walk.State()),
+            "Left Side #1\n" + left + "Left Side #12\n" + left + "\n");
+}
+
+TEST(MeasuresReport, KeepsWhatItHadWrittenBeforeAnError) {
+  FileState state = StateWithStride({kSideLeft, 1, 0, 0.1F, 0.5F, 0.6F, 1});
+  state.GaitEvents.ValidStrides.Append({kSideLeft, 2, 1, 1, 1, 1, 1});
+  state.GaitEvents.ValidStrideCount = 2;
+  modAllPurpose::TextReport output;
+  EXPECT_EQ(ErrorNumberOf([&] { ShowSingleValueStrikeOffMeasures(state, output); }),
+            kDivisionByZero);
+  EXPECT_EQ(tests::SplitLines(output.Text()).size(), 14U) << "the first stride's lines";
+}
+
+}  // namespace

@@ -1,0 +1,122 @@
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "gait/EventNames.h"
+#include "gait/StrikeOffReport.h"
+#include "tests/GaitTrials.h"
+
+namespace {
+
+using namespace modVantrel;
+using tests::StateWithEvents;
+
+std::string EventsReport(const FileState& state) {
+  return tests::ReportText([&](auto& output) { ShowStrikeOffEvents(state, output); });
+}
+
+// The report's line that holds `part`.
+std::string LineWith(const std::string& report, const std::string& part) {
+  for (const std::string& line : tests::SplitLines(report)) {
+    if (line.find(part) != std::string::npos) return line;
+  }
+  return "no line with " + part;
+}
+
+TEST(SideName, IsNoneForAnyOtherCode) {
+  EXPECT_EQ(SideName(1), "Left");
+  EXPECT_EQ(SideName(2), "Right");
+  for (const std::int32_t side : {0, 3, -1}) EXPECT_EQ(SideName(side), "None");
+}
+
+TEST(EventTypeName, IsOtherForAnyOtherCode) {
+  EXPECT_EQ(EventTypeName(1), "Foot Strike");
+  EXPECT_EQ(EventTypeName(2), "Foot Off");
+  for (const std::int32_t type : {0, 3, -1}) EXPECT_EQ(EventTypeName(type), "Other");
+}
+
+TEST(StrikeOffReport, TrialWithoutEventsPrintsZerosAndHeadings) {
+  EXPECT_EQ(EventsReport(FileState()),
+            "TotalCount:            0\n"
+            "SidedStrikeOffCount:   0\n"
+            "SidedGeneralCount:     0\n"
+            "NonSidedCount:         0\n"
+            "\n"
+            "ValidStrideCount:      0\n"
+            "\n"
+            "SidedStrikeOffEvents (Side & Type, Time):\n"
+            "\n"
+            "SidedGeneralEvents (Side & Type, Time):\n"
+            "\n"
+            "NonSidedEvents (Side & Type, Time):\n"
+            "\n"
+            "ValidStrides (Side, Number, StartStrikeTime, OppositeFootOffTime, "
+            "OppositeFootStrikeTime, SameFootOffTime, StopStrikeTime):\n"
+            "\n"
+            "\n");
+}
+
+TEST(StrikeOffReport, PrintsCountsListsAndStrides) {
+  FileState state = StateWithEvents({{kSideLeft, kTypeFootStrike, 1.1F}});
+  state.GaitEvents.TotalCount = 4;
+  state.GaitEvents.SidedGeneralCount = 1;
+  state.GaitEvents.SidedGeneralEvents.Append({kSideRight, kTypeOther, 2});
+  state.GaitEvents.NonSidedCount = 2;
+  state.GaitEvents.NonSidedEvents.Append({kSideNone, kTypeOther, 12.345F});
+  state.GaitEvents.NonSidedEvents.Append({kSideNone, kTypeFootOff, 3});
+  state.GaitEvents.ValidStrideCount = 1;
+  state.GaitEvents.ValidStrides.Append({kSideLeft, 1, 1.0F, 1.1F, 1.5F, 1.6F, 2.0F});
+  EXPECT_EQ(EventsReport(state),
+            "TotalCount:            4\n"
+            "SidedStrikeOffCount:   1\n"
+            "SidedGeneralCount:     1\n"
+            "NonSidedCount:         2\n"
+            "\n"
+            "ValidStrideCount:      1\n"
+            "\n"
+            "SidedStrikeOffEvents (Side & Type, Time):\n"
+            "    Left Foot Strike      01.10000\n"
+            "\n"
+            "SidedGeneralEvents (Side & Type, Time):\n"
+            "    Right Other           02.00000\n"
+            "\n"
+            "NonSidedEvents (Side & Type, Time):\n"
+            "    None Other            12.34500\n"
+            "    None Foot Off         03.00000\n"
+            "\n"
+            "ValidStrides (Side, Number, StartStrikeTime, OppositeFootOffTime, "
+            "OppositeFootStrikeTime, SameFootOffTime, StopStrikeTime):\n"
+            "    Left   01  01.00000  01.10000  01.50000  01.60000  02.00000\n"
+            "\n"
+            "\n");
+}
+
+TEST(StrikeOffReport, NegativeTotalCountPrintsAsItIs) {
+  FileState state;
+  state.GaitEvents.TotalCount = -3;
+  EXPECT_EQ(LineWith(EventsReport(state), "TotalCount"), "TotalCount:            -3");
+}
+
+TEST(StrikeOffReport, TimesRoundAndGrow) {
+  const FileState state = StateWithEvents({{kSideLeft, kTypeFootStrike, 0.000004F},
+                                           {kSideRight, kTypeFootStrike, 9.999996F},
+                                           {kSideRight, kTypeFootOff, 123.456F}});
+  const std::string report = EventsReport(state);
+  EXPECT_EQ(LineWith(report, "Left Foot Strike"), "    Left Foot Strike      00.00000");
+  EXPECT_EQ(LineWith(report, "Right Foot Strike"), "    Right Foot Strike     10.00000");
+  EXPECT_EQ(LineWith(report, "Right Foot Off"), "    Right Foot Off        123.45600");
+}
+
+TEST(StrikeOffReport, StrideNumberOfThreeDigitsMakesTheLineLonger) {
+  FileState state;
+  state.GaitEvents.ValidStrideCount = 2;
+  state.GaitEvents.ValidStrides.Append({kSideRight, 123, 1, 1, 1, 1, 1});
+  state.GaitEvents.ValidStrides.Append({kSideNone, 9, 1, 1, 1, 1, 1});
+  const std::string report = EventsReport(state);
+  EXPECT_EQ(LineWith(report, "    Right"),
+            "    Right  123  01.00000  01.00000  01.00000  01.00000  01.00000");
+  EXPECT_EQ(LineWith(report, "    None"),
+            "    None   09  01.00000  01.00000  01.00000  01.00000  01.00000");
+}
+
+}  // namespace

@@ -1,0 +1,62 @@
+#include "tests/reports/AllReports.h"
+
+#include <functional>
+
+#include "app/reports/HeaderReport.h"
+#include "app/reports/ListingReport.h"
+#include "app/reports/NavigationTree.h"
+#include "app/reports/ParameterReport.h"
+#include "gait/GcdCalcs.h"
+#include "gait/MeasuresReport.h"
+#include "gait/NormalizedReport.h"
+#include "gait/StrikeOffReport.h"
+#include "tests/GaitTrials.h"
+
+namespace tests {
+
+using modAllPurpose::ReportOutput;
+using modVantrel::FileState;
+
+namespace {
+
+using Plain = void (*)(const FileState&, ReportOutput&);
+using OfLabel = modAllPurpose::ReportResult (*)(const FileState&, std::string_view, ReportOutput&);
+
+void AddOfLabel(std::map<std::string, std::string>& texts, const FileState& state,
+                const std::string& name, OfLabel report,
+                const modAllPurpose::OneBasedTable<std::string>& labels) {
+  for (const std::string& label : labels) {
+    texts[name + ' ' + label] =
+        ReportText([&](ReportOutput& output) { (void)report(state, label, output); });
+  }
+}
+
+}  // namespace
+
+std::map<std::string, std::string> AllReportsOf(const FileState& state) {
+  std::map<std::string, std::string> texts;
+  const std::map<std::string, Plain> plain = {
+      {"groups", reports::ShowAllGroups},
+      {"parameters", reports::ShowAllGroupsAndAllParams},
+      {"tree", reports::ShowTree},
+      {"labels", reports::ShowPointLabels},
+      {"events", modVantrel::ShowStrikeOffEvents},
+      {"measures", modVantrel::ShowSingleValueStrikeOffMeasures}};
+  for (const auto& [name, report] : plain) {
+    texts[name] = ReportText([&, show = report](ReportOutput& output) { show(state, output); });
+  }
+  AddOfLabel(texts, state, "point", reports::ShowPointData, state.PointLabels);
+  AddOfLabel(texts, state, "point with events", reports::ShowPointDataWithEvents,
+             state.PointLabels);
+  AddOfLabel(texts, state, "normalized", modVantrel::ShowNormalized, state.PointLabels);
+  AddOfLabel(texts, state, "analog", reports::ShowAnalogData, state.AnalogLabels);
+  AddOfLabel(texts, state, "analog with events", reports::ShowAnalogDataWithEvents,
+             state.AnalogLabels);
+  modVantrel::clsGcdCalcs calcs(state);
+  for (std::int32_t i = 1; i <= state.GaitEvents.ValidStrideCount; ++i) {
+    texts[Numbered("gcd ", i)] = calcs.GcdText(i, "!Left", "L", {}, false, false);
+  }
+  return texts;
+}
+
+}  // namespace tests
