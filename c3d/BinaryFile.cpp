@@ -55,7 +55,7 @@ void BinaryFile::Skip(std::uint64_t count) {
 }
 
 void BinaryFile::RequireLeft(std::uint64_t count) const {
-  if (IsBuffered(static_cast<std::size_t>(count))) return;
+  if (IsBuffered(count)) return;
   const std::uint64_t size = file_.Size();
   if (offset_ > size || count > size - offset_) throw RuntimeError(ErrorNumber::InputPastEndOfFile);
 }
@@ -65,7 +65,7 @@ void BinaryFile::ForgetBuffer() {
   bufferedBytes_ = 0;
 }
 
-bool BinaryFile::IsBuffered(std::size_t count) const {
+bool BinaryFile::IsBuffered(std::uint64_t count) const {
   if (offset_ < bufferOffset_) return false;
   const std::uint64_t start = offset_ - bufferOffset_;
   return start <= bufferedBytes_ && count <= bufferedBytes_ - start;

@@ -67,7 +67,7 @@ class BinaryFile {
   };
 
  private:
-  bool IsBuffered(std::size_t count) const;
+  bool IsBuffered(std::uint64_t count) const;
   void Fill(std::size_t count);
 
   modAllPurpose::RandomAccessFile file_;

@@ -61,8 +61,8 @@ FramePlace PlaceOf(const FileState& state, const FrameLayout& layout, std::int32
 
 std::int32_t NextFrame(const FileState& state, const FrameLayout& layout, const FramePlace& place,
                        std::int32_t position) {
-  const std::int32_t next = ToLong(std::int64_t{position} + layout.FrameSize);
-  return place.FrameIndex + 1 == state.PointFrameCount ? 0 : next;
+  if (place.FrameIndex + 1 == state.PointFrameCount) return 0;
+  return ToLong(std::int64_t{position} + layout.FrameSize);
 }
 
 float FrameTime(const FileState& state, const FramePlace& place) {
@@ -100,7 +100,7 @@ float ReadAnalogValue(const FileState& state, const FrameLayout& layout, std::in
 }
 
 std::int32_t IndexOf(const OneBasedTable<std::string>& labels, std::string_view label) {
-  const std::string wanted = UpperCase(modAllPurpose::Trimmed(label));
+  const std::string wanted = modAllPurpose::SearchKey(label);
   for (std::int32_t i = 1; i <= labels.Count(); ++i) {
     if (UpperCase(labels[i]) == wanted) return i;
   }

@@ -55,7 +55,7 @@ OpenResult DeriveFromHeader(FileState& state) {
   C3dHeader& header = state.Header;
   ConvertDecFloatInPlace(header.ScaleFactor, state.ProcessorType);
   ConvertDecFloatInPlace(header.PointFrameRate, state.ProcessorType);
-  for (float& time : header.EventTimes) ConvertDecFloatInPlace(time, state.ProcessorType);
+  ConvertDecFloatArray(header.EventTimes.AsSpan(), state.ProcessorType);
 
   state.AnalogChannelsCount = 0;
   if (header.AnalogSamplesPerChannel > 0) {

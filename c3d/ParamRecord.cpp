@@ -1,8 +1,10 @@
 #include "c3d/ParamRecord.h"
 
 #include <algorithm>
+#include <span>
 
 #include "support/RuntimeError.h"
+#include "support/Text.h"
 
 namespace modVantrel {
 
@@ -36,18 +38,15 @@ std::size_t ArrayShape::Offset(const ElementIndices& indices) const {
   return offset;
 }
 
-void TextArray::Append(std::string_view text) {
-  texts_ += text;
-  ends_.push_back(texts_.size());
-}
-
-std::string_view TextArray::At(const ElementIndices& indices) const {
+std::string TextArray::At(const ElementIndices& indices) const {
   return InFileOrder(shape_.Offset(indices));
 }
 
-std::string_view TextArray::InFileOrder(std::size_t offset) const {
-  const std::size_t start = offset == 0 ? 0 : ends_[offset - 1];
-  return std::string_view(texts_).substr(start, ends_[offset] - start);
+std::string TextArray::InFileOrder(std::size_t offset) const {
+  std::string text =
+      modAllPurpose::FromWindows1252(std::span(characters_).subspan(offset * length_, length_));
+  modAllPurpose::TrimInPlace(text);
+  return text;
 }
 
 }  // namespace modVantrel

@@ -4,7 +4,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
-#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -52,28 +51,28 @@ class ValueArray {
   std::vector<Number> values_;
 };
 
-// The texts of a parameter, kept end to end so that a large array costs one allocation.
+// The texts of a parameter, kept as the file has them so that a large array takes no more memory
+// than its bytes.
 class TextArray {
  public:
   TextArray() = default;
-  explicit TextArray(const ArrayShape& shape) : shape_(shape) {}
+  // `characters` are the Windows-1252 texts, `length` bytes each, in file order.
+  TextArray(const ArrayShape& shape, std::size_t length, std::vector<std::byte> characters)
+      : shape_(shape), length_(length), characters_(std::move(characters)) {}
 
-  // Adds the next element, in file order.
-  void Append(std::string_view text);
-
-  // Valid as long as the array; error 9 where there is no such element.
-  std::string_view At(const ElementIndices& indices) const;
+  // The element as UTF-8, trimmed; error 9 where there is none.
+  std::string At(const ElementIndices& indices) const;
 
   bool Holds(const ElementIndices& indices) const { return shape_.Holds(indices); }
 
-  std::size_t Count() const { return ends_.size(); }
+  std::size_t Count() const { return length_ == 0 ? 0 : characters_.size() / length_; }
   // The element at `offset`, from 0 in file order, which must be below Count().
-  std::string_view InFileOrder(std::size_t offset) const;
+  std::string InFileOrder(std::size_t offset) const;
 
  private:
   ArrayShape shape_;
-  std::string texts_;
-  std::vector<std::size_t> ends_;
+  std::size_t length_ = 0;
+  std::vector<std::byte> characters_;
 };
 
 // One group or one parameter of the parameter section. Exactly one of the value arrays is filled,

@@ -16,6 +16,7 @@ namespace modVantrel {
 
 using modAllPurpose::ErrorNumber;
 using modAllPurpose::RuntimeError;
+using modAllPurpose::SearchKey;
 using modAllPurpose::UpperCase;
 using modAllPurposeNumbers::ToLong;
 
@@ -68,20 +69,14 @@ std::vector<Number> ReadNumbers(BinaryFile& file, std::uint64_t count, Decode de
   return numbers;
 }
 
-// Reads `count` texts of `length` characters each, trimmed.
-TextArray ReadTexts(BinaryFile& file, const ArrayShape& shape, std::size_t length) {
-  TextArray texts(shape);
-  const std::uint64_t count = shape.Count();
-  for (std::uint64_t i = 0; i < count; ++i) texts.Append(ReadTrimmedText(file, length));
-  return texts;
-}
-
 void ReadValues(BinaryFile& file, ParamRecord& record, std::uint8_t processorType,
                 std::size_t stringLength) {
   const ArrayShape shape(record.Dimensions);
   switch (record.DataType) {
     case kTextData:
-      record.TextValues = ReadTexts(file, shape, stringLength);
+      record.TextValues = {shape, stringLength,
+                           ReadNumbers<std::byte, 1>(file, shape.Count() * stringLength,
+                                                     [](auto bytes) { return bytes[0]; })};
       break;
     case kByteData:
       record.ByteValues = {shape, ReadNumbers<std::uint8_t, 1>(file, shape.Count(), [](auto bytes) {
@@ -172,18 +167,24 @@ ParamRecord ReadParamRecordAt(const FileState& state, std::int32_t position) {
   return ReadParamRecord(state, position, true, isLast);
 }
 
-GroupAndParam FindGroupAndParam(const FileState& state, std::string_view groupName,
-                                std::string_view paramName) {
-  const std::string group = UpperCase(modAllPurpose::Trimmed(groupName));
-  const std::string param = UpperCase(modAllPurpose::Trimmed(paramName));
-  GroupAndParam found;
+ParamRecord FindGroup(const FileState& state, std::string_view groupName) {
+  const std::string wanted = SearchKey(groupName);
+  ParamRecord group;
   WalkParamChain(state, [&](const ParamRecord& record, std::int32_t /*position*/) {
-    const bool matches = record.IsGroup() && UpperCase(record.Name) == group;
-    if (matches) found.Group = record;
+    const bool matches = record.IsGroup() && UpperCase(record.Name) == wanted;
+    if (matches) group = record;
     return matches;
   });
+  return group;
+}
+
+GroupAndParam FindGroupAndParam(const FileState& state, std::string_view groupName,
+                                std::string_view paramName) {
+  GroupAndParam found;
+  found.Group = FindGroup(state, groupName);
   if (!found.GroupFound()) return found;
 
+  const std::string param = SearchKey(paramName);
   WalkParamChain(state, [&](const ParamRecord& record, std::int32_t position) {
     const bool matches =
         record.IsParam() && record.Id == found.Group.Id && UpperCase(record.Name) == param;

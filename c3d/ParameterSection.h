@@ -37,6 +37,10 @@ void WalkParamChain(const FileState& state, Visit&& visit) {
 // The record at `position` with its values.
 ParamRecord ReadParamRecordAt(const FileState& state, std::int32_t position);
 
+// The first group of that name, ignoring case and the blanks around it; Id 0 where there is none.
+// Errors as ReadParamRecord.
+ParamRecord FindGroup(const FileState& state, std::string_view groupName);
+
 // The first group of that name and its first parameter of that name, ignoring case and the blanks
 // around both names. What is not found has Id 0 and no values. Errors as ReadParamRecord.
 GroupAndParam FindGroupAndParam(const FileState& state, std::string_view groupName,

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "c3d/MotionSystem.h"
+
 namespace modVantrel {
 
 // Where gait events come from: the EVENT group of the C3D file, or the event file that one motion
@@ -11,5 +13,8 @@ inline constexpr EventSource kEventSource = EventSource::EventFile;
 #else
 inline constexpr EventSource kEventSource = EventSource::EventGroup;
 #endif
+
+static_assert(kEventSource == EventSource::EventGroup || giTypeOfMotionSystem == MotionSystem::Mac,
+              "only the MAC system writes an event file");
 
 }  // namespace modVantrel

@@ -1,9 +1,11 @@
 #include "gait/SubjectRecord.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstddef>
 #include <span>
+#include <utility>
 
 #include "c3d/ParameterSection.h"
 #include "support/FileSystem.h"
@@ -14,6 +16,7 @@
 namespace modVantrel {
 
 using modAllPurpose::IgnoringErrors;
+using modAllPurpose::StripAtNul;
 using modAllPurpose::Trimmed;
 using modAllPurpose::UpperCase;
 using Date = std::optional<std::chrono::year_month_day>;
@@ -35,7 +38,8 @@ void TryParams(const FileState& state, std::span<const char* const> names, Take 
   for (const char* group : kGroups) {
     for (const char* name : names) {
       const ParamRecord param = FindGroupAndParam(state, group, name).Param;
-      if (param.TextValues.Holds(FirstElement()) && take(param.TextValues.At(FirstElement()))) {
+      if (param.TextValues.Holds(FirstElement()) &&
+          take(StripAtNul(param.TextValues.At(FirstElement())))) {
         return;
       }
     }
@@ -49,8 +53,9 @@ std::string SubjectFileText(const FileState& state) {
   IgnoringErrors([&] {
     modAllPurpose::RandomAccessFile file;
     file.Open(modAllPurpose::Utf8Path(trial.parent_path() / "subject.ini"));
-    text.resize(kLargestSubjectFile);
-    text.resize(file.ReadAt(0, std::as_writable_bytes(std::span(text))));
+    std::string read(kLargestSubjectFile, '\0');
+    read.resize(file.ReadAt(0, std::as_writable_bytes(std::span(read))));
+    text = std::move(read);
   });
   return text;
 }

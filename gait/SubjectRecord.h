@@ -25,7 +25,8 @@ struct SubjectOptions {
 };
 
 // Each entry from the first place that has it: `options`, the trial's own parameters, the file
-// "subject.ini" in the trial's folder. Nothing is guessed. Errors while reading parameters pass.
+// "subject.ini" in the trial's folder. Nothing is guessed. Errors while reading parameters are
+// passed on.
 SubjectRecord FindSubject(const FileState& state, const SubjectOptions& options);
 
 // The calendar date that `text` writes as YYYY-MM-DD, blanks around it aside.

@@ -14,12 +14,21 @@ namespace modAllPurpose {
 
 namespace {
 
-std::FILE* CreateNew(const std::filesystem::path& path) {
 #ifdef _WIN32
-  return _wfopen(path.c_str(), L"wbx");
+std::FILE* CreateNew(const std::filesystem::path& path) { return _wfopen(path.c_str(), L"wbx"); }
+std::FILE* OpenToChange(const std::filesystem::path& path) { return _wfopen(path.c_str(), L"r+b"); }
 #else
-  return std::fopen(path.c_str(), "wbx");
+std::FILE* CreateNew(const std::filesystem::path& path) { return std::fopen(path.c_str(), "wbx"); }
+std::FILE* OpenToChange(const std::filesystem::path& path) {
+  return std::fopen(path.c_str(), "r+b");
+}
 #endif
+
+// Replacing a file needs no right to write it, so that right is asked for here.
+void RequireWritable(const std::filesystem::path& path) {
+  std::FILE* file = OpenToChange(path);
+  if (file == nullptr) throw FileErrorFromErrno(errno);
+  std::fclose(file);
 }
 
 // A file of a new name in a folder, removed again unless it takes another's place.
@@ -97,13 +106,16 @@ bool FileExists(const std::string& path) {
 
 void WriteFileInOneStep(const std::string& path, std::string_view text) {
   namespace fs = std::filesystem;
-  const fs::path target = NativePath(path);
+  std::error_code ignored;
+  fs::path target = NativePath(path);
+  const bool exists = fs::exists(target, ignored);
+  if (exists) {
+    RequireWritable(target);
+    target = fs::canonical(target, ignored);
+  }
   TemporaryFile temporary(target.parent_path());
   temporary.Write(text);
-  std::error_code ignored;
-  if (fs::exists(target, ignored)) {
-    fs::permissions(temporary.Path(), fs::status(target, ignored).permissions(), ignored);
-  }
+  if (exists) fs::permissions(temporary.Path(), fs::status(target, ignored).permissions(), ignored);
   temporary.TakePlaceOf(target);
 }
 

@@ -18,7 +18,8 @@ bool FileExists(const std::string& path);
 
 // Gives the file at `path` the contents `text`. They are written to a new file in the same folder,
 // which then takes the old one's place in one step: whatever fails, an existing file stays as it
-// was and nothing is left beside it. Errors 57, 61, 70, 75 and, for a missing folder, 76.
+// was and nothing is left beside it. A file that may not be written is not replaced; a symbolic
+// link is followed. Errors 57, 61, 70, 75 and, for a missing folder, 76.
 void WriteFileInOneStep(const std::string& path, std::string_view text);
 
 }  // namespace modAllPurpose

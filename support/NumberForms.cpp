@@ -144,7 +144,7 @@ std::string GeneralForm(float value) {
 
 double LeadingNumber(std::string_view text) {
   text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
-  if (text.starts_with('+')) text.remove_prefix(1);
+  if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
   double number = 0;
   const auto parsed = std::from_chars(text.data(), text.data() + text.size(), number);
   return parsed.ec == std::errc() && std::isfinite(number) ? number : 0.0;

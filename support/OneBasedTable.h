@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -32,6 +33,9 @@ class OneBasedTable {
   void Remove(std::int32_t index) {
     entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(Checked(index)));
   }
+
+  // All entries, counted from 0.
+  std::span<Entry> AsSpan() { return entries_; }
 
   auto begin() { return entries_.begin(); }
   auto end() { return entries_.end(); }

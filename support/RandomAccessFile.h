@@ -19,7 +19,7 @@ class RandomAccessFile {
   ~RandomAccessFile();
 
   // Opens the file at `path` (UTF-8). Folders, pipes and devices are refused, without waiting for
-  // them, as error 75; a path that cannot be opened fails as error 53, 70, 75 or 76.
+  // them, as error 75; a path that cannot be opened fails as FileErrorFromErrno.
   void Open(const std::string& path);
   bool IsOpen() const { return handle_ != kNoHandle; }
   void Close() noexcept;

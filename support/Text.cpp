@@ -74,6 +74,8 @@ std::string UpperCase(std::string_view text) {
   return upper;
 }
 
+std::string SearchKey(std::string_view typedName) { return UpperCase(Trimmed(typedName)); }
+
 std::string_view StripAtNul(std::string_view text) { return text.substr(0, text.find('\0')); }
 
 std::string PadRightToWidth(std::string_view text, std::int32_t width) {

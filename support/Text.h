@@ -19,6 +19,9 @@ std::string_view Trimmed(std::string_view text);
 // character stays, so the result has as many bytes as `text`.
 std::string UpperCase(std::string_view text);
 
+// A typed name in the form in which names are compared: trimmed and in upper case.
+std::string SearchKey(std::string_view typedName);
+
 // The text before the first NUL character, or all of it.
 std::string_view StripAtNul(std::string_view text);
 

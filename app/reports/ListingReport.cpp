@@ -105,6 +105,31 @@ void AnalogLines(const FileState& state, const AnalogFrames& frames, Tags tags,
   output.Line("");
 }
 
+constexpr std::string_view kPointHeading =
+    "All point data for label (Number, Time, X, Y, Z [Sagittal{X or Y}, Coronal{X or Y}, Axial{Z} "
+    "for angles OR side-to-side{X or Y}, forward-backward{X or Y}, vertical for points{Z}]):";
+
+// Two blanks stand in front of the bracket here.
+constexpr std::string_view kPointHeadingWithEvents =
+    "All point data for label (PIG Event, Number, Time, X, Y, Z  [Sagittal{X or Y}, Coronal{X or "
+    "Y}, Axial{Z} for angles OR side-to-side{X or Y}, forward-backward{X or Y}, vertical for "
+    "points{Z}]):";
+
+ReportResult ListPoint(const FileState& state, std::string_view label, Tags tags,
+                       ReportOutput& output) {
+  if (!modVantrel::PointLabelExists(state, label)) {
+    return ReportResult::Rejected("point label not found");
+  }
+  output.BeginReport();
+  const PointSamples samples = tags == Tags::With
+                                   ? modVantrel::GetPointDataWithEventsForLabel(state, label)
+                                   : modVantrel::GetPointDataForLabel(state, label);
+  LabelLine(label, output);
+  output.Line(tags == Tags::With ? kPointHeadingWithEvents : kPointHeading);
+  PointLines(state, samples, tags, output);
+  return ReportResult::Written();
+}
+
 ReportResult ListAnalog(const FileState& state, std::string_view label, Tags tags,
                         ReportOutput& output) {
   if (!modVantrel::AnalogLabelExists(state, label)) {
@@ -132,34 +157,12 @@ void ShowPointLabels(const FileState& state, ReportOutput& output) {
 }
 
 ReportResult ShowPointData(const FileState& state, std::string_view label, ReportOutput& output) {
-  if (!modVantrel::PointLabelExists(state, label)) {
-    return ReportResult::Rejected("point label not found");
-  }
-  output.BeginReport();
-  const PointSamples samples = modVantrel::GetPointDataForLabel(state, label);
-  LabelLine(label, output);
-  output.Line(
-      "All point data for label (Number, Time, X, Y, Z [Sagittal{X or Y}, Coronal{X or Y}, "
-      "Axial{Z} for angles OR side-to-side{X or Y}, forward-backward{X or Y}, vertical for "
-      "points{Z}]):");
-  PointLines(state, samples, Tags::Without, output);
-  return ReportResult::Written();
+  return ListPoint(state, label, Tags::Without, output);
 }
 
 ReportResult ShowPointDataWithEvents(const FileState& state, std::string_view label,
                                      ReportOutput& output) {
-  if (!modVantrel::PointLabelExists(state, label)) {
-    return ReportResult::Rejected("point label not found");
-  }
-  output.BeginReport();
-  const PointSamples samples = modVantrel::GetPointDataWithEventsForLabel(state, label);
-  LabelLine(label, output);
-  output.Line(
-      "All point data for label (PIG Event, Number, Time, X, Y, Z  [Sagittal{X or Y}, Coronal{X or "
-      "Y}, Axial{Z} for angles OR side-to-side{X or Y}, forward-backward{X or Y}, vertical for "
-      "points{Z}]):");
-  PointLines(state, samples, Tags::With, output);
-  return ReportResult::Written();
+  return ListPoint(state, label, Tags::With, output);
 }
 
 ReportResult ShowAnalogData(const FileState& state, std::string_view label, ReportOutput& output) {

@@ -1,7 +1,9 @@
 #include "app/reports/NavigationTree.h"
 
 #include <cstddef>
+#include <utility>
 
+#include "c3d/ParamIndex.h"
 #include "c3d/ParameterSection.h"
 #include "support/Text.h"
 
@@ -20,25 +22,13 @@ bool HoldsLabels(const std::string& groupName, const ParamRecord& param) {
          param.DataType == modVantrel::kTextData;
 }
 
-TreeNode ParamNode(const FileState& state, const std::string& groupName, const ParamRecord& param,
-                   std::int32_t position) {
+TreeNode ParamNode(const FileState& state, const std::string& groupName, std::int32_t position) {
+  const ParamRecord param = modVantrel::ReadParamRecordAt(state, position);
   TreeNode node{param.Name, {}};
   if (!HoldsLabels(groupName, param)) return node;
-  const modVantrel::TextArray labels = modVantrel::ReadParamRecordAt(state, position).TextValues;
-  for (std::size_t i = 0; i < labels.Count(); ++i) {
-    node.Children.push_back({std::string(labels.InFileOrder(i)), {}});
+  for (std::size_t i = 0; i < param.TextValues.Count(); ++i) {
+    node.Children.push_back({param.TextValues.InFileOrder(i), {}});
   }
-  return node;
-}
-
-TreeNode GroupNode(const FileState& state, const ParamRecord& group) {
-  TreeNode node{group.Name, {}};
-  modVantrel::WalkParamChain(state, [&](const ParamRecord& record, std::int32_t position) {
-    if (record.IsParam() && record.Id == group.Id) {
-      node.Children.push_back(ParamNode(state, group.Name, record, position));
-    }
-    return false;
-  });
   return node;
 }
 
@@ -52,11 +42,17 @@ void ShowNodes(const std::vector<TreeNode>& nodes, std::size_t level, ReportOutp
 }  // namespace
 
 std::vector<TreeNode> FillTree(const FileState& state) {
+  const modVantrel::ParamIndex index(state);
+  index.RethrowFailure();
   std::vector<TreeNode> groups;
-  modVantrel::WalkParamChain(state, [&](const ParamRecord& record, std::int32_t /*position*/) {
-    if (record.IsGroup()) groups.push_back(GroupNode(state, record));
-    return false;
-  });
+  for (const std::int32_t position : index.Groups()) {
+    const ParamRecord group = modVantrel::ReadParamRecordAt(state, position);
+    TreeNode node{group.Name, {}};
+    for (const std::int32_t param : index.ParamsOf(group.Id)) {
+      node.Children.push_back(ParamNode(state, group.Name, param));
+    }
+    groups.push_back(std::move(node));
+  }
   return groups;
 }
 

@@ -2,22 +2,21 @@
 
 #include <cstdint>
 #include <iterator>
-#include <optional>
 #include <string>
 
 #include <fmt/format.h>
 
+#include "c3d/ParamIndex.h"
 #include "c3d/ParameterSection.h"
 #include "support/NumberForms.h"
-#include "support/Text.h"
 
 namespace reports {
 
 using modAllPurpose::ReportOutput;
 using modAllPurpose::ReportResult;
-using modAllPurpose::UpperCase;
 using modVantrel::ElementIndices;
 using modVantrel::FileState;
+using modVantrel::ParamIndex;
 using modVantrel::ParamRecord;
 
 namespace {
@@ -57,13 +56,13 @@ bool HoldsValues(const ParamRecord& record) {
          record.DataType == modVantrel::kIntegerData || record.DataType == modVantrel::kSingleData;
 }
 
-void PrintParamsOfGroup(const FileState& state, std::uint8_t groupId, ReportOutput& output) {
-  modVantrel::WalkParamChain(state, [&](const ParamRecord& record, std::int32_t position) {
-    if (record.IsParam() && record.Id == groupId) {
-      PrintGroupAndParams(modVantrel::ReadParamRecordAt(state, position), output);
-    }
-    return false;
-  });
+// Prints the parameters of a group, in file order.
+void PrintParamsOfGroup(const FileState& state, const ParamIndex& index, std::uint8_t groupId,
+                        ReportOutput& output) {
+  for (const std::int32_t position : index.ParamsOf(groupId)) {
+    PrintGroupAndParams(modVantrel::ReadParamRecordAt(state, position), output);
+  }
+  index.RethrowFailure();
 }
 
 }  // namespace
@@ -102,29 +101,24 @@ void ShowAllGroups(const FileState& state, ReportOutput& output) {
 
 void ShowAllGroupsAndAllParams(const FileState& state, ReportOutput& output) {
   output.BeginReport();
-  modVantrel::WalkParamChain(state, [&](const ParamRecord& record, std::int32_t /*position*/) {
-    if (record.IsGroup()) {
-      PrintGroupAndParams(record, output);
-      PrintParamsOfGroup(state, record.Id, output);
-    }
-    return false;
-  });
+  const ParamIndex index(state);
+  for (const std::int32_t position : index.Groups()) {
+    const ParamRecord group = modVantrel::ReadParamRecordAt(state, position);
+    PrintGroupAndParams(group, output);
+    PrintParamsOfGroup(state, index, group.Id, output);
+  }
+  index.RethrowFailure();
   output.Line("");
 }
 
 ReportResult ShowMatchingGroupAndAllParams(const FileState& state, std::string_view groupName,
                                            ReportOutput& output) {
-  const std::string wanted = UpperCase(modAllPurpose::Trimmed(groupName));
-  std::optional<ParamRecord> group;
-  modVantrel::WalkParamChain(state, [&](const ParamRecord& record, std::int32_t /*position*/) {
-    if (record.IsGroup() && UpperCase(record.Name) == wanted) group = record;
-    return group.has_value();
-  });
-  if (!group) return ReportResult::Rejected("group not found");
+  const ParamRecord group = modVantrel::FindGroup(state, groupName);
+  if (group.Id == 0) return ReportResult::Rejected("group not found");
 
   output.BeginReport();
-  PrintGroupAndParams(*group, output);
-  PrintParamsOfGroup(state, group->Id, output);
+  PrintGroupAndParams(group, output);
+  PrintParamsOfGroup(state, ParamIndex(state), group.Id, output);
   return ReportResult::Written();
 }
 
