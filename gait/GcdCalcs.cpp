@@ -1,9 +1,11 @@
 #include "gait/GcdCalcs.h"
 
 #include <cmath>
+#include <utility>
 
 #include "c3d/FrameData.h"
 #include "support/Arithmetic.h"
+#include "support/RuntimeError.h"
 
 namespace modVantrel {
 
@@ -11,6 +13,7 @@ using modAllPurposeNumbers::Divide;
 using modAllPurposeNumbers::ToSingle;
 using modCubicSpline::BuildComponentSpline;
 using modCubicSpline::Component;
+using modCubicSpline::SplineCurve;
 using modCubicSpline::SplineValueAt;
 
 namespace {
@@ -69,23 +72,21 @@ void clsGcdCalcs::CalcLengths(const StrideRecord& stride, SingleValueMeasures& m
   if (stride.Side != kSideLeft && stride.Side != kSideRight) {
     throw modAllPurpose::RuntimeError(modAllPurpose::ErrorNumber::SubscriptOutOfRange);
   }
-  const LabelSplines& left = SplinesOf("LTOE");
-  const LabelSplines& right = SplinesOf("RTOE");
-  const LabelSplines& same = stride.Side == kSideLeft ? left : right;
-  const LabelSplines& opposite = stride.Side == kSideLeft ? right : left;
+  const std::string_view same = stride.Side == kSideLeft ? "LTOE" : "RTOE";
+  const std::string_view opposite = stride.Side == kSideLeft ? "RTOE" : "LTOE";
+  const SplineCurve& sameY = SplineOf(same, Component::Y);
+  const SplineCurve& oppositeY = SplineOf(opposite, Component::Y);
+  const SplineCurve& sameX = SplineOf(same, Component::X);
+  const SplineCurve& oppositeX = SplineOf(opposite, Component::X);
 
-  const float sameStartY = SplineValueAt(stride.StartStrikeTime, same.Y);
-  const float oppositeY = SplineValueAt(stride.OppositeFootStrikeTime, opposite.Y);
-  const float sameStopY = SplineValueAt(stride.StopStrikeTime, same.Y);
-  const float sameStartX = SplineValueAt(stride.StartStrikeTime, same.X);
-  const float oppositeX = SplineValueAt(stride.OppositeFootStrikeTime, opposite.X);
-  const float sameStopX = SplineValueAt(stride.StopStrikeTime, same.X);
-
-  const float strideY = Distance(sameStopY, sameStartY);
-  const float strideX = Distance(sameStopX, sameStartX);
+  const float startY = SplineValueAt(stride.StartStrikeTime, sameY);
+  const float startX = SplineValueAt(stride.StartStrikeTime, sameX);
+  const float stepY = Distance(SplineValueAt(stride.OppositeFootStrikeTime, oppositeY), startY);
+  const float stepX = Distance(SplineValueAt(stride.OppositeFootStrikeTime, oppositeX), startX);
+  const float strideY = Distance(SplineValueAt(stride.StopStrikeTime, sameY), startY);
+  const float strideX = Distance(SplineValueAt(stride.StopStrikeTime, sameX), startX);
   measures.StrideLength = CalibratedLength(strideX, strideY);
-  measures.StepLength =
-      CalibratedLength(Distance(oppositeX, sameStartX), Distance(oppositeY, sameStartY));
+  measures.StepLength = CalibratedLength(stepX, stepY);
   measures.ProgressionAxis = strideY <= strideX ? kProgressionX : kProgressionY;
   measures.Speed = ToSingle(Divide(measures.StrideLength, measures.StrideTime));
 }
@@ -93,29 +94,34 @@ void clsGcdCalcs::CalcLengths(const StrideRecord& stride, SingleValueMeasures& m
 NormalizedCurve clsGcdCalcs::NormalizeLabelForStride(std::string_view label,
                                                      std::int32_t strideIndex) {
   if (!PointLabelExists(state_, label)) return {};
-  const LabelSplines& splines = SplinesOf(label);
+  const SplineCurve& x = SplineOf(label, Component::X);
+  const SplineCurve& y = SplineOf(label, Component::Y);
+  const SplineCurve& z = SplineOf(label, Component::Z);
   const StrideRecord& stride = state_.GaitEvents.ValidStrides[strideIndex];
   const double start = stride.StartStrikeTime;
   const float step = ToSingle((stride.StopStrikeTime - start) / (kNormalizedPoints - 1));
   NormalizedCurve curve(kNormalizedPoints);
   for (std::int32_t k = 1; k <= kNormalizedPoints; ++k) {
     const float t = ToSingle(double{step} * (k - 1) + start);
-    curve[k] = {SplineValueAt(t, splines.X), SplineValueAt(t, splines.Y),
-                SplineValueAt(t, splines.Z), t};
+    curve[k] = {SplineValueAt(t, x), SplineValueAt(t, y), SplineValueAt(t, z), t};
   }
   return curve;
 }
 
-const clsGcdCalcs::LabelSplines& clsGcdCalcs::SplinesOf(std::string_view label) {
+const SplineCurve& clsGcdCalcs::SplineOf(std::string_view label, Component component) {
   const std::int32_t index = GetPointLabelIndex(state_, label);
-  const auto known = splines_.find(index);
-  if (known != splines_.end()) return known->second;
-  const PointSamples samples = ReadPointDataForIndex(state_, index);
-  const std::int32_t count = state_.PointFrameCount;
-  LabelSplines splines{BuildComponentSpline(samples, count, Component::X),
-                       BuildComponentSpline(samples, count, Component::Y),
-                       BuildComponentSpline(samples, count, Component::Z)};
-  return splines_.emplace(index, std::move(splines)).first->second;
+  auto curves = curves_.find(index);
+  if (curves == curves_.end()) {
+    LabelCurves read{ReadPointDataForIndex(state_, index), {}};
+    curves = curves_.emplace(index, std::move(read)).first;
+  }
+  auto& [samples, splines] = curves->second;
+  auto spline = splines.find(component);
+  if (spline == splines.end()) {
+    SplineCurve built = BuildComponentSpline(samples, state_.PointFrameCount, component);
+    spline = splines.emplace(component, std::move(built)).first;
+  }
+  return spline->second;
 }
 
 }  // namespace modVantrel

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "c3d/FileState.h"
+#include "c3d/FrameData.h"
 #include "gait/CubicSpline.h"
 #include "gait/GcdCurveTable.h"
 #include "gait/SubjectRecord.h"
@@ -70,20 +71,23 @@ class clsGcdCalcs {
                       bool suppressVideoRate);
 
  private:
-  struct LabelSplines {
-    modCubicSpline::SplineCurve X;
-    modCubicSpline::SplineCurve Y;
-    modCubicSpline::SplineCurve Z;
+  // A label's samples and its splines, each made when it is first asked for: a coordinate that is
+  // not used cannot fail.
+  struct LabelCurves {
+    PointSamples Samples;
+    std::map<modCubicSpline::Component, modCubicSpline::SplineCurve> Splines;
   };
 
-  const LabelSplines& SplinesOf(std::string_view label);
+  // Stays valid as long as this object.
+  const modCubicSpline::SplineCurve& SplineOf(std::string_view label,
+                                              modCubicSpline::Component component);
   void CalcLengths(const StrideRecord& stride, SingleValueMeasures& measures);
   void AppendLabelCurves(std::string& text, std::int32_t strideIndex, std::string_view valuePrefix,
                          std::string_view labelLetter, std::int32_t progressionAxis,
                          const GcdCurveSpec& row);
 
   const FileState& state_;
-  std::map<std::int32_t, LabelSplines> splines_;  // by label index
+  std::map<std::int32_t, LabelCurves> curves_;  // by label index
 };
 
 }  // namespace modVantrel

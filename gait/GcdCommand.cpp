@@ -63,7 +63,7 @@ class GcdWriter {
 std::string GcdFileName(const std::string& trial, const StrideRecord& stride,
                         const std::string& outputFolder) {
   std::string name = fmt::format("{}-{}{}.gcd", modAllPurpose::WithoutExtension(trial),
-                                       SideName(stride.Side).front(), stride.Number);
+                                 SideName(stride.Side).front(), stride.Number);
   if (outputFolder.empty()) return name;
   const auto fileName = modAllPurpose::NativePath(name).filename();
   return modAllPurpose::Utf8Path(modAllPurpose::NativePath(outputFolder) / fileName);
