@@ -32,6 +32,23 @@ void ShieldBrackets(std::vector<std::string>& arguments) {
   }
 }
 
+// "--name=" as "--name" and an empty argument, so that the empty value does not take the argument
+// behind it.
+std::vector<std::string> SplitEmptyValues(const std::vector<std::string>& arguments) {
+  std::vector<std::string> split;
+  bool onlyFilesFollow = false;
+  for (const std::string& argument : arguments) {
+    onlyFilesFollow = onlyFilesFollow || argument == "--";
+    if (onlyFilesFollow || !argument.starts_with("--") || !argument.ends_with('=')) {
+      split.push_back(argument);
+    } else {
+      split.push_back(argument.substr(0, argument.size() - 1));
+      split.emplace_back();
+    }
+  }
+  return split;
+}
+
 void TakeShieldsAway(CLI::App& app) {
   const CLI::Validator unshield(
       [](std::string& value) {
@@ -47,13 +64,14 @@ void AddOptions(CLI::App& app, Request& request) {
   app.add_option("--group", request.Group, "Group of the parameter section");
   app.add_option("--param", request.Param, "Parameter of that group");
   app.add_flag("--events", request.Events, "Name the stride events in a point or analog listing");
-  app.add_option("--output-dir", request.Gcd.OutputFolder,
+  app.add_option("--output-dir", request.Gcd.Options.OutputFolder,
                  "Folder for GCD files, instead of the trial's own");
-  app.add_flag("--overwrite", request.Overwrite, "Let gcd replace existing files");
-  app.add_option("--gender", request.Gcd.Subject.Gender, "Gender in the header of GCD files");
-  app.add_option("--date-of-birth", request.Gcd.Subject.DateOfBirth,
+  app.add_flag("--overwrite", request.Gcd.Overwrite, "Let gcd replace existing files");
+  app.add_option("--gender", request.Gcd.Options.Subject.Gender,
+                 "Gender in the header of GCD files");
+  app.add_option("--date-of-birth", request.Gcd.Options.Subject.DateOfBirth,
                  "Date of birth (YYYY-MM-DD) for the age in GCD files");
-  app.add_option("--visit-date", request.Gcd.Subject.VisitDate,
+  app.add_option("--visit-date", request.Gcd.Options.Subject.VisitDate,
                  "Date of the visit (YYYY-MM-DD) for the age in GCD files");
   app.add_option("REPORT", request.Report, "What to print: " + ReportNames(", "))
       ->required()
@@ -103,6 +121,7 @@ std::variant<Request, int> ParseCommandLine(std::vector<std::string> arguments) 
   Request request;
   AddOptions(app, request);
   try {
+    arguments = SplitEmptyValues(arguments);
     ShieldBrackets(arguments);
     std::ranges::reverse(arguments);  // the order in which the parser takes them
     app.parse(std::move(arguments));

@@ -4,7 +4,7 @@
 #include <variant>
 #include <vector>
 
-#include "gait/GcdCommand.h"
+#include "cli/GcdReport.h"
 
 namespace cli {
 
@@ -18,8 +18,7 @@ struct Request {
   bool HasParam = false;
   bool HasGroup = false;
   bool Events = false;
-  bool Overwrite = false;
-  modVantrel::GcdOptions Gcd;
+  GcdRequest Gcd;
 };
 
 // The exit statuses of the tool.

@@ -7,7 +7,7 @@
 #include "app/reports/ListingReport.h"
 #include "app/reports/NavigationTree.h"
 #include "app/reports/ParameterReport.h"
-#include "gait/GcdCommand.h"
+#include "cli/GcdReport.h"
 #include "gait/MeasuresReport.h"
 #include "gait/NormalizedReport.h"
 #include "gait/StrikeOffReport.h"
@@ -17,20 +17,19 @@ namespace cli {
 using modAllPurpose::ReportOutput;
 using modAllPurpose::ReportResult;
 using modVantrel::FileState;
-using modVantrel::OverwriteAnswer;
 
 namespace {
 
 // A report that takes the open file alone and never refuses.
 template <void (*Show)(const FileState&, ReportOutput&)>
-std::string Plain(const FileState& state, const Request& /*request*/, ReportOutput& output) {
+std::string Plain(const FileState& state, Request& /*request*/, ReportOutput& output) {
   Show(state, output);
   return {};
 }
 
 // A report that may refuse its input.
 template <ReportResult (*Show)(const FileState&, const Request&, ReportOutput&)>
-std::string Refusing(const FileState& state, const Request& request, ReportOutput& output) {
+std::string Refusing(const FileState& state, Request& request, ReportOutput& output) {
   return std::string(Show(state, request, output).Text());
 }
 
@@ -59,30 +58,8 @@ ReportResult Normalized(const FileState& state, const Request& request, ReportOu
   return modVantrel::ShowNormalized(state, request.Label, output);
 }
 
-// Answers for the user as the command line says.
-class OverwriteOption : public modVantrel::OverwriteQuestion {
- public:
-  explicit OverwriteOption(bool overwrite) : overwrite_(overwrite) {}
-
-  OverwriteAnswer Ask(const std::string& gcdFileName) override {
-    if (overwrite_) return OverwriteAnswer::YesToAll;
-    refused_ = gcdFileName;
-    return OverwriteAnswer::Cancel;
-  }
-
-  // The existing file that was not overwritten; empty where there was none.
-  const std::string& Refused() const { return refused_; }
-
- private:
-  bool overwrite_;
-  std::string refused_;
-};
-
-std::string Gcd(const FileState& state, const Request& request, ReportOutput& output) {
-  OverwriteOption overwrite(request.Overwrite);
-  const ReportResult result = modVantrel::WriteGcdFiles(state, request.Gcd, overwrite, output);
-  if (overwrite.Refused().empty()) return std::string(result.Text());
-  return overwrite.Refused() + " exists already (--overwrite replaces it)";
+std::string Gcd(const FileState& state, Request& request, ReportOutput& output) {
+  return WriteGcdReport(state, request.Gcd, output);
 }
 
 constexpr std::array kReports = {

@@ -10,7 +10,7 @@
 namespace cli {
 
 // Writes a report of the open file; returns what a refused request is answered with, else nothing.
-using ReportFunction = std::string (*)(const modVantrel::FileState& state, const Request& request,
+using ReportFunction = std::string (*)(const modVantrel::FileState& state, Request& request,
                                        modAllPurpose::ReportOutput& output);
 
 struct ReportEntry {

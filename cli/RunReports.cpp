@@ -20,7 +20,9 @@ using modAllPurpose::RuntimeError;
 namespace {
 
 void Complain(const std::string& file, std::string_view message) {
-  fmt::print(stderr, "vantrel-report: {}: {}\n", file, message);
+  const std::string line = fmt::format("vantrel-report: {}: {}\n", file, message);
+  // Where nobody listens there is nothing left to say.
+  std::fwrite(line.data(), 1, line.size(), stderr);
 }
 
 void Complain(const std::string& file, const RuntimeError& error) {
@@ -29,7 +31,7 @@ void Complain(const std::string& file, const RuntimeError& error) {
 
 // Opens `file` and writes its report; answers with the message of a failed open or a refused input,
 // empty where all is well.
-std::string OpenAndReport(const std::string& file, const Request& request, StandardOutput& output) {
+std::string OpenAndReport(const std::string& file, Request& request, StandardOutput& output) {
   modVantrel::FileState state;
   const auto opened = modVantrel::OpenC3dFile(state, file, modVantrel::FindGaitEvents);
   if (opened != modVantrel::OpenResult::Success) {
@@ -38,7 +40,7 @@ std::string OpenAndReport(const std::string& file, const Request& request, Stand
   return FindReport(request.Report)->Run(state, request, output);
 }
 
-bool Report(const std::string& file, const Request& request) {
+bool Report(const std::string& file, Request& request) {
   const bool several = request.Files.size() > 1;
   StandardOutput output(several ? fmt::format("==> {} <==", file) : std::string());
   try {
@@ -64,7 +66,7 @@ bool Report(const std::string& file, const Request& request) {
 
 }  // namespace
 
-int RunReports(const Request& request) {
+int RunReports(Request request) {
   int status = kAllWell;
   try {
     for (const std::string& file : request.Files) {

@@ -6,6 +6,6 @@ namespace cli {
 
 // Opens each file of the request with fresh state and prints its report. What fails is named on
 // standard error and the next file is taken. Returns the exit status.
-int RunReports(const Request& request);
+int RunReports(Request request);
 
 }  // namespace cli

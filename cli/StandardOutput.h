@@ -19,8 +19,9 @@ class StandardOutput : public modAllPurpose::ReportOutput {
   void BeginReport() override;
   void AppendOutput(std::string_view text, bool paneOnly, bool continueLine) override;
 
-  // Hands over what is left. Error 61 or 57 where standard output cannot take it, OutputClosed
-  // where it is a closed pipe. The other members hand over on their own and fail in the same way.
+  // Hands over what is left. An error as FileErrorFromErrno where standard output cannot take it,
+  // OutputClosed where it is a closed pipe. The other members hand over on their own and fail in
+  // the same way.
   void Flush();
 
  private:

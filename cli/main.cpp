@@ -1,5 +1,6 @@
 #include <csignal>
 #include <string>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -17,5 +18,5 @@ int main(int argc, char* argv[]) {
 #endif
   auto parsed = cli::ParseCommandLine(std::vector<std::string>(argv + 1, argv + argc));
   if (const int* status = std::get_if<int>(&parsed)) return *status;
-  return cli::RunReports(std::get<cli::Request>(parsed));
+  return cli::RunReports(std::get<cli::Request>(std::move(parsed)));
 }
