@@ -102,4 +102,11 @@ TEST_F(OutputTest, HelpIntoAClosedPipeEndsQuietly) {
   EXPECT_EQ(result.Err, "");
 }
 
+TEST_F(OutputTest, AClosedStandardErrorKeepsNoReportBack) {
+  const ToolResult result =
+      RunTool({"labels", (folder_ / "missing.c3d").string(), short_}, {.ClosedErrorPipe = true});
+  EXPECT_EQ(result.Status, 1);
+  EXPECT_NE(result.Out.find("001  LTOE"), std::string::npos);
+}
+
 }  // namespace

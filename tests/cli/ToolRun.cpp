@@ -55,7 +55,7 @@ ToolResult RunTool(const std::vector<std::string>& arguments, const ToolSurround
   const int out = surroundings.ClosedPipe
                       ? PipeWithoutReader()
                       : OpenForWriting(surroundings.Path.empty() ? collected : surroundings.Path);
-  const int err = OpenForWriting(complaints);
+  const int err = surroundings.ClosedErrorPipe ? PipeWithoutReader() : OpenForWriting(complaints);
   const pid_t child = ::fork();
   if (child == 0) {
     ::dup2(out, STDOUT_FILENO);

@@ -20,6 +20,8 @@ struct ToolSurroundings {
   std::string Path = {};
   // A pipe whose reading end is closed before the tool starts.
   bool ClosedPipe = false;
+  // The same for its standard error.
+  bool ClosedErrorPipe = false;
   // Bytes of address space that the tool may use; 0 for any number. Not for a sanitized tool, which
   // needs terabytes of it.
   std::size_t MostMemory = 0;

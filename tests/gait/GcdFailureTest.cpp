@@ -92,6 +92,29 @@ TEST_F(GcdFailure, FolderThatMayNotBeWrittenToIsPermissionDenied) {
   ExpectOnlyTheOldFile();
 }
 
+TEST_F(GcdFailure, FileThatMayNotBeWrittenIsNotReplaced) {
+  namespace fs = std::filesystem;
+  fs::permissions(folder_.Path(), fs::perms::all);
+  fs::permissions(old_, fs::perms::owner_read | fs::perms::others_read);
+  const int status = StatusOfChild([&] {
+    constexpr uid_t kNobody = 65534;
+    if (geteuid() == 0 && (setgid(kNobody) != 0 || setuid(kNobody) != 0)) return kNotPossibleHere;
+    return ErrorOfWritingInto(folder_.Path(), walk_.State());
+  });
+  fs::permissions(folder_.Path(), fs::perms::owner_all);
+  EXPECT_EQ(status, kPermissionDenied);
+  ExpectOnlyTheOldFile();
+}
+
+TEST_F(GcdFailure, LinkIsFollowedToTheFileItNames) {
+  namespace fs = std::filesystem;
+  fs::rename(old_, folder_ / "elsewhere.gcd");
+  fs::create_symlink("elsewhere.gcd", old_);
+  EXPECT_EQ(ErrorOfWritingInto(folder_.Path(), walk_.State()), 0);
+  EXPECT_TRUE(fs::is_symlink(old_));
+  EXPECT_TRUE(ReadWholeFile(folder_ / "elsewhere.gcd").starts_with("#!DST-0.1"));
+}
+
 TEST_F(GcdFailure, FileBeyondTheSizeLimitIsDiskFull) {
   const int status = StatusOfChild([&] {
     std::signal(SIGXFSZ, SIG_IGN);

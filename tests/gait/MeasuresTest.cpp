@@ -135,6 +135,17 @@ TEST(Measures, MissingToeSampleGivesNoNumberAndNoError) {
   EXPECT_FALSE(std::isnan(measures.StrideLength));
 }
 
+TEST(Measures, HeightOfTheToesPlaysNoPart) {
+  const auto wild = [](std::int32_t frame) {
+    return std::array{static_cast<float>(frame), 0.0F, frame % 2 == 0 ? 3e38F : -3e38F};
+  };
+  sample::TrialBuilder builder = tests::WholeFrameTrial();
+  builder.AddPoint("LTOE", wild).AddPoint("RTOE", wild);
+  OpenedWalk walk(builder.Build(), FindGaitEvents);
+  EXPECT_FLOAT_EQ(MeasuresOf(walk.State()).StrideLength, 50.0F * 1.005F)
+      << "a curve through these heights would overflow";
+}
+
 TEST(Measures, StrideOfNoDurationIsADivisionByZero) {
   EXPECT_EQ(ErrorNumberOf([] {
               MeasuresOf(StateWithStride({kSideLeft, 1, 1, 1, 1, 1, 1}));

@@ -1,0 +1,205 @@
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "tests/GaitTrials.h"
+#include "tests/cli/ToolInFolder.h"
+
+namespace {
+
+using tests::kSampleWalk;
+using tests::NamesIn;
+using tests::ToolInFolder;
+using tests::ToolResult;
+
+std::string Complaint(const std::string& file, const std::string& message) {
+  return "vantrel-report: " + file + ": " + message + "\n";
+}
+
+void Put(const ToolInFolder& tool, const std::string& name, const std::string& text) {
+  std::ofstream(tool / name, std::ios::binary) << text;
+}
+
+TEST(GcdCommandLine, WritesBesideTheTrialAndNamesTheFiles) {
+  const ToolInFolder tool;
+  const ToolResult run = tool.Run({"gcd", kSampleWalk});
+  EXPECT_EQ(run.Status, 0);
+  EXPECT_EQ(run.Err, "");
+  EXPECT_TRUE(run.Out.starts_with("Output: sample-walk-L1.gcd\nOutput: sample-walk-R1.gcd\n"));
+  EXPECT_TRUE(run.Out.ends_with("Done.\n"));
+  EXPECT_EQ(NamesIn(tool.Path()).size(), 7U);
+}
+
+TEST(GcdCommandLine, OutputDirTakesTheFiles) {
+  const ToolInFolder tool;
+  std::filesystem::create_directory(tool / "out");
+  const ToolResult run = tool.Run({"--output-dir", "out", "gcd", kSampleWalk});
+  EXPECT_EQ(run.Status, 0);
+  EXPECT_TRUE(run.Out.starts_with("Output: out/sample-walk-L1.gcd\n"));
+  EXPECT_EQ(NamesIn(tool / "out").size(), 6U);
+  EXPECT_EQ(NamesIn(tool.Path()), (std::vector<std::string>{"out", kSampleWalk}));
+}
+
+TEST(GcdCommandLine, MissingOutputDirIsAnErrorOfEachFile) {
+  const ToolInFolder tool;
+  const ToolResult run = tool.Run({"--output-dir", "missing", "gcd", kSampleWalk});
+  EXPECT_EQ(run.Status, 1);
+  EXPECT_EQ(run.Err, Complaint(kSampleWalk, "Run-time error '76': Path not found"));
+  EXPECT_EQ(NamesIn(tool.Path()), std::vector<std::string>{kSampleWalk});
+}
+
+TEST(GcdCommandLine, RefusesToOverwriteAndLeavesTheOldFile) {
+  const ToolInFolder tool;
+  Put(tool, "sample-walk-R1.gcd", "old");
+  const ToolResult run = tool.Run({"gcd", kSampleWalk});
+  EXPECT_EQ(run.Status, 1);
+  EXPECT_EQ(run.Err,
+            Complaint(kSampleWalk, "sample-walk-R1.gcd exists already (--overwrite replaces it)"));
+  EXPECT_EQ(run.Out, "") << "nothing is written, not even the files in front of it";
+  EXPECT_EQ(tool.Read("sample-walk-R1.gcd"), "old");
+  EXPECT_EQ(NamesIn(tool.Path()).size(), 2U);
+}
+
+TEST(GcdCommandLine, TwoTrialsOfOneNameDoNotTakeEachOthersFiles) {
+  const ToolInFolder tool;
+  std::filesystem::create_directory(tool / "out");
+  std::filesystem::create_directory(tool / "other");
+  std::filesystem::copy_file(tool / kSampleWalk, tool / "other" / kSampleWalk);
+  const std::string other = "other/sample-walk.c3d";
+  const ToolResult run =
+      tool.Run({"--overwrite", "--output-dir", "out", "gcd", kSampleWalk, other});
+  EXPECT_EQ(run.Status, 1);
+  EXPECT_EQ(
+      run.Err,
+      Complaint(other, "out/sample-walk-L1.gcd was written for another trial of this command"));
+  EXPECT_EQ(NamesIn(tool / "out").size(), 6U);
+}
+
+TEST(GcdCommandLine, EmptyOutputDirBehindAnEqualsSignIsTheTrialsOwnFolder) {
+  const ToolInFolder tool;
+  const ToolResult run = tool.Run({"--output-dir=", "gcd", kSampleWalk});
+  EXPECT_EQ(run.Status, 0);
+  EXPECT_EQ(NamesIn(tool.Path()).size(), 7U);
+}
+
+TEST(GcdCommandLine, OverwriteReplacesThemAll) {
+  const ToolInFolder tool;
+  for (const std::string name : {"sample-walk-L1.gcd", "sample-walk-R3.gcd"}) {
+    Put(tool, name, "old");
+  }
+  const ToolResult run = tool.Run({"--overwrite", "gcd", kSampleWalk});
+  EXPECT_EQ(run.Status, 0);
+  EXPECT_EQ(run.Err, "");
+  for (const std::string name : {"sample-walk-L1.gcd", "sample-walk-R3.gcd"}) {
+    EXPECT_TRUE(tool.Read(name).starts_with("#!DST-0.1 GCD Quarrin PhD 1.00\r\n")) << name;
+  }
+}
+
+TEST(GcdCommandLine, SubjectOfTheOptionsComesBeforeTheTrialsOwn) {
+  const ToolInFolder tool;
+  const ToolResult run = tool.Run({"--gender", "male", "--date-of-birth", "2016-01-01",
+                                   "--visit-date", "2026-01-01", "gcd", kSampleWalk});
+  EXPECT_EQ(run.Status, 0);
+  EXPECT_NE(tool.Read("sample-walk-L1.gcd").find("$Gender\r\nMale\r\n$Age\r\n10.01\r\n"),
+            std::string::npos);
+}
+
+TEST(GcdCommandLine, TrialsOwnSubjectComesBeforeTheSubjectFile) {
+  const ToolInFolder tool;
+  Put(tool, "subject.ini", "Gender=Male\nDOB=2000-01-01\nDate=2001-01-01\n");
+  ASSERT_EQ(tool.Run({"gcd", kSampleWalk}).Status, 0);
+  EXPECT_NE(tool.Read("sample-walk-L1.gcd").find("$Gender\r\nFemale\r\n$Age\r\n12.20\r\n"),
+            std::string::npos);
+}
+
+TEST(GcdCommandLine, SubjectFileServesEveryTrialOfItsFolder) {
+  const ToolInFolder tool;
+  sample::TrialBuilder trial = tests::WholeFrameTrial();
+  trial.Build().WriteTo(tool / "a.c3d");
+  trial.Build().WriteTo(tool / "b.c3d");
+  Put(tool, "subject.ini", "\xEF\xBB\xBFGENDER = f\r\ndob = 2016-01-01\r\ndate = 2026-01-01\r\n");
+  ASSERT_EQ(tool.Run({"gcd", "a.c3d", "b.c3d"}).Status, 0);
+  for (const std::string name : {"a-L1.gcd", "b-L1.gcd"}) {
+    EXPECT_NE(tool.Read(name).find("$Gender\r\nFemale\r\n$Age\r\n10.01\r\n"), std::string::npos);
+  }
+}
+
+TEST(GcdCommandLine, NothingKnownOfTheSubjectIsSaidSo) {
+  const ToolInFolder tool;
+  tests::WholeFrameTrial().Build().WriteTo(tool / "a.c3d");
+  ASSERT_EQ(tool.Run({"gcd", "a.c3d"}).Status, 0);
+  EXPECT_NE(tool.Read("a-L1.gcd").find("$Gender\r\nNotSpecified\r\n$Age\r\n0.00\r\n"),
+            std::string::npos);
+}
+
+TEST(GcdCommandLine, TrialWithoutStridesIsNamedAndTheOthersAreDone) {
+  const ToolInFolder tool;
+  sample::TrialBuilder().Build().WriteTo(tool / "still.c3d");
+  const ToolResult run = tool.Run({"gcd", "still.c3d", kSampleWalk});
+  EXPECT_EQ(run.Status, 1);
+  EXPECT_EQ(run.Err, Complaint("still.c3d", "No valid stride events were found."));
+  EXPECT_TRUE(run.Out.starts_with("==> sample-walk.c3d <==\nOutput: sample-walk-L1.gcd\n"));
+  EXPECT_EQ(NamesIn(tool.Path()).size(), 8U);
+}
+
+TEST(GcdCommandLine, TrialOfAUtf8NameIsWrittenBesideIt) {
+  const ToolInFolder tool;
+  tests::WholeFrameTrial().Build().WriteTo(tool / "G\xC3\xB6nne 1.c3d");
+  const ToolResult run = tool.Run({"gcd", "G\xC3\xB6nne 1.c3d"});
+  EXPECT_EQ(run.Out, "Output: G\xC3\xB6nne 1-L1.gcd\nDone.\n");
+  EXPECT_TRUE(std::filesystem::exists(tool / "G\xC3\xB6nne 1-L1.gcd"));
+}
+
+TEST(ReportCommandLine, LabelIsFoundInAnyCaseWithBlanksAround) {
+  const ToolInFolder tool;
+  const ToolResult run = tool.Run({"--label", "  lkneeANGLES ", "point", kSampleWalk});
+  EXPECT_EQ(run.Status, 0);
+  EXPECT_TRUE(run.Out.starts_with("Label: 'lkneeANGLES'\n"));
+}
+
+TEST(ReportCommandLine, UnknownLabelAndMissingStridesAreNamed) {
+  const ToolInFolder tool;
+  sample::TrialBuilder().Build().WriteTo(tool / "still.c3d");
+  const std::vector<std::vector<std::string>> rows = {
+      {"point", "LXXX", kSampleWalk, "point label not found"},
+      {"analog", "LTOE", kSampleWalk, "analog label not found"},
+      {"normalized", "LXXX", kSampleWalk, "point label not found"},
+      {"normalized", "LTOE", "still.c3d", "valid PIG events not found"}};
+  for (const auto& row : rows) {
+    const ToolResult run = tool.Run({"--label", row[1], row[0], row[2]});
+    EXPECT_EQ(run.Status, 1);
+    EXPECT_EQ(run.Out, "");
+    EXPECT_EQ(run.Err, Complaint(row[2], row[3]));
+  }
+}
+
+TEST(ReportCommandLine, MeasuresOfSeveralTrialsNameTheFailedAndPrintTheOthers) {
+  const ToolInFolder tool;
+  sample::TrialBuilder().Build().WriteTo(tool / "still.c3d");
+  Put(tool, "damaged.c3d", "no trial");
+  Put(tool, "other.c3d", std::string(512, '\0'));
+  const ToolResult run =
+      tool.Run({"measures", "damaged.c3d", "still.c3d", "missing.c3d", "other.c3d", kSampleWalk});
+  EXPECT_EQ(run.Status, 1);
+  EXPECT_EQ(run.Err,
+            Complaint("damaged.c3d", "Run-time error '62': Input past end of file") +
+                Complaint("missing.c3d", "File open error while attempting to open C3D file.") +
+                Complaint("other.c3d", "Not a valid C3D file.  The file key value was not found."));
+  EXPECT_TRUE(run.Out.starts_with("==> still.c3d <==\n\n==> sample-walk.c3d <==\nLeft Side #1\n"))
+      << run.Out.substr(0, 80);
+}
+
+TEST(ReportCommandLine, CutTrialPrintsNothingOfTheLabelThatIsCut) {
+  const ToolInFolder tool;
+  std::filesystem::resize_file(tool / kSampleWalk,
+                               std::filesystem::file_size(tool / kSampleWalk) - 1);
+  const ToolResult run = tool.Run({"--label", "R.Tib.Ant", "analog", kSampleWalk});
+  EXPECT_EQ(run.Status, 1);
+  EXPECT_EQ(run.Err, Complaint(kSampleWalk, "Run-time error '62': Input past end of file"));
+  EXPECT_EQ(run.Out, "") << "the data are read before the first line";
+}
+
+}  // namespace

@@ -1,0 +1,101 @@
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "tests/GaitTrials.h"
+#include "tests/cli/ToolInFolder.h"
+
+// The tool's reports on the sample walk, held against texts that were read over once.
+// tests/remake_golden.sh makes them anew.
+namespace {
+
+using tests::ReadWholeFile;
+using tests::ToolInFolder;
+using tests::ToolResult;
+
+const std::filesystem::path kGolden = VANTREL_GOLDEN_FOLDER;
+
+// A line of cases.txt: the file with the expected text, then the tool's arguments.
+std::vector<std::vector<std::string>> Cases() {
+  std::vector<std::vector<std::string>> cases;
+  std::ifstream file(kGolden / "cases.txt");
+  for (std::string line; std::getline(file, line);) {
+    std::istringstream words(line);
+    std::vector<std::string>& entry = cases.emplace_back();
+    for (std::string word; words >> word;) entry.push_back(word);
+    if (entry.empty()) cases.pop_back();
+  }
+  return cases;
+}
+
+// Where two texts differ first: the line's number and both lines.
+std::string FirstDifference(const std::string& expected, const std::string& text) {
+  std::istringstream left(expected);
+  std::istringstream right(text);
+  std::string a;
+  std::string b;
+  for (int line = 1;; ++line) {
+    const bool hasLeft = static_cast<bool>(std::getline(left, a));
+    const bool hasRight = static_cast<bool>(std::getline(right, b));
+    if (!hasLeft && !hasRight) return "only the end of the last line differs";
+    if (hasLeft != hasRight || a != b) {
+      return "line " + std::to_string(line) + "\n  expected " + (hasLeft ? a : "no line") +
+             "\n  printed  " + (hasRight ? b : "no line");
+    }
+  }
+}
+
+void ExpectGolden(const std::string& name, const std::string& text) {
+  ASSERT_TRUE(std::filesystem::exists(kGolden / name)) << name;
+  const std::string expected = ReadWholeFile(kGolden / name);
+  EXPECT_FALSE(expected.empty()) << name;
+  EXPECT_TRUE(text == expected) << name << ": " << FirstDifference(expected, text);
+}
+
+TEST(Golden, EveryReportOfTheToolPrintsItsText) {
+  const ToolInFolder tool;
+  std::vector<std::string> reports;
+  for (const std::vector<std::string>& words : Cases()) {
+    std::vector<std::string> arguments(words.begin() + 1, words.end());
+    reports.push_back(arguments.back());
+    arguments.emplace_back(tests::kSampleWalk);
+    const ToolResult run = tool.Run(arguments);
+    EXPECT_EQ(run.Status, 0) << run.Err;
+    EXPECT_EQ(run.Err, "");
+    ExpectGolden(words[0], run.Out);
+  }
+  for (const std::string report :
+       {"header", "parameter-header", "groups", "parameters", "labels", "point", "analog", "events",
+        "measures", "normalized", "gcd", "tree"}) {
+    EXPECT_NE(std::ranges::find(reports, report), reports.end()) << report << " has no text";
+  }
+}
+
+TEST(Golden, GcdFilesHaveTheirTexts) {
+  const ToolInFolder tool;
+  ASSERT_EQ(tool.Run({"gcd", tests::kSampleWalk}).Status, 0);
+  std::vector<std::string> expected;
+  for (const std::string& name : tests::NamesIn(kGolden)) {
+    if (name.ends_with(".gcd")) expected.push_back(name);
+  }
+  EXPECT_EQ(expected.size(), 6U);
+  for (const std::string& name : expected) ExpectGolden(name, tool.Read(name));
+  expected.emplace_back(tests::kSampleWalk);
+  std::ranges::sort(expected);
+  EXPECT_EQ(tests::NamesIn(tool.Path()), expected) << "and nothing else is written";
+}
+
+TEST(Golden, EveryTextHasItsCase) {
+  std::vector<std::string> known = {"cases.txt"};
+  for (const auto& words : Cases()) known.push_back(words[0]);
+  for (const std::string& name : tests::NamesIn(kGolden)) {
+    EXPECT_TRUE(name.ends_with(".gcd") || std::ranges::find(known, name) != known.end()) << name;
+  }
+}
+
+}  // namespace

@@ -1,0 +1,9 @@
+#include "tests/cli/ToolInFolder.h"
+
+namespace tests {
+
+ToolInFolder::ToolInFolder() {
+  std::filesystem::copy_file(VANTREL_SAMPLE_WALK, folder_ / kSampleWalk);
+}
+
+}  // namespace tests
