@@ -1,0 +1,61 @@
+#include "app/CaptionButton.h"
+
+#include <QStyleOptionButton>
+#include <QStylePainter>
+
+namespace app {
+
+CaptionButton::CaptionButton(const QString& caption, QWidget* parent)
+    : QPushButton(caption, parent) {
+  setAutoDefault(true);
+}
+
+QRect CaptionButton::CaptionArea() const {
+  QStyleOptionButton option;
+  initStyleOption(&option);
+  return style()->subElementRect(QStyle::SE_PushButtonContents, &option, this);
+}
+
+void CaptionButton::paintEvent(QPaintEvent* /*event*/) {
+  QStylePainter painter(this);
+  QStyleOptionButton option;
+  initStyleOption(&option);
+  option.text.clear();
+  painter.drawControl(QStyle::CE_PushButton, option);
+
+  QRect area = CaptionArea();
+  if (isDown()) {
+    area.translate(style()->pixelMetric(QStyle::PM_ButtonShiftHorizontal, &option, this),
+                   style()->pixelMetric(QStyle::PM_ButtonShiftVertical, &option, this));
+  }
+  painter.drawItemText(area, kButtonCaptionFlags, palette(), isEnabled(), text(),
+                       QPalette::ButtonText);
+}
+
+QRect CaptionCheckBox::CaptionArea() const {
+  QStyleOptionButton option;
+  initStyleOption(&option);
+  return style()->subElementRect(QStyle::SE_CheckBoxContents, &option, this);
+}
+
+void CaptionCheckBox::paintEvent(QPaintEvent* /*event*/) {
+  QStylePainter painter(this);
+  QStyleOptionButton option;
+  initStyleOption(&option);
+  option.text.clear();
+  option.state &= ~QStyle::State_HasFocus;  // drawn below, around the caption
+  painter.drawControl(QStyle::CE_CheckBox, option);
+  painter.drawItemText(CaptionArea(), kCheckBoxCaptionFlags, palette(), isEnabled(), text(),
+                       QPalette::WindowText);
+  if (hasFocus()) {
+    QStyleOptionFocusRect focus;
+    focus.initFrom(this);
+    focus.rect = CaptionArea().adjusted(-2, 0, 0, 0);
+    focus.backgroundColor = palette().color(QPalette::Window);
+    painter.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
+  }
+}
+
+bool CaptionCheckBox::hitButton(const QPoint& position) const { return rect().contains(position); }
+
+}  // namespace app

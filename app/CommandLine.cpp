@@ -1,0 +1,20 @@
+#include "app/CommandLine.h"
+
+namespace app {
+
+std::string JoinedArguments(int argc, const char* const* argv) {
+  std::string line;
+  for (int i = 1; i < argc; ++i) {
+    if (i > 1) line += ' ';
+    line += argv[i];
+  }
+  return line;
+}
+
+std::string FileNameOnCommandLine(std::string_view commandLine) {
+  if (commandLine.starts_with('"')) commandLine.remove_prefix(1);
+  if (commandLine.ends_with('"')) commandLine.remove_suffix(1);
+  return std::string(commandLine);
+}
+
+}  // namespace app

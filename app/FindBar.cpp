@@ -1,0 +1,117 @@
+#include "app/FindBar.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QToolButton>
+
+#include "app/OutputPane.h"
+
+namespace app {
+
+namespace {
+
+QToolButton* AddButton(QHBoxLayout& row, const QString& objectName, Qt::ArrowType arrow,
+                       const QString& text, const QString& hint) {
+  auto* button = new QToolButton;
+  button->setObjectName(objectName);
+  button->setAutoRaise(true);
+  button->setArrowType(arrow);
+  button->setText(text);
+  button->setToolTip(hint);
+  button->setAccessibleName(hint);
+  button->setFocusPolicy(Qt::TabFocus);
+  row.addWidget(button);
+  return button;
+}
+
+}  // namespace
+
+FindBar::FindBar(OutputPane* pane)
+    : QFrame(pane), pane_(pane), txtFind_(new QLineEdit), lblFindResult_(new QLabel) {
+  setObjectName(QStringLiteral("findBar"));
+  setFrameStyle(QFrame::StyledPanel | QFrame::Raised);
+  setAutoFillBackground(true);
+  setCursor(Qt::ArrowCursor);
+  auto* row = new QHBoxLayout(this);
+  constexpr int kMargin = 4;
+  row->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  txtFind_->setObjectName(QStringLiteral("txtFind"));
+  txtFind_->setPlaceholderText(tr("Find"));
+  txtFind_->setAccessibleName(tr("Find"));
+  constexpr int kFindWidth = 180;
+  txtFind_->setFixedWidth(kFindWidth);
+  lblFindResult_->setObjectName(QStringLiteral("lblFindResult"));
+  row->addWidget(txtFind_);
+  row->addWidget(lblFindResult_);
+  lblFindResult_->hide();
+  auto* previous = AddButton(*row, QStringLiteral("cmdFindPrevious"), Qt::UpArrow, {},
+                             tr("Find previous (Shift+F3)"));
+  auto* next =
+      AddButton(*row, QStringLiteral("cmdFindNext"), Qt::DownArrow, {}, tr("Find next (F3)"));
+  auto* close = AddButton(*row, QStringLiteral("cmdFindClose"), Qt::NoArrow,
+                          QStringLiteral("\u00d7"), tr("Close (Esc)"));
+  connect(previous, &QToolButton::clicked, this, &FindBar::FindPrevious);
+  connect(next, &QToolButton::clicked, this, &FindBar::FindNext);
+  connect(close, &QToolButton::clicked, this, &FindBar::Close);
+  connect(txtFind_, &QLineEdit::textEdited, lblFindResult_, &QLabel::hide);
+  pane->installEventFilter(this);
+  hide();
+}
+
+void FindBar::Open() {
+  const QString selected = pane_->selectedText();
+  if (!selected.isEmpty() && !selected.contains(u'\n')) txtFind_->setText(selected);
+  lblFindResult_->hide();
+  show();
+  raise();
+  MoveToCorner();
+  txtFind_->setFocus();
+  txtFind_->selectAll();
+}
+
+void FindBar::Close() {
+  hide();
+  pane_->setFocus();
+}
+
+void FindBar::Find(bool forward) {
+  const QByteArray wanted = txtFind_->text().toUtf8();
+  if (wanted.isEmpty()) {
+    Open();
+    return;
+  }
+  const bool found =
+      pane_->Find({wanted.constData(), static_cast<std::size_t>(wanted.size())}, forward);
+  lblFindResult_->setText(tr("not found"));
+  lblFindResult_->setVisible(!found);
+  MoveToCorner();
+}
+
+void FindBar::MoveToCorner() {
+  adjustSize();
+  const QRect inside = pane_->viewport()->geometry();
+  move(inside.right() + 1 - width(), inside.top());
+}
+
+bool FindBar::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == pane_ && event->type() == QEvent::Resize && isVisible()) MoveToCorner();
+  return QFrame::eventFilter(watched, event);
+}
+
+void FindBar::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_Escape:
+      Close();
+      break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      Find(!event->modifiers().testFlag(Qt::ShiftModifier));
+      break;
+    default:
+      QFrame::keyPressEvent(event);
+  }
+}
+
+}  // namespace app

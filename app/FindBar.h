@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QFrame>
+
+class QLabel;
+class QLineEdit;
+
+namespace app {
+
+class OutputPane;
+
+// The bar for searching the output pane. It lies over the pane's upper right corner, so it moves
+// nothing, and is hidden until it is asked for.
+class FindBar : public QFrame {
+  Q_OBJECT
+
+ public:
+  explicit FindBar(OutputPane* pane);
+
+  // Shows the bar, ready for typing; a selection within one line is taken over.
+  void Open();
+  void FindNext() { Find(true); }
+  void FindPrevious() { Find(false); }
+  // Hides the bar and goes back to the pane.
+  void Close();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  void Find(bool forward);
+  void MoveToCorner();
+
+  OutputPane* pane_;
+  QLineEdit* txtFind_;
+  QLabel* lblFindResult_;
+};
+
+}  // namespace app

@@ -1,0 +1,30 @@
+#include "app/MessageBoxes.h"
+
+#include <QMessageBox>
+#include <QString>
+
+#include "app/QtText.h"
+
+namespace app {
+
+namespace {
+
+void Show(QWidget* owner, QMessageBox::Icon icon, const QString& text) {
+  QMessageBox box(icon, QStringLiteral("Vantrel"), text, QMessageBox::Ok, owner);
+  box.setTextFormat(Qt::PlainText);
+  box.exec();
+}
+
+}  // namespace
+
+void ShowMessage(QWidget* owner, std::string_view text) {
+  Show(owner, QMessageBox::NoIcon, ToQString(text));
+}
+
+void ShowRuntimeError(QWidget* owner, const modAllPurpose::RuntimeError& error) {
+  Show(owner, QMessageBox::Critical,
+       ToQString(modAllPurpose::RuntimeErrorTitle(error)) + QStringLiteral("\n\n") +
+           ToQString(error.what()));
+}
+
+}  // namespace app

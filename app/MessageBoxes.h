@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string_view>
+
+#include "support/RuntimeError.h"
+
+class QWidget;
+
+namespace app {
+
+// A plain message with an OK button, titled "Vantrel". Waits for the answer.
+void ShowMessage(QWidget* owner, std::string_view text);
+
+// An error that ends the program: its number and its description. Waits for the answer.
+void ShowRuntimeError(QWidget* owner, const modAllPurpose::RuntimeError& error);
+
+}  // namespace app

@@ -1,0 +1,52 @@
+#include "app/NodeTree.h"
+
+#include <memory>
+
+#include <QKeyEvent>
+
+#include "app/QtText.h"
+
+namespace app {
+
+namespace {
+
+std::unique_ptr<QTreeWidgetItem> MakeItem(const reports::TreeNode& node) {
+  auto item = std::make_unique<QTreeWidgetItem>(QStringList(ToQString(node.Text)));
+  for (const reports::TreeNode& child : node.Children) item->addChild(MakeItem(child).release());
+  return item;
+}
+
+}  // namespace
+
+NodeTree::NodeTree(QWidget* parent) : QTreeWidget(parent) {
+  setColumnCount(1);
+  setHeaderHidden(true);
+  setUniformRowHeights(true);
+  connect(this, &QTreeWidget::itemClicked, this, &NodeTree::NodeClick);
+  connect(this, &QTreeWidget::itemDoubleClicked, this, &NodeTree::DblClick);
+}
+
+void NodeTree::Fill(const std::vector<reports::TreeNode>& groups) {
+  clear();
+  QList<QTreeWidgetItem*> items;
+  for (const reports::TreeNode& group : groups) items << MakeItem(group).release();
+  addTopLevelItems(items);
+}
+
+void NodeTree::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    if (currentItem() != nullptr) emit DblClick(currentItem());
+    return;
+  }
+  const QTreeWidgetItem* before = currentItem();
+  QTreeWidget::keyPressEvent(event);
+  if (currentItem() != nullptr && currentItem() != before) emit NodeClick(currentItem());
+}
+
+std::int16_t NodeDepth(const QTreeWidgetItem* node) {
+  std::int16_t depth = 0;
+  while ((node = node->parent()) != nullptr) ++depth;
+  return depth;
+}
+
+}  // namespace app

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include <QTreeWidget>
+
+#include "app/reports/NavigationTree.h"
+
+namespace app {
+
+// The tree of groups, parameters and labels. The mouse and the keyboard do the same: moving to a
+// node by keys clicks it, Enter double-clicks it.
+class NodeTree : public QTreeWidget {
+  Q_OBJECT
+
+ public:
+  explicit NodeTree(QWidget* parent);
+
+  // Replaces what the tree holds, in the order given.
+  void Fill(const std::vector<reports::TreeNode>& groups);
+
+ signals:
+  void NodeClick(QTreeWidgetItem* node);
+  void DblClick(QTreeWidgetItem* node);
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+};
+
+// How many ancestors a node has: 0 for a group, 1 for a parameter, 2 for a label.
+std::int16_t NodeDepth(const QTreeWidgetItem* node);
+
+}  // namespace app

@@ -1,0 +1,56 @@
+#include "app/OpenFileDialog.h"
+
+#include <QFileDialog>
+#include <QStringList>
+
+#include "support/Text.h"
+
+namespace modApiCommonDialog {
+
+namespace {
+
+// The next text of a NUL-separated row, taken off its front.
+QString TakeText(std::string_view& row) {
+  const std::string_view text = modAllPurpose::StripAtNul(row);
+  row.remove_prefix(std::min(row.size(), text.size() + 1));
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+// The filters in the toolkit's form: the shown text, then the patterns in brackets. Some desktops
+// match them case by case, so both cases are named; the dialog hides them.
+QStringList NameFilters(std::string_view filter) {
+  QStringList filters;
+  while (!filter.empty()) {
+    const QString shown = TakeText(filter);
+    const QString pattern = TakeText(filter);
+    filters << QStringLiteral("%1 (%2 %3)").arg(shown, pattern, pattern.toUpper());
+  }
+  return filters;
+}
+
+}  // namespace
+
+DialogResult ResultForChosenFile(std::string_view path) {
+  DialogResult result;
+  result.DialogFileSpec = modAllPurpose::Trimmed(modAllPurpose::StripAtNul(path));
+  const std::size_t nameStart = result.DialogFileSpec.rfind('/') + 1;  // 0 where there is no slash
+  result.DialogFolder = result.DialogFileSpec.substr(0, nameStart);
+  result.DialogFileName = result.DialogFileSpec.substr(nameStart);
+  result.DialogOk = true;
+  return result;
+}
+
+DialogResult ShowOpenFileDialog(QWidget* owner, std::string_view filter,
+                                const std::string& initialFolder, const QString& title,
+                                unsigned flags) {
+  QFileDialog dialog(owner, title, QString::fromStdString(initialFolder));
+  dialog.setOption(QFileDialog::HideNameFilterDetails);
+  dialog.setNameFilters(NameFilters(filter));
+  if ((flags & (kPathMustExist | kFileMustExist)) != 0) {
+    dialog.setFileMode(QFileDialog::ExistingFile);
+  }
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+  return ResultForChosenFile(dialog.selectedFiles().constFirst().toStdString());
+}
+
+}  // namespace modApiCommonDialog

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+class QString;
+class QWidget;
+
+// The system's dialog for choosing a file to open.
+namespace modApiCommonDialog {
+
+// Flags of the dialog.
+inline constexpr unsigned kHideReadOnly = 4;
+inline constexpr unsigned kPathMustExist = 2048;
+inline constexpr unsigned kFileMustExist = 4096;
+
+// What was chosen: the whole path, its folder with the slash at its end, and the name alone. After
+// a cancelled dialog the path is "none" and the other two are empty.
+struct DialogResult {
+  std::string DialogFileSpec = "none";
+  std::string DialogFolder;
+  std::string DialogFileName;
+  bool DialogOk = false;
+};
+
+// Shows the dialog over `owner` and waits. `filter` is a row of pairs, a text to show and its
+// pattern, each ended by NUL; patterns are matched without regard to case. An empty
+// `initialFolder` starts in the current folder. One existing file can be chosen, which is what the
+// flags ask for; there is no read-only box to hide.
+DialogResult ShowOpenFileDialog(QWidget* owner, std::string_view filter,
+                                const std::string& initialFolder, const QString& title,
+                                unsigned flags);
+
+// The result for a chosen path.
+DialogResult ResultForChosenFile(std::string_view path);
+
+}  // namespace modApiCommonDialog

@@ -1,0 +1,172 @@
+#include "app/OutputPane.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QEvent>
+#include <QFontDatabase>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPalette>
+
+#include "app/QtText.h"
+
+namespace app {
+
+namespace {
+
+constexpr int kFontSize = 10;  // points
+constexpr unsigned long kDefaultStyle = QsciScintillaBase::STYLE_DEFAULT;
+
+// Lets the pane's text be changed while it lives.
+class Writable {
+ public:
+  explicit Writable(QsciScintilla& pane) : pane_(pane) { pane_.setReadOnly(false); }
+  Writable(const Writable&) = delete;
+  Writable& operator=(const Writable&) = delete;
+  ~Writable() { pane_.setReadOnly(true); }
+
+ private:
+  QsciScintilla& pane_;
+};
+
+// The characters of the longest line, a tab taken for one.
+long LongestLine(std::string_view text) {
+  long longest = 0;
+  long length = 0;
+  for (const char byte : text) {
+    constexpr unsigned kFollowsMask = 0xC0;
+    constexpr unsigned kFollows = 0x80;
+    if (byte == '\n') {
+      longest = std::max(longest, std::exchange(length, 0));
+    } else if ((static_cast<unsigned char>(byte) & kFollowsMask) != kFollows) {
+      ++length;
+    }
+  }
+  return std::max(longest, length);
+}
+
+bool MovesThroughLines(const QKeyEvent& event) {
+  if ((event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0) return false;
+  return event.key() == Qt::Key_Up || event.key() == Qt::Key_Down ||
+         event.key() == Qt::Key_PageUp || event.key() == Qt::Key_PageDown;
+}
+
+}  // namespace
+
+QString PaneFontFamily() {
+  const QStringList families = QFontDatabase::families();
+  for (const auto& family : {QStringLiteral("Courier New"), QStringLiteral("Liberation Mono"),
+                             QStringLiteral("Cousine")}) {
+    if (families.contains(family)) return family;
+  }
+  return QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
+}
+
+OutputPane::OutputPane(QWidget* parent) : QsciScintilla(parent) {
+  setUtf8(true);
+  setReadOnly(true);
+  setWrapMode(WrapNone);
+  setEolMode(EolUnix);
+  for (int margin = 0; margin < margins(); ++margin) setMarginWidth(margin, 0);
+  setScrollWidthTracking(false);
+  setAcceptDrops(false);  // a file dropped here is for the form
+  viewport()->setAcceptDrops(false);
+  SendScintilla(SCI_SETUNDOCOLLECTION, 0UL);
+  SendScintilla(SCI_STYLESETFONT, kDefaultStyle, PaneFontFamily().toUtf8().constData());
+  SendScintilla(SCI_STYLESETSIZE, kDefaultStyle, long{kFontSize});
+  connect(this, &QsciScintilla::SCN_ZOOM, this, &OutputPane::SetScrollWidth);
+  TakeColours();
+}
+
+void OutputPane::TakeColours() {
+  const QPalette colours = palette();
+  SendScintilla(SCI_STYLESETFORE, kDefaultStyle, colours.color(QPalette::Text));
+  SendScintilla(SCI_STYLESETBACK, kDefaultStyle, colours.color(QPalette::Base));
+  SendScintilla(SCI_STYLECLEARALL);
+  setCaretForegroundColor(colours.color(QPalette::Text));
+  setSelectionForegroundColor(colours.color(QPalette::HighlightedText));
+  setSelectionBackgroundColor(colours.color(QPalette::Highlight));
+}
+
+void OutputPane::changeEvent(QEvent* event) {
+  QsciScintilla::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange) TakeColours();
+}
+
+void OutputPane::Clear() {
+  ReplaceText({});
+  viewport()->repaint();
+}
+
+void OutputPane::Append(std::string_view text) {
+  {
+    const Writable writable(*this);
+    SendScintilla(SCI_APPENDTEXT, static_cast<unsigned long>(text.size()), text.data());
+  }
+  SendScintilla(SCI_SETEMPTYSELECTION, static_cast<unsigned long>(length()));
+  longestLine_ = std::max(longestLine_, LongestLine(text));
+  SetScrollWidth();
+}
+
+void OutputPane::SetScrollWidth() {
+  // Widths are whole pixels, so one character alone would say too much or too little.
+  static const std::string kSample(100, '0');
+  const long sampleWidth = SendScintilla(SCI_TEXTWIDTH, kDefaultStyle, kSample.c_str());
+  const long width = longestLine_ * sampleWidth / static_cast<long>(kSample.size());
+  SendScintilla(SCI_SETSCROLLWIDTH, static_cast<unsigned long>(width + 1));
+}
+
+void OutputPane::ReplaceText(std::string_view text) {
+  {
+    const Writable writable(*this);
+    SendScintilla(SCI_CLEARALL);
+  }
+  longestLine_ = 0;
+  SendScintilla(SCI_SETXOFFSET, 0UL);
+  Append(text);
+}
+
+std::string OutputPane::Text() const {
+  const auto* text = static_cast<const char*>(SendScintillaPtrResult(SCI_GETCHARACTERPOINTER));
+  return {text, static_cast<std::size_t>(length())};
+}
+
+bool OutputPane::FindBetween(std::string_view text, long start, long end) {
+  SendScintilla(SCI_SETTARGETSTART, start);
+  SendScintilla(SCI_SETTARGETEND, end);
+  if (SendScintilla(SCI_SEARCHINTARGET, static_cast<unsigned long>(text.size()), text.data()) < 0) {
+    return false;
+  }
+  const auto found = static_cast<unsigned long>(SendScintilla(SCI_GETTARGETSTART));
+  SendScintilla(SCI_SETSEL, found, SendScintilla(SCI_GETTARGETEND));
+  return true;
+}
+
+bool OutputPane::Find(std::string_view text, bool forward) {
+  if (text.empty()) return false;
+  SendScintilla(SCI_SETSEARCHFLAGS, 0UL);
+  const long end = length();
+  if (forward) {
+    return FindBetween(text, SendScintilla(SCI_GETSELECTIONEND), end) || FindBetween(text, 0, end);
+  }
+  // A target that runs backwards is searched backwards.
+  return FindBetween(text, SendScintilla(SCI_GETSELECTIONSTART), 0L) || FindBetween(text, end, 0);
+}
+
+void OutputPane::keyPressEvent(QKeyEvent* event) {
+  // After a report the caret stands at its end and the view at its start: moving on from the caret
+  // would jump, so it comes into view first.
+  if (MovesThroughLines(*event) && !hasSelectedText()) SendScintilla(SCI_MOVECARETINSIDEVIEW);
+  QsciScintilla::keyPressEvent(event);
+}
+
+void OutputPane::mousePressEvent(QMouseEvent* event) {
+  // A block is drawn with Alt, and with Ctrl where the desktop takes Alt for moving windows.
+  const bool ctrl = event->modifiers().testFlag(Qt::ControlModifier);
+  SendScintilla(SCI_SETRECTANGULARSELECTIONMODIFIER,
+                static_cast<unsigned long>(ctrl ? SCMOD_CTRL : SCMOD_ALT));
+  QsciScintilla::mousePressEvent(event);
+}
+
+}  // namespace app

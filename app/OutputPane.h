@@ -1,0 +1,51 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include <Qsci/qsciscintilla.h>
+
+namespace app {
+
+// The read-only pane that shows the reports: one fixed-pitch font, lines never wrapped, colours of
+// the desktop's theme. Texts go in and out as UTF-8.
+class OutputPane : public QsciScintilla {
+  Q_OBJECT
+
+ public:
+  explicit OutputPane(QWidget* parent);
+
+  // Empties the pane and has it repaint at once.
+  void Clear();
+
+  // Adds `text` at the end in one piece and leaves the caret behind it. The view stays where it is,
+  // so that a report is seen from its first line.
+  void Append(std::string_view text);
+
+  // Lets `text` be all that the pane shows.
+  void ReplaceText(std::string_view text);
+
+  // All of its text, lines ended as they were handed over.
+  std::string Text() const;
+
+  // Selects the next place of `text` behind the selection, or the one before it, going round at the
+  // end; letters match in both cases. False where there is none; the selection then stays.
+  bool Find(std::string_view text, bool forward);
+
+ protected:
+  void changeEvent(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+
+ private:
+  void TakeColours();
+  void SetScrollWidth();
+  bool FindBetween(std::string_view text, long start, long end);
+
+  long longestLine_ = 0;  // characters
+};
+
+// The font of the pane: Courier New, or a face of the same widths where that is missing.
+QString PaneFontFamily();
+
+}  // namespace app

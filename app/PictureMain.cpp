@@ -1,0 +1,86 @@
+// Saves a picture of the window, for machines without a display and for the manual.
+
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPalette>
+#include <QPushButton>
+#include <QStyleFactory>
+#include <QTimer>
+
+#include "app/QtText.h"
+#include "app/frmVantrel.h"
+#include "c3d/FileState.h"
+
+namespace {
+
+constexpr const char* kUsage =
+    "usage: vantrel-picture [--dark] FILE.c3d PICTURE.png [LABEL]\n"
+    "Opens FILE.c3d, shows the normalised curves of LABEL (without it, the single-value measures)\n"
+    "and saves a picture of the window.\n";
+
+QPalette DarkPalette() {
+  QPalette palette(QColor(0x2b, 0x2b, 0x2e), QColor(0x23, 0x23, 0x26));
+  palette.setColor(QPalette::Base, QColor(0x1b, 0x1b, 0x1d));
+  palette.setColor(QPalette::Highlight, QColor(0x2f, 0x65, 0xca));
+  return palette;
+}
+
+// A message box would wait for ever: its text goes to standard error and it is closed.
+void AnswerMessageBoxes(QTimer& timer, bool& met) {
+  QObject::connect(&timer, &QTimer::timeout, [&met] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (box == nullptr) return;
+    std::cerr << "vantrel-picture: " << box->text().toStdString() << '\n';
+    met = true;
+    box->accept();
+  });
+  constexpr int kInterval = 20;  // milliseconds
+  timer.start(kInterval);
+}
+
+bool SavePicture(const std::vector<std::string>& arguments) {
+  QTimer timer;
+  bool refused = false;
+  AnswerMessageBoxes(timer, refused);
+  modVantrel::FileState state;
+  app::frmVantrel form(state);
+  form.Form_Load(arguments[0]);
+  if (refused) return false;
+  form.show();
+  const bool withLabel = arguments.size() > 2;
+  if (withLabel) {
+    form.findChild<QLineEdit*>(QStringLiteral("txtPointLabel"))
+        ->setText(app::ToQString(arguments[2]));
+  }
+  form.findChild<QPushButton*>(withLabel ? QStringLiteral("cmdShowNormalized")
+                                         : QStringLiteral("cmdShowSingleValueStrikeOffMeasures"))
+      ->click();
+  if (form.IsUnloaded()) return false;
+  QApplication::processEvents();
+  return form.grab().save(app::ToQString(arguments[1]), "PNG");
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argc, argv);
+  std::vector<std::string> arguments(argv + 1, argv + argc);
+  if (!arguments.empty() && arguments[0] == "--dark") {
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(DarkPalette());
+    arguments.erase(arguments.begin());
+  }
+  if (arguments.size() < 2 || arguments.size() > 3) {
+    std::cerr << kUsage;
+    return 2;
+  }
+  if (SavePicture(arguments)) return 0;
+  std::cerr << "vantrel-picture: no picture was saved\n";
+  return 1;
+}

@@ -1,0 +1,196 @@
+#include "app/frmVantrel.h"
+
+#include <new>
+
+#include <QCloseEvent>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QShortcut>
+
+#include "app/CaptionButton.h"
+#include "app/CommandLine.h"
+#include "app/CursorOverride.h"
+#include "app/DesktopFolder.h"
+#include "app/FindBar.h"
+#include "app/MessageBoxes.h"
+#include "app/NodeTree.h"
+#include "app/OpenFileDialog.h"
+#include "app/OutputPane.h"
+#include "app/QtText.h"
+#include "app/Screens.h"
+#include "app/reports/NavigationTree.h"
+#include "c3d/OpenC3dFile.h"
+#include "gait/EventExtraction.h"
+
+namespace app {
+
+using modAllPurpose::RuntimeError;
+using modVantrel::OpenResult;
+
+frmVantrel::frmVantrel(modVantrel::FileState& state) : state_(state) {
+  setObjectName(QStringLiteral("frmVantrel"));
+  setWindowTitle(QStringLiteral("Vantrel"));
+  controls_ = LayOutForm(*this);
+  findBar_ = new FindBar(controls_.txt);
+  ConnectControls();
+  AddShortcuts();
+  AcceptDrops();
+}
+
+void frmVantrel::Form_Load(const std::string& commandLine) {
+  design_ = DesignSizes{size(), controls_.txt->size(), controls_.tre->height()};
+  move(screen()->geometry().topLeft() + FormPosition(screen()->geometry().size(), size()));
+  DesktopOutputPath_ = GetDesktopFolder() + "Vantrel_Output.txt";
+  controls_.tre->clear();
+  controls_.tre->setRootIsDecorated(true);
+  if (commandLine.empty()) return;
+  Run([&] { OpenFile(FileNameOnCommandLine(commandLine)); });
+}
+
+void frmVantrel::Run(const std::function<void()>& handler) {
+  try {
+    handler();
+  } catch (const RuntimeError& error) {
+    EndWithError(error);
+  } catch (const std::bad_alloc&) {
+    EndWithError(RuntimeError(modAllPurpose::ErrorNumber::OutOfMemory));
+  }
+}
+
+void frmVantrel::EndWithError(const RuntimeError& error) {
+  ShowRuntimeError(this, error);
+  Unload(1);
+}
+
+void frmVantrel::Unload(int exitStatus) {
+  if (IsUnloaded()) return;
+  exitStatus_ = exitStatus;
+  close();
+}
+
+void frmVantrel::closeEvent(QCloseEvent* event) {
+  Form_Unload();
+  event->accept();
+}
+
+void frmVantrel::Form_Unload() {
+  modVantrel::CloseC3dFile(state_);
+  fileOpen_ = false;
+  if (!exitStatus_) exitStatus_ = 0;
+  emit Unloaded(*exitStatus_);
+}
+
+void frmVantrel::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  Form_Resize();
+}
+
+void frmVantrel::Form_Resize() {
+  if (!design_) return;
+  // A size below nothing cannot be set: that step is left out and the others are made.
+  const auto setWidth = [](QWidget& control, int width) {
+    if (width >= 0) control.resize(width, control.height());
+  };
+  const auto setHeight = [](QWidget& control, int height) {
+    if (height >= 0) control.resize(control.width(), height);
+  };
+  setWidth(*controls_.txt, width() - design_->Form.width() + design_->Pane.width());
+  setHeight(*controls_.txt, height() - design_->Form.height() + design_->Pane.height());
+  setHeight(*controls_.tre, height() - design_->Form.height() + design_->TreeHeight);
+}
+
+bool frmVantrel::EnsureFileOpen() {
+  if (!fileOpen_) ShowMessage(this, "A C3D file is not open.  You must open one first.");
+  return fileOpen_;
+}
+
+void frmVantrel::cmdOpen_Click() {
+  using namespace std::string_view_literals;
+  const modApiCommonDialog::DialogResult chosen = modApiCommonDialog::ShowOpenFileDialog(
+      this, "C3D Files (*.c3d)\0*.c3d\0"sv, {}, QStringLiteral("Vantrel"),
+      modApiCommonDialog::kHideReadOnly | modApiCommonDialog::kPathMustExist |
+          modApiCommonDialog::kFileMustExist);
+  if (chosen.DialogOk) {
+    OpenFile(chosen.DialogFileSpec);
+  } else {
+    Unload(0);
+  }
+}
+
+void frmVantrel::cmdExit_Click() { Unload(0); }
+
+void frmVantrel::OpenFile(const std::string& fileSpec) {
+  DialogFileSpec_ = fileSpec;
+  OpenAndFillTree();
+}
+
+void frmVantrel::OpenAndFillTree() {
+  modVantrel::CloseC3dFile(state_);
+  fileOpen_ = false;
+  controls_.txt->Clear();
+  controls_.tre->clear();
+  for (QLineEdit* box : {controls_.txtGroup, controls_.txtParam, controls_.txtPointLabel,
+                         controls_.txtAnalogLabel}) {
+    box->clear();
+  }
+  const OpenResult result = [this] {
+    const CursorOverride wait(Qt::WaitCursor);
+    return modVantrel::OpenC3dFile(state_, DialogFileSpec_, modVantrel::FindGaitEvents);
+  }();
+  if (result != OpenResult::Success) {
+    ShowMessage(this, modVantrel::OpenFailureMessage(result));
+    return;
+  }
+  // "[*]" is the toolkit's mark for unsaved changes; doubled it shows as it stands.
+  setWindowTitle(
+      ToQString(DialogFileSpec_).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
+  fileOpen_ = true;
+  FillTree();
+}
+
+void frmVantrel::FillTree() {
+  const CursorOverride wait(Qt::WaitCursor);
+  controls_.tre->Fill(reports::FillTree(state_));
+}
+
+void frmVantrel::tre_NodeClick(const QTreeWidgetItem* node) {
+  const QString text = node->text(0);
+  switch (NodeDepth(node)) {
+    case 0:
+      controls_.txtGroup->setText(text);
+      controls_.txtParam->clear();
+      break;
+    case 1:
+      controls_.txtGroup->setText(node->parent()->text(0));
+      controls_.txtParam->setText(text);
+      break;
+    default:
+      // The names are compared letter by letter, though the tree was filled without regard to case.
+      if (node->parent()->parent()->text(0) == QStringLiteral("POINT")) {
+        controls_.txtPointLabel->setText(text);
+      } else if (node->parent()->parent()->text(0) == QStringLiteral("ANALOG")) {
+        controls_.txtAnalogLabel->setText(text);
+      }
+  }
+}
+
+void frmVantrel::tre_DblClick(const QTreeWidgetItem* node) {
+  tre_NodeClick(node);
+  switch (NodeDepth(node)) {
+    case 0:
+      cmdShowMatchingGroupAndAllParams_Click();
+      break;
+    case 1:
+      cmdShowMatchingGroupAndMatchingParam_Click();
+      break;
+    default:
+      if (node->parent()->parent()->text(0) == QStringLiteral("POINT")) {
+        cmdShowPointData_Click();
+      } else if (node->parent()->parent()->text(0) == QStringLiteral("ANALOG")) {
+        cmdShowAnalogData_Click();
+      }
+  }
+}
+
+}  // namespace app

@@ -1,0 +1,120 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+
+#include <QWidget>
+
+#include "app/DesktopCopy.h"
+#include "app/FormLayout.h"
+#include "app/FormReport.h"
+#include "c3d/FileState.h"
+#include "support/ReportOutput.h"
+#include "support/RuntimeError.h"
+
+class QTreeWidgetItem;
+
+namespace app {
+
+class FindBar;
+
+// The program's window. Its handlers carry the names of their controls.
+//
+// A run-time error in any handler shows what the report had written, then a message box, and ends
+// the program with exit status 1.
+class frmVantrel : public QWidget {
+  Q_OBJECT
+
+ public:
+  // `state` is the one open file; it must outlive the form.
+  explicit frmVantrel(modVantrel::FileState& state);
+
+  // Takes down the design sizes, places the form, finds the desktop, and opens the file that
+  // `commandLine` names, where it names one. Called once, before the form is shown.
+  void Form_Load(const std::string& commandLine);
+
+  // Whether the form was unloaded, which ends the program, and with what exit status.
+  bool IsUnloaded() const { return exitStatus_.has_value(); }
+  int ExitStatus() const { return exitStatus_.value_or(0); }
+
+ signals:
+  void Unloaded(int exitStatus);
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  using Handler = void (frmVantrel::*)();
+  using Report = std::function<modAllPurpose::ReportResult(modAllPurpose::ReportOutput&)>;
+
+  // The sizes of the layout as it is drawn.
+  struct DesignSizes {
+    QSize Form;
+    QSize Pane;
+    int TreeHeight;
+  };
+
+  void ConnectControls();
+  void AddShortcuts();
+  void AcceptDrops();
+  void OnClick(QPushButton* button, Handler handler);
+  void OnKeys(const QKeySequence& keys, Handler handler);
+  void Run(const std::function<void()>& handler);
+  void EndWithError(const modAllPurpose::RuntimeError& error);
+  void Unload(int exitStatus);
+
+  void Form_Resize();
+  void Form_Unload();
+
+  bool EnsureFileOpen();
+  void OpenAndFillTree();
+  void FillTree();
+  void OpenFile(const std::string& fileSpec);
+
+  void cmdOpen_Click();
+  void cmdExit_Click();
+  void tre_NodeClick(const QTreeWidgetItem* node);
+  void tre_DblClick(const QTreeWidgetItem* node);
+
+  void cmdShowHeaderInfo_Click();
+  void cmdShowParameterHeader_Click();
+  void cmdShowAllGroups_Click();
+  void cmdShowAllGroupsAndAllParams_Click();
+  void cmdShowMatchingGroupAndAllParams_Click();
+  void cmdShowMatchingGroupAndMatchingParam_Click();
+  void cmdShowPointLabels_Click();
+  void cmdShowPointData_Click();
+  void cmdShowPointDataWithEvents_Click();
+  void cmdShowAnalogData_Click();
+  void cmdShowAnalogDataWithEvents_Click();
+  void cmdShowStrikeOffEvents_Click();
+  void cmdShowSingleValueStrikeOffMeasures_Click();
+  void cmdShowNormalized_Click();
+  void cmdWriteGcdFiles_Click();
+
+  // What every report command does around its report.
+  void ShowReport(const Report& report);
+  void ShowPlainReport(void (*report)(const modVantrel::FileState&, modAllPurpose::ReportOutput&));
+  void ShowLabelReport(modAllPurpose::ReportResult (*report)(const modVantrel::FileState&,
+                                                             std::string_view,
+                                                             modAllPurpose::ReportOutput&),
+                       const QLineEdit* labelBox);
+  FormReport NewReport(CopyToDesktop copyToDesktop);
+
+  modVantrel::FileState& state_;
+  FormControls controls_;
+  FindBar* findBar_;
+  DesktopCopy desktopCopy_;
+  std::string DesktopOutputPath_;
+  std::string DialogFileSpec_;
+  bool fileOpen_ = false;
+  std::optional<DesignSizes> design_;
+  std::optional<int> exitStatus_;
+};
+
+}  // namespace app

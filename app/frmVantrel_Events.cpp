@@ -1,0 +1,127 @@
+// How mouse, keys and drops reach the handlers of the form.
+
+#include <QApplication>
+#include <QDropEvent>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QPushButton>
+#include <QShortcut>
+
+#include "app/CaptionButton.h"
+#include "app/FindBar.h"
+#include "app/NodeTree.h"
+#include "app/OutputPane.h"
+#include "app/frmVantrel.h"
+
+namespace app {
+
+namespace {
+
+// The first file among what is dragged; empty where there is none.
+QString DraggedFile(const QMimeData* data) {
+  for (const QUrl& url : data->urls()) {
+    if (url.isLocalFile()) return url.toLocalFile();
+  }
+  return {};
+}
+
+}  // namespace
+
+void frmVantrel::OnClick(QPushButton* button, Handler handler) {
+  connect(button, &QPushButton::clicked, this,
+          [this, handler] { Run([&] { (this->*handler)(); }); });
+}
+
+void frmVantrel::OnKeys(const QKeySequence& keys, Handler handler) {
+  auto* shortcut = new QShortcut(keys, this);
+  connect(shortcut, &QShortcut::activated, this,
+          [this, handler] { Run([&] { (this->*handler)(); }); });
+}
+
+void frmVantrel::ConnectControls() {
+  OnClick(controls_.cmdOpen, &frmVantrel::cmdOpen_Click);
+  OnClick(controls_.cmdExit, &frmVantrel::cmdExit_Click);
+  OnClick(controls_.cmdShowHeaderInfo, &frmVantrel::cmdShowHeaderInfo_Click);
+  OnClick(controls_.cmdShowParameterHeader, &frmVantrel::cmdShowParameterHeader_Click);
+  OnClick(controls_.cmdShowAllGroups, &frmVantrel::cmdShowAllGroups_Click);
+  OnClick(controls_.cmdShowAllGroupsAndAllParams, &frmVantrel::cmdShowAllGroupsAndAllParams_Click);
+  OnClick(controls_.cmdShowMatchingGroupAndAllParams,
+          &frmVantrel::cmdShowMatchingGroupAndAllParams_Click);
+  OnClick(controls_.cmdShowMatchingGroupAndMatchingParam,
+          &frmVantrel::cmdShowMatchingGroupAndMatchingParam_Click);
+  OnClick(controls_.cmdShowPointLabels, &frmVantrel::cmdShowPointLabels_Click);
+  OnClick(controls_.cmdShowPointData, &frmVantrel::cmdShowPointData_Click);
+  OnClick(controls_.cmdShowPointDataWithEvents, &frmVantrel::cmdShowPointDataWithEvents_Click);
+  OnClick(controls_.cmdShowAnalogData, &frmVantrel::cmdShowAnalogData_Click);
+  OnClick(controls_.cmdShowAnalogDataWithEvents, &frmVantrel::cmdShowAnalogDataWithEvents_Click);
+  OnClick(controls_.cmdShowStrikeOffEvents, &frmVantrel::cmdShowStrikeOffEvents_Click);
+  OnClick(controls_.cmdShowSingleValueStrikeOffMeasures,
+          &frmVantrel::cmdShowSingleValueStrikeOffMeasures_Click);
+  OnClick(controls_.cmdShowNormalized, &frmVantrel::cmdShowNormalized_Click);
+  OnClick(controls_.cmdWriteGcdFiles, &frmVantrel::cmdWriteGcdFiles_Click);
+  connect(controls_.tre, &NodeTree::NodeClick, this,
+          [this](const QTreeWidgetItem* node) { Run([&] { tre_NodeClick(node); }); });
+  connect(controls_.tre, &NodeTree::DblClick, this,
+          [this](const QTreeWidgetItem* node) { Run([&] { tre_DblClick(node); }); });
+}
+
+void frmVantrel::AddShortcuts() {
+  OnKeys(QKeySequence(Qt::CTRL | Qt::Key_O), &frmVantrel::cmdOpen_Click);
+  OnKeys(QKeySequence(Qt::CTRL | Qt::Key_Q), &frmVantrel::cmdExit_Click);
+  const auto on = [this](const QKeySequence& keys, auto* receiver, auto handler) {
+    connect(new QShortcut(keys, this), &QShortcut::activated, receiver, handler);
+  };
+  on(QKeySequence(Qt::CTRL | Qt::Key_F), findBar_, &FindBar::Open);
+  on(QKeySequence(Qt::Key_F3), findBar_, &FindBar::FindNext);
+  on(QKeySequence(Qt::SHIFT | Qt::Key_F3), findBar_, &FindBar::FindPrevious);
+  OutputPane* txt = controls_.txt;
+  on(QKeySequence(Qt::CTRL | Qt::Key_Plus), txt, [txt] { txt->zoomIn(); });
+  on(QKeySequence(Qt::CTRL | Qt::Key_Equal), txt, [txt] { txt->zoomIn(); });
+  on(QKeySequence(Qt::CTRL | Qt::Key_Minus), txt, [txt] { txt->zoomOut(); });
+  on(QKeySequence(Qt::CTRL | Qt::Key_0), txt, [txt] { txt->zoomTo(0); });
+}
+
+void frmVantrel::AcceptDrops() {
+  setAcceptDrops(true);
+  for (QLineEdit* box : {controls_.txtGroup, controls_.txtParam, controls_.txtPointLabel,
+                         controls_.txtAnalogLabel}) {
+    box->installEventFilter(this);
+  }
+}
+
+bool frmVantrel::eventFilter(QObject* watched, QEvent* event) {
+  // A text box takes dropped texts, but a file dropped on it is for the form.
+  const auto carriesFile = [event] {
+    return !DraggedFile(static_cast<QDropEvent*>(event)->mimeData()).isEmpty();
+  };
+  switch (event->type()) {
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+      if (!carriesFile()) break;
+      static_cast<QDropEvent*>(event)->acceptProposedAction();
+      return true;
+    case QEvent::Drop:
+      if (!carriesFile()) break;
+      dropEvent(static_cast<QDropEvent*>(event));
+      return true;
+    default:
+      break;
+  }
+  return QWidget::eventFilter(watched, event);
+}
+
+void frmVantrel::dragEnterEvent(QDragEnterEvent* event) {
+  if (!DraggedFile(event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+void frmVantrel::dropEvent(QDropEvent* event) {
+  const QString file = DraggedFile(event->mimeData());
+  // While a message box waits, the command behind it is not done yet.
+  if (file.isEmpty() || QApplication::activeModalWidget() != nullptr) return;
+  event->acceptProposedAction();
+  // The other program waits for the end of the drop, so a message box must not keep it.
+  QMetaObject::invokeMethod(
+      this, [this, file] { Run([&] { OpenFile(file.toStdString()); }); }, Qt::QueuedConnection);
+}
+
+}  // namespace app

@@ -1,0 +1,20 @@
+# The toolkit of the window: Qt 6 Widgets, and QScintilla for the output pane.
+find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets)
+
+find_path(QSCINTILLA_INCLUDE_DIR Qsci/qsciscintilla.h PATH_SUFFIXES qt6 REQUIRED)
+find_library(QSCINTILLA_LIBRARY qscintilla2_qt6 REQUIRED)
+add_library(QScintilla::QScintilla UNKNOWN IMPORTED)
+set_target_properties(QScintilla::QScintilla PROPERTIES
+  IMPORTED_LOCATION ${QSCINTILLA_LIBRARY}
+  INTERFACE_INCLUDE_DIRECTORIES ${QSCINTILLA_INCLUDE_DIR}
+  INTERFACE_LINK_LIBRARIES Qt6::Widgets)
+
+# vantrel_qt_library(NAME SOURCES ... LINKS ...): a library that uses Qt. Bytes and texts of the
+# toolkit are converted where it is written, never silently.
+function(vantrel_qt_library name)
+  vantrel_library(${name} ${ARGN})
+  set_target_properties(${name} PROPERTIES AUTOMOC ON)
+  target_link_libraries(${name} PUBLIC Qt6::Widgets)
+  target_compile_definitions(${name} PUBLIC QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII
+                                            QT_NO_FOREACH)
+endfunction()
