@@ -1,4 +1,5 @@
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -180,10 +181,12 @@ TEST_F(OpenStateTest, TheStoredBytesOf48Point5AreReadByTheProcessor) {
         .SetParam("TRIAL", sample::SingleParam("CAMERA_RATE", 48.5F))
         .Build();
   };
-  Trial dec = withRateBytes(kProcessorDec);
-  const auto* stored = &dec.Bytes()[static_cast<std::size_t>(
-      dec.ParamPosition("TRIAL", "CAMERA_RATE") - 1 + 2 + 11 + 2 + 2)];
-  EXPECT_EQ(std::vector<std::byte>(stored, stored + 4),
+  const Trial dec = withRateBytes(kProcessorDec);
+  // The data stand behind the name length, the id, the name, the offset word, the type and the
+  // dimensions.
+  const std::ptrdiff_t record = dec.ParamPosition("TRIAL", "CAMERA_RATE") - 1;
+  const auto data = dec.Bytes().begin() + record + 2 + 11 + 2 + 2;
+  EXPECT_EQ(std::vector(data, data + 4),
             (std::vector{std::byte{0x42}, std::byte{0x43}, std::byte{0}, std::byte{0}}));
   Given(dec);
   EXPECT_EQ(Header().PointFrameRate, 48.5F);

@@ -67,7 +67,7 @@ TEST(ConvertDecFloat, ATopByteOfZeroWrapsTo255) {
 }
 
 TEST(ConvertDecFloatInPlace, ConvertsForDecOnly) {
-  const float stored = std::bit_cast<float>(Bits({0x42, 0x43, 0x00, 0x00}));
+  const auto stored = std::bit_cast<float>(Bits({0x42, 0x43, 0x00, 0x00}));
   float value = stored;
   ConvertDecFloatInPlace(value, kProcessorIntel);
   EXPECT_EQ(value, stored);

@@ -11,7 +11,6 @@
 namespace {
 
 using reports::TreeNode;
-using sample::ParamSpec;
 using sample::SectionSpec;
 using sample::TrialBuilder;
 
