@@ -65,8 +65,8 @@ sample::TrialBuilder Choose(Choices& choices, Expected& expected) {
 
   const std::int32_t points = 1 + choices.UpTo(4);
   for (std::int32_t point = 0; point < points; ++point) {
-    std::vector<float> values;
-    for (std::int32_t i = 0; i < expected.Frames; ++i) values.push_back(choices.Value());
+    std::vector<float> values(static_cast<std::size_t>(expected.Frames));
+    std::ranges::generate(values, [&choices] { return choices.Value(); });
     expected.PointX.push_back(values);
     builder.AddPoint(fmt::format("P{}", point), [values](std::int32_t frame) {
       return std::array{values[static_cast<std::size_t>(frame) - 1], 1.0F, -1.0F};
