@@ -73,6 +73,7 @@ OutputPane::OutputPane(QWidget* parent) : QsciScintilla(parent) {
   setAcceptDrops(false);  // a file dropped here is for the form
   viewport()->setAcceptDrops(false);
   SendScintilla(SCI_SETUNDOCOLLECTION, 0UL);
+  SendScintilla(SCI_SETRECTANGULARSELECTIONMODIFIER, static_cast<unsigned long>(SCMOD_CTRL));
   SendScintilla(SCI_STYLESETFONT, kDefaultStyle, PaneFontFamily().toUtf8().constData());
   SendScintilla(SCI_STYLESETSIZE, kDefaultStyle, long{kFontSize});
   connect(this, &QsciScintilla::SCN_ZOOM, this, &OutputPane::SetScrollWidth);
@@ -162,11 +163,14 @@ void OutputPane::keyPressEvent(QKeyEvent* event) {
 }
 
 void OutputPane::mousePressEvent(QMouseEvent* event) {
-  // A block is drawn with Alt, and with Ctrl where the desktop takes Alt for moving windows.
-  const bool ctrl = event->modifiers().testFlag(Qt::ControlModifier);
-  SendScintilla(SCI_SETRECTANGULARSELECTIONMODIFIER,
-                static_cast<unsigned long>(ctrl ? SCMOD_CTRL : SCMOD_ALT));
-  QsciScintilla::mousePressEvent(event);
+  // A block is drawn with Ctrl, which every desktop leaves to its programs, and with Alt.
+  const Qt::KeyboardModifiers keys = event->modifiers().testFlag(Qt::AltModifier)
+                                         ? Qt::KeyboardModifiers(Qt::ControlModifier)
+                                         : event->modifiers();
+  QMouseEvent press(event->type(), event->position(), event->scenePosition(),
+                    event->globalPosition(), event->button(), event->buttons(), keys,
+                    event->pointingDevice());
+  QsciScintilla::mousePressEvent(&press);
 }
 
 }  // namespace app

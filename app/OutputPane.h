@@ -29,7 +29,8 @@ class OutputPane : public QsciScintilla {
   std::string Text() const;
 
   // Selects the next place of `text` behind the selection, or the one before it, going round at the
-  // end; letters match in both cases. False where there is none; the selection then stays.
+  // end; the letters A to Z match in both cases. False where there is none; the selection then
+  // stays.
   bool Find(std::string_view text, bool forward);
 
  protected:

@@ -77,6 +77,8 @@ void frmVantrel::closeEvent(QCloseEvent* event) {
 void frmVantrel::Form_Unload() {
   modVantrel::CloseC3dFile(state_);
   fileOpen_ = false;
+  // An error may have left the desktop copy open; what it holds so far is kept.
+  modAllPurpose::IgnoringErrors([this] { desktopCopy_.Close(); });
   if (!exitStatus_) exitStatus_ = 0;
   emit Unloaded(*exitStatus_);
 }

@@ -112,6 +112,7 @@ QString MsgBoxPlus(QWidget* ownerWindow, int buttonSet, const QString& caption, 
   bool timedOut = false;
   QTimer timer;
   timer.setSingleShot(true);
+  timer.setTimerType(Qt::PreciseTimer);
   QObject::connect(&timer, &QTimer::timeout, &box, [&] {
     timedOut = true;
     box.reject();

@@ -1,0 +1,130 @@
+#include "tests/app/FormFixture.h"
+
+#include <fstream>
+#include <regex>
+
+#include <QApplication>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QProcess>
+#include <QTest>
+#include <QUrl>
+
+#include "sample/SampleWalk.h"
+
+namespace tests {
+
+FormTest::FormTest() {
+  std::filesystem::create_directory(folder_ / "Desktop");
+  std::filesystem::create_directory(folder_ / "config");
+  std::ofstream(folder_ / "config/user-dirs.dirs")
+      << "XDG_DESKTOP_DIR=\"" << (folder_ / "Desktop").string() << "\"\n";
+  qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString((folder_ / "config").string()));
+}
+
+FormTest::~FormTest() { qunsetenv("XDG_CONFIG_HOME"); }
+
+void FormTest::Start(const std::string& commandLine) {
+  form_.Form_Load(commandLine);
+  if (form_.IsUnloaded()) return;
+  form_.show();
+  form_.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&form_));
+}
+
+const sample::Trial& FormTest::SampleTrial() {
+  static const sample::Trial trial = sample::SampleWalk().Build();
+  return trial;
+}
+
+std::string FormTest::Write(const sample::Trial& trial, const std::string& name) {
+  const auto path = folder_ / name;
+  trial.WriteTo(path);
+  return path.string();
+}
+
+void FormTest::Drop(const std::string& path) { DropOn(form_, path); }
+
+void FormTest::DropOn(QWidget& target, const std::string& path) {
+  QMimeData data;
+  data.setUrls({QUrl::fromLocalFile(QString::fromStdString(path))});
+  const QPoint place(3, 3);
+  QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&target, &enter);
+  ASSERT_TRUE(enter.isAccepted());
+  QDropEvent drop(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&target, &drop);
+  QApplication::processEvents();
+}
+
+void FormTest::Click(const char* button) { QTest::mouseClick(Button(button), Qt::LeftButton); }
+
+void FormTest::Type(const char* box, const QString& text) {
+  QLineEdit* edit = Box(box);
+  QTest::mouseClick(edit, Qt::LeftButton);
+  edit->selectAll();
+  QTest::keyClick(edit, Qt::Key_Delete);
+  QTest::keyClicks(edit, text);
+}
+
+void FormTest::Tick(bool ticked) {
+  if (CheckBox()->isChecked() != ticked) {
+    QTest::mouseClick(CheckBox(), Qt::LeftButton, {}, QPoint(8, CheckBox()->height() / 2));
+  }
+  ASSERT_EQ(CheckBox()->isChecked(), ticked);
+}
+
+QTreeWidgetItem* FormTest::Node(const QStringList& path) {
+  QTreeWidgetItem* node = Tree()->invisibleRootItem();
+  for (const QString& text : path) {
+    QTreeWidgetItem* found = nullptr;
+    for (int i = 0; i < node->childCount() && found == nullptr; ++i) {
+      if (node->child(i)->text(0) == text) found = node->child(i);
+    }
+    if (found == nullptr) throw std::out_of_range(text.toStdString());
+    node = found;
+  }
+  return node;
+}
+
+QPoint FormTest::ShowNode(const QStringList& path) {
+  QTreeWidgetItem* node = Node(path);
+  for (auto* parent = node->parent(); parent != nullptr; parent = parent->parent()) {
+    parent->setExpanded(true);
+  }
+  Tree()->scrollToItem(node);
+  const QRect row = Tree()->visualItemRect(node);
+  return {row.left() + 4, row.center().y()};
+}
+
+void FormTest::ClickNode(const QStringList& path) {
+  const QPoint place = ShowNode(path);
+  QTest::mouseClick(Tree()->viewport(), Qt::LeftButton, {}, place);
+}
+
+void FormTest::DoubleClickNode(const QStringList& path) {
+  const QPoint place = ShowNode(path);
+  QTest::mouseClick(Tree()->viewport(), Qt::LeftButton, {}, place);
+  QTest::mouseDClick(Tree()->viewport(), Qt::LeftButton, {}, place);
+}
+
+QStringList FormTest::TextBoxes() {
+  return {Box("txtGroup")->text(), Box("txtParam")->text(), Box("txtPointLabel")->text(),
+          Box("txtAnalogLabel")->text()};
+}
+
+std::string ToolOutput(const QStringList& arguments) {
+  QProcess tool;
+  tool.start(QStringLiteral(VANTREL_REPORT), arguments);
+  EXPECT_TRUE(tool.waitForFinished());
+  EXPECT_EQ(tool.exitCode(), 0) << tool.readAllStandardError().toStdString();
+  return tool.readAllStandardOutput().toStdString();
+}
+
+std::string WithoutCarriageReturns(const std::string& text) {
+  static const std::regex kOtherEnds("(^|[^\r])\n|\r([^\n]|$)");
+  EXPECT_FALSE(std::regex_search(text, kOtherEnds)) << "a line does not end with CR LF";
+  return std::regex_replace(text, std::regex("\r\n"), "\n");
+}
+
+}  // namespace tests

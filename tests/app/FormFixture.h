@@ -1,0 +1,84 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include <QLineEdit>
+#include <QPushButton>
+#include <QString>
+#include <QStringList>
+#include <QTreeWidgetItem>
+#include <gtest/gtest.h>
+
+#include "app/CaptionButton.h"
+#include "app/NodeTree.h"
+#include "app/OutputPane.h"
+#include "app/frmVantrel.h"
+#include "c3d/FileState.h"
+#include "tests/TestTrials.h"
+#include "tests/app/Boxes.h"
+
+namespace tests {
+
+// The form of the program on a desktop of its own, worked by mouse and keys.
+class FormTest : public ::testing::Test {
+ protected:
+  FormTest();
+  ~FormTest() override;
+
+  // Starts the form with that command line and shows it.
+  void Start(const std::string& commandLine = {});
+  void Start(const sample::Trial& trial) { Start(Write(trial)); }
+
+  // Writes a trial into the test's folder and returns its path.
+  std::string Write(const sample::Trial& trial, const std::string& name = "trial.c3d");
+  std::string WriteSampleWalk() { return Write(SampleTrial(), "walk.c3d"); }
+  static const sample::Trial& SampleTrial();
+
+  // Drops a file on the form as a file manager does.
+  void Drop(const std::string& path);
+  static void DropOn(QWidget& target, const std::string& path);
+
+  QPushButton* Button(const char* name) { return Control<QPushButton>(name); }
+  QLineEdit* Box(const char* name) { return Control<QLineEdit>(name); }
+  void Click(const char* button);
+  // Types into a text box, in place of what it holds.
+  void Type(const char* box, const QString& text);
+  void Tick(bool ticked);
+
+  // The node at the end of a path of texts; fails the test where there is none.
+  QTreeWidgetItem* Node(const QStringList& path);
+  void ClickNode(const QStringList& path);
+  void DoubleClickNode(const QStringList& path);
+  QStringList TextBoxes();
+
+  app::OutputPane* Pane() { return Control<app::OutputPane>("txt"); }
+  app::NodeTree* Tree() { return Control<app::NodeTree>("tre"); }
+  app::CaptionCheckBox* CheckBox() { return Control<app::CaptionCheckBox>("chkOut"); }
+  std::string PaneText() { return Pane()->Text(); }
+
+  std::filesystem::path DesktopFile() const { return folder_ / "Desktop" / "Vantrel_Output.txt"; }
+
+  template <typename Widget>
+  Widget* Control(const char* name) {
+    auto* control = form_.findChild<Widget*>(QString::fromLatin1(name));
+    if (control == nullptr) throw std::out_of_range(name);
+    return control;
+  }
+
+  TemporaryFolder folder_;
+  modVantrel::FileState state_;
+  app::frmVantrel form_{state_};
+  Boxes boxes_;
+
+ private:
+  QPoint ShowNode(const QStringList& path);
+};
+
+// What vantrel-report prints for these arguments; fails the test where it ends with a failure.
+std::string ToolOutput(const QStringList& arguments);
+
+// `text` with every CR LF as LF; fails the test where a line ends otherwise.
+std::string WithoutCarriageReturns(const std::string& text);
+
+}  // namespace tests

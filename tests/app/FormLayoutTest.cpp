@@ -1,0 +1,265 @@
+// What the form looks like: its controls, their places and how they follow the form's size.
+
+#include <array>
+#include <map>
+
+#include <QAccessible>
+#include <QLabel>
+#include <QScreen>
+#include <QTest>
+
+#include "app/FormLayout.h"
+#include "app/Screens.h"
+#include "tests/app/FormFixture.h"
+
+namespace {
+
+using FormLayout = tests::FormTest;
+using FormResize = tests::FormTest;
+
+struct NamedCaption {
+  const char* Name;
+  const char16_t* Caption;
+};
+
+constexpr std::array kButtons = {
+    NamedCaption{"cmdOpen", u"Open C3D"},
+    NamedCaption{"cmdExit", u"Exit"},
+    NamedCaption{"cmdShowHeaderInfo", u"Show Header Info"},
+    NamedCaption{"cmdShowParameterHeader", u"Show Parameter Header"},
+    NamedCaption{"cmdShowAllGroups", u"Show All Groups"},
+    NamedCaption{"cmdShowAllGroupsAndAllParams", u"Show All Groups && All Params"},
+    NamedCaption{"cmdShowMatchingGroupAndAllParams", u"Show Matching Group && All Params"},
+    NamedCaption{"cmdShowMatchingGroupAndMatchingParam", u"Show Matching Group && Matching Param"},
+    NamedCaption{"cmdShowPointLabels", u"Show Point Labels"},
+    NamedCaption{"cmdShowPointData", u"Show Point Data for Matching Label"},
+    NamedCaption{"cmdShowPointDataWithEvents", u"Show Point Data with Events for Matching Label"},
+    NamedCaption{"cmdShowAnalogData", u"Show Analog Data for Matching Label"},
+    NamedCaption{"cmdShowAnalogDataWithEvents", u"Show Analog Data with Events for Matching Label"},
+    NamedCaption{"cmdShowStrikeOffEvents", u"Show Strike/Off Events"},
+    NamedCaption{"cmdShowSingleValueStrikeOffMeasures", u"Show Single-Value Strike/Off Measures"},
+    NamedCaption{"cmdShowNormalized",
+                 u"Show Normalized (cubic spline, 51 points) Data for Label && Stride Events"},
+    NamedCaption{"cmdWriteGcdFiles", u"Write GCD Files"},
+};
+
+constexpr std::array kTextBoxes = {
+    NamedCaption{"txtGroup", u"Group name"},
+    NamedCaption{"txtParam", u"Param name"},
+    NamedCaption{"txtPointLabel", u"Point label"},
+    NamedCaption{"txtAnalogLabel", u"Analog label"},
+};
+
+QLabel* LabelOf(QWidget* form, const QWidget* control) {
+  for (QLabel* label : form->findChildren<QLabel*>()) {
+    if (label->buddy() == control) return label;
+  }
+  return nullptr;
+}
+
+TEST_F(FormLayout, IsTitledVantrelBeforeAFileIsOpen) {
+  Start();
+  EXPECT_EQ(form_.windowTitle(), QStringLiteral("Vantrel"));
+}
+
+TEST_F(FormLayout, HasEveryButtonUnderItsNameWithItsCaption) {
+  for (const NamedCaption& button : kButtons) {
+    EXPECT_EQ(Button(button.Name)->text(), QString::fromUtf16(button.Caption)) << button.Name;
+  }
+  EXPECT_EQ(form_.findChildren<app::CaptionButton*>().size(), qsizetype{kButtons.size()});
+}
+
+TEST_F(FormLayout, HasEveryTextBoxWithItsLabelAsBuddy) {
+  for (const NamedCaption& box : kTextBoxes) {
+    const QLabel* label = LabelOf(&form_, Box(box.Name));
+    ASSERT_NE(label, nullptr) << box.Name;
+    EXPECT_EQ(label->text(), QString::fromUtf16(box.Caption));
+  }
+}
+
+TEST_F(FormLayout, HasTheCheckBoxAndTheTreeWithTheirTexts) {
+  EXPECT_EQ(CheckBox()->text(),
+            QStringLiteral("Also write output to file on your desktop (Vantrel_Output.txt)"));
+  EXPECT_FALSE(CheckBox()->isChecked());
+  const QLabel* label = LabelOf(&form_, Tree());
+  ASSERT_NE(label, nullptr);
+  EXPECT_EQ(label->text(),
+            QStringLiteral("Groups, Parameters, && Labels.                       Click to select, "
+                           "double-click to show data."));
+}
+
+TEST_F(FormLayout, EveryControlIsReadOutByItsCaptionOrLabel) {
+  for (const NamedCaption& button : kButtons) {
+    const QString caption =
+        QString::fromUtf16(button.Caption).replace(QStringLiteral("&&"), QStringLiteral("&"));
+    EXPECT_EQ(Button(button.Name)->accessibleName(), caption);
+  }
+  for (const NamedCaption& box : kTextBoxes) {
+    EXPECT_EQ(Box(box.Name)->accessibleName(), QString::fromUtf16(box.Caption));
+  }
+  EXPECT_EQ(CheckBox()->accessibleName(), CheckBox()->text());
+  EXPECT_EQ(Tree()->accessibleName(), QStringLiteral("Groups, Parameters, & Labels"));
+  EXPECT_EQ(Pane()->accessibleName(), QStringLiteral("Output"));
+}
+
+TEST_F(FormLayout, ThePaneIsReadOutWithItsText) {
+  Start(WriteSampleWalk());
+  Click("cmdShowParameterHeader");
+  QAccessibleInterface* pane = QAccessible::queryAccessibleInterface(Pane());
+  ASSERT_NE(pane, nullptr);
+  ASSERT_NE(pane->textInterface(), nullptr);
+  const QString shown = QString::fromStdString(PaneText());
+  EXPECT_EQ(pane->textInterface()->characterCount(), shown.size());
+  EXPECT_EQ(pane->textInterface()->text(0, static_cast<int>(shown.size())), shown);
+}
+
+TEST_F(FormLayout, TabGoesFromLeftToRightAndThenDownwardsAndLeavesThePane) {
+  Start();
+  Button("cmdOpen")->setFocus();
+  QPoint last(-1, -1);
+  QStringList visited;
+  do {
+    QWidget* control = form_.focusWidget();
+    visited << control->objectName();
+    if (control != Pane()) {
+      const QPoint place = control->geometry().center();
+      EXPECT_TRUE(place.y() > last.y() + 6 || place.x() > last.x()) << visited.last().toStdString();
+      last = place;
+    }
+    QTest::keyClick(control, Qt::Key_Tab);
+  } while (form_.focusWidget() != Button("cmdOpen") && visited.size() < 50);
+  EXPECT_EQ(visited.size(), qsizetype{kButtons.size() + kTextBoxes.size() + 3});
+  EXPECT_EQ(visited.last(), QStringLiteral("txt"));
+}
+
+TEST_F(FormLayout, LeavesTheLeft430PixelsToTheControlsAndTheRestToThePane) {
+  EXPECT_EQ(form_.size(), QSize(1180, 740));
+  for (QWidget* control : form_.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+    if (control == Pane()) continue;
+    EXPECT_TRUE(QRect(0, 0, 430, 740).contains(control->geometry()))
+        << control->objectName().toStdString();
+  }
+  EXPECT_TRUE(QRect(430, 0, 750, 740).contains(Pane()->geometry()));
+}
+
+TEST_F(FormLayout, NoTwoControlsOverlap) {
+  const auto controls = form_.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+  for (const QWidget* one : controls) {
+    for (const QWidget* other : controls) {
+      EXPECT_TRUE(one == other || !one->geometry().intersects(other->geometry()))
+          << one->objectName().toStdString() << ' ' << other->objectName().toStdString();
+    }
+  }
+}
+
+TEST_F(FormLayout, EveryCaptionFitsItsPlace) {
+  Start();
+  const auto fits = [](const QWidget* control, const QRect& area, int flags, const QString& text) {
+    const QRect needed =
+        control->fontMetrics().boundingRect(QRect(0, 0, area.width(), 10000), flags, text);
+    EXPECT_LE(needed.height(), control->height()) << text.toStdString();
+    EXPECT_LE(needed.width(), area.width()) << text.toStdString();
+  };
+  for (const auto* button : form_.findChildren<app::CaptionButton*>()) {
+    fits(button, button->CaptionArea(), app::kButtonCaptionFlags, button->text());
+  }
+  fits(CheckBox(), CheckBox()->CaptionArea(), app::kCheckBoxCaptionFlags, CheckBox()->text());
+  for (const auto* label : form_.findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly)) {
+    fits(label, label->rect(), Qt::TextWordWrap | Qt::TextShowMnemonic, label->text());
+  }
+}
+
+TEST_F(FormLayout, TheTreesLabelBreaksBetweenItsTwoSentences) {
+  Start();
+  const QLabel* label = LabelOf(&form_, Tree());
+  const QFontMetrics letters = label->fontMetrics();
+  EXPECT_LE(
+      letters.horizontalAdvance(QStringLiteral("Click to select, double-click to show data.")),
+      label->width());
+  EXPECT_GT(letters.horizontalAdvance(
+                QStringLiteral("Groups, Parameters, & Labels.                       Click")),
+            label->width());
+}
+
+TEST_F(FormLayout, StandsInTheMiddleAndAThirdOfTheWayDownTheScreen) {
+  form_.Form_Load({});
+  const QRect screen = form_.screen()->geometry();
+  EXPECT_EQ(form_.pos() - screen.topLeft(), app::FormPosition(screen.size(), app::kDesignSize));
+}
+
+TEST_F(FormResize, GrowingTheFormGrowsThePaneAndTheTreeByExactlyThat) {
+  Start();
+  const QRect pane = Pane()->geometry();
+  const QRect tree = Tree()->geometry();
+  form_.resize(1180 + 137, 740 + 59);
+  QApplication::processEvents();
+  EXPECT_EQ(Pane()->geometry(), QRect(pane.topLeft(), pane.size() + QSize(137, 59)));
+  EXPECT_EQ(Tree()->geometry(), QRect(tree.topLeft(), tree.size() + QSize(0, 59)));
+}
+
+TEST_F(FormResize, ShrinkingTheFormShrinksThePaneAndTheTreeByExactlyThat) {
+  Start();
+  const QRect pane = Pane()->geometry();
+  const QRect tree = Tree()->geometry();
+  form_.resize(1180 - 301, 740 - 101);
+  QApplication::processEvents();
+  EXPECT_EQ(Pane()->geometry(), QRect(pane.topLeft(), pane.size() - QSize(301, 101)));
+  EXPECT_EQ(Tree()->geometry(), QRect(tree.topLeft(), tree.size() - QSize(0, 101)));
+}
+
+TEST_F(FormResize, NothingElseMoves) {
+  Start();
+  std::map<const QWidget*, QRect> places;
+  const auto controls = form_.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+  for (const QWidget* control : controls) places[control] = control->geometry();
+  form_.resize(1500, 900);
+  QApplication::processEvents();
+  for (const QWidget* control : controls) {
+    if (control == Pane() || control == Tree()) continue;
+    EXPECT_EQ(control->geometry(), places[control]);
+  }
+}
+
+TEST_F(FormResize, AWidthBelowNothingIsLeftOutAndTheHeightsStillFollow) {
+  Start();
+  const int paneWidth = Pane()->width();
+  const int paneHeight = Pane()->height();
+  const int treeHeight = Tree()->height();
+  form_.resize(300, 740 - 40);
+  QApplication::processEvents();
+  EXPECT_EQ(Pane()->width(), paneWidth);
+  EXPECT_EQ(Pane()->height(), paneHeight - 40);
+  EXPECT_EQ(Tree()->height(), treeHeight - 40);
+}
+
+TEST_F(FormResize, AHeightBelowNothingIsLeftOutForEachControlByItself) {
+  Start();
+  const int treeHeight = Tree()->height();
+  const int paneHeight = Pane()->height();
+  form_.resize(1180, 740 - treeHeight - 50);
+  QApplication::processEvents();
+  EXPECT_EQ(Tree()->height(), treeHeight);
+  EXPECT_EQ(Pane()->height(), paneHeight - treeHeight - 50);
+}
+
+TEST_F(FormResize, AWidthOfExactlyNothingIsSet) {
+  Start();
+  form_.resize(1180 - Pane()->width(), 740);
+  QApplication::processEvents();
+  EXPECT_EQ(Pane()->width(), 0);
+}
+
+TEST_F(FormResize, ToTinyAndBackGivesTheDesignAgain) {
+  Start();
+  const QRect pane = Pane()->geometry();
+  const QRect tree = Tree()->geometry();
+  for (const QSize size : {QSize(700, 500), QSize(120, 90), QSize(1, 1), QSize(1180, 740)}) {
+    form_.resize(size);
+    QApplication::processEvents();
+    EXPECT_EQ(form_.size(), size) << "a smallest size holds it";
+  }
+  EXPECT_EQ(Pane()->geometry(), pane);
+  EXPECT_EQ(Tree()->geometry(), tree);
+}
+
+}  // namespace

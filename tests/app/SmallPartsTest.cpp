@@ -1,0 +1,173 @@
+// The parts of the form that can be looked at without it.
+
+#include <filesystem>
+#include <fstream>
+
+#include <QFontDatabase>
+#include <QFontMetrics>
+#include <gtest/gtest.h>
+
+#include "app/CommandLine.h"
+#include "app/DesktopCopy.h"
+#include "app/DesktopFolder.h"
+#include "app/OpenFileDialog.h"
+#include "app/OutputPane.h"
+#include "app/Screens.h"
+#include "tests/TestTrials.h"
+
+namespace {
+
+using tests::TemporaryFolder;
+
+TEST(CommandLine, SeveralArgumentsAreOnePathJoinedByBlanks) {
+  const char* const argv[] = {"vantrel", "/data/left", "foot", "walk.c3d"};
+  EXPECT_EQ(app::JoinedArguments(4, argv), "/data/left foot walk.c3d");
+}
+
+TEST(CommandLine, WithoutArgumentsIsEmpty) {
+  const char* const argv[] = {"vantrel"};
+  EXPECT_EQ(app::JoinedArguments(1, argv), "");
+}
+
+TEST(CommandLine, APathInDoubleQuotesLosesThem) {
+  EXPECT_EQ(app::FileNameOnCommandLine("\"/data/a b.c3d\""), "/data/a b.c3d");
+}
+
+TEST(CommandLine, APathWithoutQuotesKeepsItsBlanks) {
+  EXPECT_EQ(app::FileNameOnCommandLine(" /data/a  b.c3d "), " /data/a  b.c3d ");
+}
+
+TEST(CommandLine, OneDoubleQuoteIsAnEmptyName) { EXPECT_EQ(app::FileNameOnCommandLine("\""), ""); }
+
+TEST(CommandLine, AQuoteAtOneEndGoesAndQuotesInsideStay) {
+  EXPECT_EQ(app::FileNameOnCommandLine("\"a\"b.c3d"), "a\"b.c3d");
+  EXPECT_EQ(app::FileNameOnCommandLine("a.c3d\""), "a.c3d");
+  EXPECT_EQ(app::FileNameOnCommandLine("\"\"a\"\""), "\"a\"");
+}
+
+TEST(FormPosition, IsCentredAndAThirdOfTheWayDown) {
+  EXPECT_EQ(app::FormPosition({1920, 1080}, {1180, 740}), QPoint(370, 113));
+}
+
+TEST(FormPosition, CutsTowardsZeroWhereTheFormIsLargerThanTheScreen) {
+  EXPECT_EQ(app::FormPosition({1023, 600}, {1180, 740}), QPoint(-78, -46));
+}
+
+class DesktopFolder : public ::testing::Test {
+ protected:
+  DesktopFolder() {
+    qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(folder_.Path().string()));
+  }
+  ~DesktopFolder() override { qunsetenv("XDG_CONFIG_HOME"); }
+
+  void SystemNames(const std::string& folder) {
+    std::ofstream(folder_ / "user-dirs.dirs") << "XDG_DESKTOP_DIR=\"" << folder << "\"\n";
+  }
+
+  TemporaryFolder folder_;
+};
+
+TEST_F(DesktopFolder, IsTheOneOfTheSystemWithASlashAtItsEnd) {
+  const auto desktop = folder_ / "Schreibtisch für alle";
+  std::filesystem::create_directory(desktop);
+  SystemNames(desktop.string());
+  EXPECT_EQ(app::GetDesktopFolder(), desktop.string() + "/");
+}
+
+TEST_F(DesktopFolder, IsEmptyWhereTheNamedFolderIsNotThere) {
+  SystemNames((folder_ / "nowhere").string());
+  EXPECT_EQ(app::GetDesktopFolder(), "");
+}
+
+TEST_F(DesktopFolder, IsTheOnlyFolderIdThatIsKnown) {
+  SystemNames(folder_.Path().string());
+  EXPECT_EQ(app::GetSpecialFolderPath(16), folder_.Path().string() + "/");
+  EXPECT_EQ(app::GetSpecialFolderPath(5), "");
+}
+
+TEST(DesktopCopy, EndsLinesAfterTheirTextWithCarriageReturnAndLineFeed) {
+  const TemporaryFolder folder;
+  app::DesktopCopy copy;
+  copy.Open((folder / "out.txt").string());
+  copy.Write("Left  ", true);
+  copy.Write("Foot Strike", false);
+  copy.Write("", false);
+  copy.Close();
+  EXPECT_EQ(tests::ReadWholeFile(folder / "out.txt"), "Left  Foot Strike\r\n\r\n");
+}
+
+TEST(DesktopCopy, ReplacesAnEarlierOneEvenIfThatIsStillOpen) {
+  const TemporaryFolder folder;
+  app::DesktopCopy copy;
+  copy.Open((folder / "out.txt").string());
+  copy.Write("a much longer first report", false);
+  copy.Open((folder / "out.txt").string());
+  copy.Write("second", false);
+  copy.Close();
+  EXPECT_EQ(tests::ReadWholeFile(folder / "out.txt"), "second\r\n");
+}
+
+TEST(DesktopCopy, WritesNothingWhereNoneIsOpen) {
+  app::DesktopCopy copy;
+  copy.Write("lost", false);
+  copy.Flush();
+  copy.Close();
+  SUCCEED();
+}
+
+TEST(DesktopCopy, InAFolderThatIsNotThereIsError76) {
+  const TemporaryFolder folder;
+  app::DesktopCopy copy;
+  EXPECT_EQ(tests::ErrorNumberOf([&] { copy.Open((folder / "no/out.txt").string()); }), 76);
+}
+
+TEST(DesktopCopy, InPlaceOfAFolderIsError75) {
+  const TemporaryFolder folder;
+  app::DesktopCopy copy;
+  EXPECT_EQ(tests::ErrorNumberOf([&] { copy.Open(folder.Path().string()); }), 75);
+}
+
+TEST(DesktopCopy, OnAFullDiskIsError61) {
+  app::DesktopCopy copy;
+  copy.Open("/dev/full");
+  copy.Write("does not fit", false);
+  EXPECT_EQ(tests::ErrorNumberOf([&] { copy.Close(); }), 61);
+}
+
+TEST(ChosenFile, IsSplitIntoFolderAndName) {
+  const auto result = modApiCommonDialog::ResultForChosenFile("/data/gait lab/walk 03.c3d");
+  EXPECT_TRUE(result.DialogOk);
+  EXPECT_EQ(result.DialogFileSpec, "/data/gait lab/walk 03.c3d");
+  EXPECT_EQ(result.DialogFolder, "/data/gait lab/");
+  EXPECT_EQ(result.DialogFileName, "walk 03.c3d");
+}
+
+TEST(ChosenFile, EndsAtANulAndLosesTheBlanksAroundIt) {
+  using namespace std::string_view_literals;
+  const auto result = modApiCommonDialog::ResultForChosenFile(" walk.c3d \0rest"sv);
+  EXPECT_EQ(result.DialogFileSpec, "walk.c3d");
+  EXPECT_EQ(result.DialogFolder, "");
+  EXPECT_EQ(result.DialogFileName, "walk.c3d");
+}
+
+TEST(ChosenFile, IsNoneAfterACancelledDialog) {
+  const modApiCommonDialog::DialogResult result;
+  EXPECT_FALSE(result.DialogOk);
+  EXPECT_EQ(result.DialogFileSpec, "none");
+  EXPECT_EQ(result.DialogFolder, "");
+  EXPECT_EQ(result.DialogFileName, "");
+}
+
+TEST(PaneFont, IsCourierNewOrAFaceOfTheSameWidths) {
+  const QString family = app::PaneFontFamily();
+  EXPECT_TRUE(family == QStringLiteral("Courier New") ||
+              family == QStringLiteral("Liberation Mono") || family == QStringLiteral("Cousine"))
+      << family.toStdString();
+  QFont font(family);
+  font.setPixelSize(1000);
+  // Courier's characters are 0.6 of the type size wide, each of them.
+  EXPECT_NEAR(QFontMetricsF(font).horizontalAdvance(u'i'), 600.0, 1.0);
+  EXPECT_NEAR(QFontMetricsF(font).horizontalAdvance(u'W'), 600.0, 1.0);
+}
+
+}  // namespace

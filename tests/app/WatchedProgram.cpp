@@ -1,0 +1,70 @@
+// The whole program with a user at its side, for tests that need a process of its own: clicks the
+// buttons that VANTREL_TEST_CLICKS names, answers every message box with Enter after writing it to
+// standard output, and closes the window at last.
+
+#include <iostream>
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include "app/OutputPane.h"
+#include "app/Startup.h"
+
+namespace {
+
+void Report(const char* what, const QString& text) {
+  std::cout << what << ": " << QString(text).replace(u'\n', u'|').toStdString() << std::endl;
+}
+
+app::OutputPane* Pane() {
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (auto* pane = window->findChild<app::OutputPane*>()) return pane;
+  }
+  return nullptr;
+}
+
+void AnswerBox(QMessageBox& box) {
+  Report("pane", QString::fromStdString(Pane()->Text()));
+  Report("window",
+         Pane()->window()->isVisible() ? QStringLiteral("shown") : QStringLiteral("hidden"));
+  Report("title", box.windowTitle());
+  Report("text", box.text());
+  QTest::keyClick(&box, Qt::Key_Return);
+}
+
+void ActAsUser() {
+  static QStringList clicks =
+      qEnvironmentVariable("VANTREL_TEST_CLICKS").split(u' ', Qt::SkipEmptyParts);
+  if (QWidget* modal = QApplication::activeModalWidget()) {
+    if (auto* box = qobject_cast<QMessageBox*>(modal)) AnswerBox(*box);
+    return;
+  }
+  app::OutputPane* pane = Pane();
+  if (pane == nullptr || !pane->window()->isVisible()) return;
+  if (clicks.isEmpty()) {
+    Report("pane", QString::fromStdString(pane->Text()));
+    Report("caption", pane->window()->windowTitle());
+    pane->window()->close();
+    return;
+  }
+  auto* button = pane->window()->findChild<QPushButton*>(clicks.takeFirst());
+  // From the event loop, for a timer does not fire again while it is served.
+  QMetaObject::invokeMethod(
+      button, [button] { QTest::mouseClick(button, Qt::LeftButton); }, Qt::QueuedConnection);
+}
+
+void StartWatching() {
+  auto* timer = new QTimer(qApp);
+  QObject::connect(timer, &QTimer::timeout, &ActAsUser);
+  constexpr int kInterval = 20;  // milliseconds
+  timer->start(kInterval);
+}
+
+}  // namespace
+
+Q_COREAPP_STARTUP_FUNCTION(StartWatching)
+
+int main(int argc, char* argv[]) { return app::RunVantrel(argc, argv); }
