@@ -43,10 +43,11 @@ valgrind_tool() {
 # Lines of the core that the tests run, 95 % at least.
 coverage() {
   cmake -S . -B build/coverage -G Ninja -DCMAKE_BUILD_TYPE=Debug -DVANTREL_WINDOW=OFF \
-    -DCMAKE_CXX_FLAGS="--coverage -fprofile-update=atomic"
+    -DCMAKE_CXX_FLAGS="--coverage"
   cmake --build build/coverage
   find build/coverage -name '*.gcda' -delete
-  ctest --test-dir build/coverage --parallel 2 --output-on-failure
+  # Damage in bulk has a bound of time that counters in every line do not keep.
+  ctest --test-dir build/coverage --parallel 2 --output-on-failure --exclude-regex DamageInBulk
   local filters=()
   for folder in "${core[@]}"; do filters+=(--filter "$folder/"); done
   gcovr --root . --object-directory build/coverage "${filters[@]}" --exclude '.*Windows.*' \
