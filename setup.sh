@@ -5,7 +5,7 @@ set -euo pipefail
 packages=(
   clang-14 clang-format clang-tidy cmake fonts-dejavu-core fonts-liberation g++ git
   libbenchmark-dev libclang-rt-14-dev libcli11-dev libfmt-dev libgtest-dev libgmock-dev
-  libqscintilla2-qt6-dev locales ninja-build qt6-base-dev xauth xvfb
+  libqscintilla2-qt6-dev locales ninja-build qt6-base-dev qt6-wayland xauth xvfb
 )
 
 missing=()

@@ -110,6 +110,8 @@ struct ClosingCase {
   const char16_t* Answer;
 };
 
+void PrintTo(const ClosingCase& test, std::ostream* stream) { *stream << "set " << test.ButtonSet; }
+
 class MsgBoxPlusClosing : public ::testing::TestWithParam<ClosingCase> {};
 
 TEST_P(MsgBoxPlusClosing, ByEscapeCountsAsCancel) {
