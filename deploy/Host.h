@@ -31,7 +31,7 @@ class Host {
   virtual bool ErrorIsPending() const = 0;
 
   // The bytes of the resource `name` of `type` that the program carries, valid as long as it runs.
-  // Upper and lower case are the same. Error 53 where there is none.
+  // Error 53 where there is none.
   virtual std::span<const std::byte> Resource(const std::string& type,
                                               const std::string& name) const = 0;
 
