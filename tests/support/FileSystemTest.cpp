@@ -26,4 +26,10 @@ TEST(FileExists, FindsAFileNamedInUtf8) {
   EXPECT_TRUE(FileExists(name));
 }
 
+TEST(Utf8Path, IsThePathThatNativePathTook) {
+  const std::string path = "folder/M\xC3\xBCller \xE2\x82\xAC.c3d";
+  EXPECT_EQ(modAllPurpose::Utf8Path(modAllPurpose::NativePath(path)), path);
+  EXPECT_EQ(modAllPurpose::Utf8Path({}), "");
+}
+
 }  // namespace

@@ -1,0 +1,23 @@
+#include "deploy/Folders.h"
+
+#include "support/RuntimeError.h"
+
+namespace modAllPurposeFolders {
+
+std::string WithSeparator(const deploy::Host& host, std::string folder) {
+  if (!folder.ends_with(host.FolderSeparator())) folder += host.FolderSeparator();
+  return folder;
+}
+
+bool FolderExists(const deploy::Host& host, std::string path) {
+  if (path.ends_with(host.FolderSeparator())) path.pop_back();
+  bool isFolder = false;
+  modAllPurpose::IgnoringErrors([&] { isFolder = host.IsFolder(path); });
+  return isFolder;
+}
+
+void DeleteIgnoringErrors(deploy::Host& host, const std::string& path) {
+  modAllPurpose::IgnoringErrors([&] { host.RemoveFile(path); });
+}
+
+}  // namespace modAllPurposeFolders

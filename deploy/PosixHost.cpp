@@ -1,0 +1,48 @@
+#include "deploy/PosixHost.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+#include <spawn.h>
+#include <system_error>
+#include <unistd.h>
+#include <utility>
+
+#include "support/FileSystem.h"
+#include "support/RuntimeError.h"
+
+namespace deploy {
+
+namespace {
+
+std::string PathOfThisProgram() {
+  std::error_code unknown;
+  return modAllPurpose::Utf8Path(std::filesystem::read_symlink("/proc/self/exe", unknown));
+}
+
+}  // namespace
+
+PosixHost::PosixHost(std::span<const PosixResource> resources, MessageShower showMessage)
+    : SystemHost(PathOfThisProgram(), std::move(showMessage)), resources_(resources) {}
+
+std::span<const std::byte> PosixHost::Resource(const std::string& type,
+                                               const std::string& name) const {
+  const auto found = std::ranges::find_if(resources_, [&](const PosixResource& resource) {
+    return resource.Type == type && resource.Name == name;
+  });
+  if (found == resources_.end()) {
+    throw modAllPurpose::RuntimeError(modAllPurpose::ErrorNumber::FileNotFound);
+  }
+  return found->Bytes;
+}
+
+void PosixHost::StartProcess(const std::string& path, WindowState /*window*/) {
+  std::string program = path;
+  const std::array<char*, 2> arguments = {program.data(), nullptr};
+  pid_t process = 0;
+  const int failure =
+      ::posix_spawn(&process, path.c_str(), nullptr, nullptr, arguments.data(), ::environ);
+  if (failure != 0) throw modAllPurpose::FileErrorFromErrno(failure);
+}
+
+}  // namespace deploy

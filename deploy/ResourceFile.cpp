@@ -1,0 +1,33 @@
+#include "deploy/ResourceFile.h"
+
+#include "deploy/Folders.h"
+#include "support/RuntimeError.h"
+
+namespace modResourceFile {
+
+namespace {
+
+std::string WithoutBlanks(std::string name) {
+  std::erase(name, ' ');
+  return name;
+}
+
+}  // namespace
+
+void ExtractResourceToFile(deploy::Host& host, const std::string& folder, const std::string& name,
+                           const std::string& type, Overwrite overwrite) {
+  const std::string target = modAllPurposeFolders::WithSeparator(host, folder) + name;
+  const bool exists = host.FileExists(target);
+  if (exists && overwrite == Overwrite::No) return;
+  const auto bytes = host.Resource(type, WithoutBlanks(name));
+  if (exists) host.RemoveFile(target);
+  try {
+    host.WriteNewFile(target, bytes);
+  } catch (const modAllPurpose::RuntimeError&) {
+    // Half a file would pass for the whole one at every later start.
+    modAllPurposeFolders::DeleteIgnoringErrors(host, target);
+    throw;
+  }
+}
+
+}  // namespace modResourceFile

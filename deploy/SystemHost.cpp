@@ -1,0 +1,82 @@
+#include "deploy/SystemHost.h"
+
+#include <cerrno>
+#include <filesystem>
+#include <fstream>
+#include <system_error>
+#include <thread>
+#include <utility>
+
+#include "support/FileSystem.h"
+#include "support/RuntimeError.h"
+
+namespace deploy {
+
+using modAllPurpose::FileErrorFromErrno;
+using modAllPurpose::NativePath;
+
+namespace {
+
+void ThrowIf(const std::error_code& failure) {
+  if (failure) throw FileErrorFromErrno(failure.default_error_condition().value());
+}
+
+}  // namespace
+
+SystemHost::SystemHost(std::string programPath, MessageShower showMessage)
+    : programPath_(std::move(programPath)), showMessage_(std::move(showMessage)) {}
+
+char SystemHost::FolderSeparator() const {
+  return static_cast<char>(std::filesystem::path::preferred_separator);
+}
+
+bool SystemHost::FileExists(const std::string& path) const {
+  return modAllPurpose::FileExists(path);
+}
+
+bool SystemHost::IsFolder(const std::string& path) const {
+  std::error_code failure;
+  const bool isFolder = std::filesystem::is_directory(NativePath(path), failure);
+  ThrowIf(failure);
+  return isFolder;
+}
+
+void SystemHost::MakeFolder(const std::string& path) {
+  std::error_code failure;
+  std::filesystem::create_directory(NativePath(path), failure);
+  ThrowIf(failure);
+}
+
+void SystemHost::RemoveFile(const std::string& path) {
+  std::error_code failure;
+  const bool removed = std::filesystem::remove(NativePath(path), failure);
+  ThrowIf(failure);
+  if (!removed) throw FileErrorFromErrno(ENOENT);
+}
+
+void SystemHost::Copy(const std::string& from, const std::string& to) {
+  std::error_code failure;
+  std::filesystem::copy_file(NativePath(from), NativePath(to),
+                             std::filesystem::copy_options::overwrite_existing, failure);
+  ThrowIf(failure);
+}
+
+void SystemHost::WriteNewFile(const std::string& path, std::span<const std::byte> bytes) {
+  errno = 0;
+  std::ofstream file(NativePath(path), std::ios::binary);
+  for (const std::byte byte : bytes) file.put(static_cast<char>(byte));
+  file.close();
+  if (!file) throw FileErrorFromErrno(errno);
+}
+
+modWindowsFileInfo::FileTimes SystemHost::ReadTimes(const std::string& path) const {
+  return modWindowsFileInfo::ReadFileTimes(path);
+}
+
+void SystemHost::SetTimes(const std::string& path, const modWindowsFileInfo::FileTimes& times) {
+  modWindowsFileInfo::SetFileTimes(path, times);
+}
+
+void SystemHost::Wait(std::chrono::milliseconds time) { std::this_thread::sleep_for(time); }
+
+}  // namespace deploy

@@ -1,0 +1,72 @@
+// A program that does nothing but deploy its stand-ins, with waits a twentieth as long, and writes
+// what it does to the file "log.txt" beside it.
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include "deploy/DeployDependencies.h"
+#include "support/FileSystem.h"
+#include "support/RuntimeError.h"
+#include "tests/deploy/OwnSystem.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+
+class ProbeHost : public tests::OwnSystem {
+ public:
+  ProbeHost() : OwnSystem([this](const std::string& text) { Log("says " + text); }) {}
+
+  void Wait(std::chrono::milliseconds time) override { OwnSystem::Wait(time / 20); }
+
+  void Copy(const std::string& from, const std::string& to) override {
+    try {
+      OwnSystem::Copy(from, to);
+    } catch (const modAllPurpose::RuntimeError&) {
+      Log("cannot copy yet");
+      throw;
+    }
+  }
+
+  void StartProcess(const std::string& path, deploy::WindowState window) override {
+    Log("starts " + FileName(path));
+    OwnSystem::StartProcess(path, window);
+  }
+
+  void Log(const std::string& line) const {
+    std::ofstream(LogPath(), std::ios::app | std::ios::binary)
+        << FileName(ProgramPath()) << " " << line << "\n";
+  }
+
+  // Stays until the next process was seen to meet this one's file in use, as it may with a program
+  // that is slow to end.
+  void LingerUntilInTheWay() {
+    for (int k = 0; k < 1000 && !LogHas("cannot copy yet"); ++k) OwnSystem::Wait(10ms);
+  }
+
+ private:
+  std::filesystem::path LogPath() const {
+    return modAllPurpose::NativePath(ProgramPath()).replace_filename("log.txt");
+  }
+
+  std::string FileName(const std::string& path) const {
+    return path.substr(path.rfind(FolderSeparator()) + 1);
+  }
+
+  bool LogHas(const std::string& text) const {
+    std::ifstream file(LogPath(), std::ios::binary);
+    const std::string log{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    return log.find(text) != std::string::npos;
+  }
+};
+
+}  // namespace
+
+int main() {
+  ProbeHost host;
+  if (modVantrel_PatchUp::DeployDependencies(host)) {
+    host.Log("goes on");
+  } else {
+    host.LingerUntilInTheWay();
+  }
+}
