@@ -7,18 +7,20 @@
 #include <QString>
 
 #include "app/CommandLine.h"
+#include "app/MessageBoxes.h"
 #include "app/frmVantrel.h"
 #include "c3d/FileState.h"
+#include "deploy/DeployDependencies.h"
 
 namespace app {
 
 namespace {
 
-// Whether the program may start. The libraries it needs come with the system's packages, so there
-// is nothing to put in place.
-bool DeployDependencies() { return true; }
-
-bool Form_Initialize() { return DeployDependencies(); }
+// Whether this process may go on to show the form.
+bool Form_Initialize() {
+  return modVantrel_PatchUp::DeployDependencies(
+      [](const std::string& text) { ShowMessage(nullptr, text); });
+}
 
 }  // namespace
 
