@@ -9,13 +9,14 @@
 #include <QMouseEvent>
 #include <QPalette>
 
-#include "app/QtText.h"
+#include "app/OutputPaneReader.h"
 
 namespace app {
 
 namespace {
 
 constexpr int kFontSize = 10;  // points
+constexpr int kLeftEdge = 4;   // pixels between the frame and the text
 constexpr unsigned long kDefaultStyle = QsciScintillaBase::STYLE_DEFAULT;
 
 // Lets the pane's text be changed while it lives.
@@ -46,6 +47,10 @@ long LongestLine(std::string_view text) {
   return std::max(longest, length);
 }
 
+bool IsAscii(std::string_view text) {
+  return std::ranges::all_of(text, [](char byte) { return static_cast<signed char>(byte) >= 0; });
+}
+
 bool MovesThroughLines(const QKeyEvent& event) {
   if ((event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0) return false;
   return event.key() == Qt::Key_Up || event.key() == Qt::Key_Down ||
@@ -69,6 +74,7 @@ OutputPane::OutputPane(QWidget* parent) : QsciScintilla(parent) {
   setWrapMode(WrapNone);
   setEolMode(EolUnix);
   for (int margin = 0; margin < margins(); ++margin) setMarginWidth(margin, 0);
+  SendScintilla(SCI_SETMARGINLEFT, 0UL, long{kLeftEdge});
   setScrollWidthTracking(false);
   setAcceptDrops(false);  // a file dropped here is for the form
   viewport()->setAcceptDrops(false);
@@ -77,6 +83,10 @@ OutputPane::OutputPane(QWidget* parent) : QsciScintilla(parent) {
   SendScintilla(SCI_STYLESETFONT, kDefaultStyle, PaneFontFamily().toUtf8().constData());
   SendScintilla(SCI_STYLESETSIZE, kDefaultStyle, long{kFontSize});
   connect(this, &QsciScintilla::SCN_ZOOM, this, &OutputPane::SetScrollWidth);
+  connect(this, &QsciScintilla::SCN_UPDATEUI, this, [this](int changes) {
+    if ((changes & SC_UPDATE_SELECTION) != 0) OutputPaneReader::SelectionWasMoved(*this);
+  });
+  OutputPaneReader::Install();
   TakeColours();
 }
 
@@ -101,6 +111,7 @@ void OutputPane::Clear() {
 }
 
 void OutputPane::Append(std::string_view text) {
+  const long start = length();
   {
     const Writable writable(*this);
     SendScintilla(SCI_APPENDTEXT, static_cast<unsigned long>(text.size()), text.data());
@@ -108,6 +119,8 @@ void OutputPane::Append(std::string_view text) {
   SendScintilla(SCI_SETEMPTYSELECTION, static_cast<unsigned long>(length()));
   longestLine_ = std::max(longestLine_, LongestLine(text));
   SetScrollWidth();
+  ascii_ = ascii_ && IsAscii(text);
+  if (!text.empty()) OutputPaneReader::TextWasAppended(*this, start);
 }
 
 void OutputPane::SetScrollWidth() {
@@ -115,7 +128,7 @@ void OutputPane::SetScrollWidth() {
   static const std::string kSample(100, '0');
   const long sampleWidth = SendScintilla(SCI_TEXTWIDTH, kDefaultStyle, kSample.c_str());
   const long width = longestLine_ * sampleWidth / static_cast<long>(kSample.size());
-  SendScintilla(SCI_SETSCROLLWIDTH, static_cast<unsigned long>(width + 1));
+  SendScintilla(SCI_SETSCROLLWIDTH, static_cast<unsigned long>(width + kLeftEdge));
 }
 
 void OutputPane::ReplaceText(std::string_view text) {
@@ -124,6 +137,7 @@ void OutputPane::ReplaceText(std::string_view text) {
     SendScintilla(SCI_CLEARALL);
   }
   longestLine_ = 0;
+  ascii_ = true;
   SendScintilla(SCI_SETXOFFSET, 0UL);
   Append(text);
 }
@@ -131,6 +145,26 @@ void OutputPane::ReplaceText(std::string_view text) {
 std::string OutputPane::Text() const {
   const auto* text = static_cast<const char*>(SendScintillaPtrResult(SCI_GETCHARACTERPOINTER));
   return {text, static_cast<std::size_t>(length())};
+}
+
+int OutputPane::OffsetOf(long position) const {
+  const long inside = std::clamp(position, 0L, long{length()});
+  if (ascii_) return static_cast<int>(inside);
+  return static_cast<int>(SendScintilla(SCI_COUNTCODEUNITS, 0UL, inside));
+}
+
+long OutputPane::PositionOf(int offset) const {
+  if (offset <= 0) return 0;
+  if (ascii_) return std::min(offset, length());
+  // 0 comes back where the text ends before the offset.
+  const long position = SendScintilla(SCI_POSITIONRELATIVECODEUNITS, 0UL, long{offset});
+  return position > 0 ? position : length();
+}
+
+QString OutputPane::TextBetween(long start, long end) const {
+  if (start >= end) return {};
+  const auto* text = static_cast<const char*>(SendScintillaPtrResult(SCI_GETCHARACTERPOINTER));
+  return QString::fromUtf8(text + start, end - start);
 }
 
 bool OutputPane::FindBetween(std::string_view text, long start, long end) {

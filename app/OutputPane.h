@@ -33,6 +33,12 @@ class OutputPane : public QsciScintilla {
   // stays.
   bool Find(std::string_view text, bool forward);
 
+  // Positions count bytes, offsets UTF-16 units, both from 0. One outside the text stands for its
+  // nearest end.
+  int OffsetOf(long position) const;
+  long PositionOf(int offset) const;
+  QString TextBetween(long start, long end) const;
+
  protected:
   void changeEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
@@ -44,6 +50,7 @@ class OutputPane : public QsciScintilla {
   bool FindBetween(std::string_view text, long start, long end);
 
   long longestLine_ = 0;  // characters
+  bool ascii_ = true;     // positions are offsets
 };
 
 // The font of the pane: Courier New, or a face of the same widths where that is missing.

@@ -3,7 +3,6 @@
 #include <array>
 #include <map>
 
-#include <QAccessible>
 #include <QLabel>
 #include <QScreen>
 #include <QTest>
@@ -100,17 +99,6 @@ TEST_F(FormLayout, EveryControlIsReadOutByItsCaptionOrLabel) {
   EXPECT_EQ(CheckBox()->accessibleName(), CheckBox()->text());
   EXPECT_EQ(Tree()->accessibleName(), QStringLiteral("Groups, Parameters, & Labels"));
   EXPECT_EQ(Pane()->accessibleName(), QStringLiteral("Output"));
-}
-
-TEST_F(FormLayout, ThePaneIsReadOutWithItsText) {
-  Start(WriteSampleWalk());
-  Click("cmdShowParameterHeader");
-  QAccessibleInterface* pane = QAccessible::queryAccessibleInterface(Pane());
-  ASSERT_NE(pane, nullptr);
-  ASSERT_NE(pane->textInterface(), nullptr);
-  const QString shown = QString::fromStdString(PaneText());
-  EXPECT_EQ(pane->textInterface()->characterCount(), shown.size());
-  EXPECT_EQ(pane->textInterface()->text(0, static_cast<int>(shown.size())), shown);
 }
 
 TEST_F(FormLayout, TabGoesFromLeftToRightAndThenDownwardsAndLeavesThePane) {

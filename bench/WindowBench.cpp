@@ -1,0 +1,197 @@
+// The window must be on the screen soon, and a long listing must be as quick to show as to make.
+// Each measurement runs in a process of its own, so that its start counts and its memory is its
+// own; the program fails where one is over its bound.
+//
+// Without a display the window is painted into memory; set QT_QPA_PLATFORM=xcb for a real one.
+
+#include <algorithm>
+#include <chrono>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <limits>
+#include <random>
+#include <string>
+#include <sys/wait.h>
+#include <system_error>
+#include <unistd.h>
+
+#include <QApplication>
+#include <QEvent>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTimer>
+
+#include "app/OutputPane.h"
+#include "app/Startup.h"
+#include "app/frmVantrel.h"
+#include "c3d/FileState.h"
+#include "sample/SampleWalk.h"
+#include "sample/TrialBuilder.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using Clock = std::chrono::steady_clock;
+
+constexpr double kMostSecondsToFirstPaint = 0.3;
+constexpr double kMostSecondsToShow = 1.0;
+constexpr double kMostSecondsAPage = 1.0 / 25;  // scrolling looks smooth
+constexpr double kMostMegabytes = 200;
+
+constexpr std::int16_t kFrames = 32750;
+constexpr std::int16_t kSamplesPerFrame = 20;
+constexpr int kLines = kFrames * kSamplesPerFrame;
+constexpr int kHeadingLines = 3;  // two above, an empty one below
+
+constexpr const char* kFirstPaint = "first-paint";
+constexpr const char* kListing = "listing";
+constexpr int kOverBound = 1;
+
+double SecondsSince(Clock::time_point start) {
+  return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
+// The peak of this process's resident memory so far.
+double PeakMegabytes() {
+  std::ifstream status("/proc/self/status");
+  for (std::string word; status >> word;) {
+    double kilobytes = 0;
+    if (word == "VmHWM:" && status >> kilobytes) return kilobytes / 1024;
+  }
+  return std::numeric_limits<double>::quiet_NaN();
+}
+
+bool Holds(const char* what, double measured, double bound, const char* unit) {
+  const bool holds = measured <= bound;
+  std::printf("%-46s %8.3f %s (at most %.3f)%s\n", what, measured, unit, bound,
+              holds ? "" : "  OVER THE BOUND");
+  return holds;
+}
+
+// Ends the program as soon as the pane, the last of the window's controls, was painted.
+class UntilPainted : public QObject {
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Paint && watched->objectName() == QStringLiteral("frmVantrel")) {
+      QTimer::singleShot(0, qApp, [] { QApplication::exit(0); });
+    }
+    return false;
+  }
+};
+
+void WatchFirstPaint() {
+  if (qEnvironmentVariable("VANTREL_BENCH") != QLatin1String(kFirstPaint)) return;
+  qApp->installEventFilter(new UntilPainted);
+}
+
+// Has every event that is due served, paints included.
+void Settle() {
+  constexpr int kRounds = 5;
+  for (int i = 0; i < kRounds; ++i) QApplication::processEvents();
+}
+
+double SecondsAPage(app::OutputPane& pane) {
+  constexpr int kPages = 200;
+  constexpr int kLinesAPage = 50;
+  const Clock::time_point start = Clock::now();
+  for (int i = 0; i < kPages; ++i) {
+    // Far jumps and steps to the next page in turn.
+    const int line = i % 2 == 0 ? (i * 7919) % kLines : pane.firstVisibleLine() + kLinesAPage;
+    pane.verticalScrollBar()->setValue(line);
+    pane.viewport()->repaint();
+  }
+  return SecondsSince(start) / kPages;
+}
+
+int MeasureListing(int argc, char** argv) {
+  QApplication application(argc, argv);
+  modVantrel::FileState state;
+  app::frmVantrel form(state);
+  form.Form_Load(argv[2]);
+  form.show();
+  Settle();
+  form.findChild<QLineEdit*>(QStringLiteral("txtAnalogLabel"))->setText(QStringLiteral("EMG"));
+  auto* pane = form.findChild<app::OutputPane*>(QStringLiteral("txt"));
+
+  const Clock::time_point start = Clock::now();
+  form.findChild<QPushButton*>(QStringLiteral("cmdShowAnalogData"))->click();
+  Settle();
+  const double seconds = SecondsSince(start);
+
+  if (pane->lines() != kLines + kHeadingLines + 1) {
+    std::printf("the pane shows %d lines\n", pane->lines());
+    return kOverBound;
+  }
+  bool holds = Holds("655,000 lines made and shown", seconds, kMostSecondsToShow, "s");
+  holds &= Holds("one of their pages painted", SecondsAPage(*pane), kMostSecondsAPage, "s");
+  holds &= Holds("memory at most, the program's all", PeakMegabytes(), kMostMegabytes, "MB");
+  return holds ? 0 : kOverBound;
+}
+
+// Runs this program again for one measurement; its exit status.
+int RunSelf(const char* mode, const std::string& file) {
+  std::fflush(stdout);
+  const pid_t child = fork();
+  if (child == 0) {
+    setenv("VANTREL_BENCH", mode, 1);
+    if (std::string(mode) == kFirstPaint) {
+      execl("/proc/self/exe", "window_bench", file.c_str(), nullptr);
+    } else {
+      execl("/proc/self/exe", "window_bench", mode, file.c_str(), nullptr);
+    }
+    std::_Exit(kOverBound);
+  }
+  int status = 0;
+  waitpid(child, &status, 0);
+  return WIFEXITED(status) ? WEXITSTATUS(status) : kOverBound;
+}
+
+bool FirstPaintHolds(const std::string& file) {
+  constexpr int kRuns = 7;
+  double best = std::numeric_limits<double>::infinity();
+  double worst = 0;
+  for (int i = 0; i < kRuns; ++i) {
+    const Clock::time_point start = Clock::now();
+    if (RunSelf(kFirstPaint, file) != 0) return false;
+    best = std::min(best, SecondsSince(start));
+    worst = std::max(worst, SecondsSince(start));
+  }
+  std::printf("%-46s %8.3f s\n", "the quickest of them", best);
+  return Holds("start to first paint with the sample, slowest", worst, kMostSecondsToFirstPaint,
+               "s");
+}
+
+int MeasureAll() {
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  const fs::path folder =
+      fs::temp_directory_path() / ("vantrel-bench-" + std::to_string(std::random_device()()));
+  fs::create_directory(folder);
+  sample::SampleWalk().Build().WriteTo(folder / "walk.c3d");
+  sample::TrialBuilder()
+      .Frames(1, kFrames)
+      .SamplesPerFrame(kSamplesPerFrame)
+      .AddAnalog("EMG", "muscle", [](std::int32_t sample) { return float(sample % 2000 - 1000); })
+      .Build()
+      .WriteTo(folder / "long.c3d");
+  bool holds = FirstPaintHolds((folder / "walk.c3d").string());
+  holds &= RunSelf(kListing, (folder / "long.c3d").string()) == 0;
+  std::error_code ignored;
+  fs::remove_all(folder, ignored);
+  return holds ? 0 : kOverBound;
+}
+
+}  // namespace
+
+Q_COREAPP_STARTUP_FUNCTION(WatchFirstPaint)
+
+int main(int argc, char* argv[]) {
+  std::setvbuf(stdout, nullptr, _IOLBF, 0);
+  const QString mode = qEnvironmentVariable("VANTREL_BENCH");
+  if (mode == QLatin1String(kFirstPaint)) return app::RunVantrel(argc, argv);
+  if (mode == QLatin1String(kListing)) return MeasureListing(argc, argv);
+  return MeasureAll();
+}
