@@ -26,16 +26,16 @@ constexpr int kLabelWidth = 84;
 constexpr int kCaptionSize = 12;
 
 struct ButtonPlan {
-  QPushButton* FormControls::*Control;
-  const char* Name;
-  const char16_t* Caption;
+  QPushButton* FormControls::*Control = nullptr;
+  const char* Name = nullptr;
+  const char16_t* Caption = nullptr;
   QRect Place;
 };
 
 struct TextBoxPlan {
-  QLineEdit* FormControls::*Control;
-  const char* Name;
-  const char16_t* Label;
+  QLineEdit* FormControls::*Control = nullptr;
+  const char* Name = nullptr;
+  const char16_t* Label = nullptr;
   QPoint Place;
 };
 

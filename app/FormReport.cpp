@@ -15,7 +15,7 @@ bool FormReport::IsTicked() const {
 
 void FormReport::BeginReport() {
   if (IsTicked()) desktopCopy_.Open(desktopOutputPath_);
-  txt_.Clear();
+  txt_.Empty();
 }
 
 void FormReport::AppendOutput(std::string_view text, bool paneOnly, bool continueLine) {

@@ -105,7 +105,7 @@ void OutputPane::changeEvent(QEvent* event) {
   if (event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange) TakeColours();
 }
 
-void OutputPane::Clear() {
+void OutputPane::Empty() {
   ReplaceText({});
   viewport()->repaint();
 }

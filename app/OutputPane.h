@@ -16,7 +16,7 @@ class OutputPane : public QsciScintilla {
   explicit OutputPane(QWidget* parent);
 
   // Empties the pane and has it repaint at once.
-  void Clear();
+  void Empty();
 
   // Adds `text` at the end in one piece and leaves the caret behind it. The view stays where it is,
   // so that a report is seen from its first line.

@@ -28,11 +28,10 @@ namespace app {
 using modAllPurpose::RuntimeError;
 using modVantrel::OpenResult;
 
-frmVantrel::frmVantrel(modVantrel::FileState& state) : state_(state) {
+frmVantrel::frmVantrel(modVantrel::FileState& state)
+    : state_(state), controls_(LayOutForm(*this)), findBar_(new FindBar(controls_.txt)) {
   setObjectName(QStringLiteral("frmVantrel"));
   setWindowTitle(QStringLiteral("Vantrel"));
-  controls_ = LayOutForm(*this);
-  findBar_ = new FindBar(controls_.txt);
   ConnectControls();
   AddShortcuts();
   AcceptDrops();
@@ -130,7 +129,7 @@ void frmVantrel::OpenFile(const std::string& fileSpec) {
 void frmVantrel::OpenAndFillTree() {
   modVantrel::CloseC3dFile(state_);
   fileOpen_ = false;
-  controls_.txt->Clear();
+  controls_.txt->Empty();
   controls_.tre->clear();
   for (QLineEdit* box : {controls_.txtGroup, controls_.txtParam, controls_.txtPointLabel,
                          controls_.txtAnalogLabel}) {
@@ -156,7 +155,7 @@ void frmVantrel::FillTree() {
   controls_.tre->Fill(reports::FillTree(state_));
 }
 
-void frmVantrel::tre_NodeClick(const QTreeWidgetItem* node) {
+void frmVantrel::tre_NodeClick(const QTreeWidgetItem* node) const {
   const QString text = node->text(0);
   switch (NodeDepth(node)) {
     case 0:

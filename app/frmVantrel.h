@@ -78,7 +78,7 @@ class frmVantrel : public QWidget {
 
   void cmdOpen_Click();
   void cmdExit_Click();
-  void tre_NodeClick(const QTreeWidgetItem* node);
+  void tre_NodeClick(const QTreeWidgetItem* node) const;
   void tre_DblClick(const QTreeWidgetItem* node);
 
   void cmdShowHeaderInfo_Click();

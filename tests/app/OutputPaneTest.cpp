@@ -42,7 +42,7 @@ TEST_F(OutputPane, KeepsWhatItWasGivenByteForByte) {
   EXPECT_EQ(PaneText(), "one\ntwo\0 with a NUL, \xC3\xBC and \t\r\n\n"sv);
   Pane()->ReplaceText("group not found");
   EXPECT_EQ(PaneText(), "group not found");
-  Pane()->Clear();
+  Pane()->Empty();
   EXPECT_EQ(PaneText(), "");
 }
 

@@ -1,0 +1,35 @@
+#!/usr/bin/env bash
+# Makes the Debian package of a build and fails where a desktop would not take it: lintian, the
+# validators of the desktop entry and of the metadata, and the file type of a trial.
+#   check_package.sh BUILD_FOLDER
+set -euo pipefail
+build=$(realpath -- "$1")
+folder=$(mktemp -d)
+trap 'rm -rf "$folder"' EXIT
+
+(cd "$folder" && cpack --config "$build/CPackConfig.cmake" -B "$folder" >"$folder/cpack.log" 2>&1) ||
+  { cat "$folder/cpack.log"; exit 1; }
+package=$(echo "$folder"/vantrel_*.deb)
+lintian --fail-on error,warning --allow-root --no-user-dirs "$package"
+
+dpkg-deb --extract "$package" "$folder/root"
+share=$folder/root/usr/share
+for program in vantrel vantrel-report; do
+  test -x "$folder/root/usr/bin/$program"
+  test -s "$share/man/man1/$program.1.gz"
+done
+test ! -e "$folder/root/usr/bin/vantrel-picture"
+for page in "$share"/man/man1/*.gz; do
+  complaints=$(man --warnings -E UTF-8 -l -Tutf8 -Z "$page" 2>&1 >/dev/null)
+  [ -z "$complaints" ] || { echo "$page: $complaints"; exit 1; }
+done
+desktop-file-validate "$share/applications/vantrel.desktop"
+appstreamcli validate --no-net --explain "$share/metainfo/org.vantrel.vantrel.metainfo.xml"
+
+# A trial has the type that the desktop entry opens, whatever the case of its extension.
+export XDG_DATA_HOME=$folder/home XDG_DATA_DIRS=$share
+update-mime-database "$share/mime"
+update-desktop-database "$share/applications"
+grep -qx 'application/x-c3d=vantrel.desktop;' "$share/applications/mimeinfo.cache"
+grep -qx '50:application/x-c3d:\*.c3d' "$share/mime/globs2"
+echo "The package is well: $(basename "$package")"
