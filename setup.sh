@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that building and testing need and that are missing.
+# Installs the Debian packages that building and testing need and that are missing; with --windows
+# also those for the Windows build.
 set -euo pipefail
 
 packages=(
@@ -7,6 +8,10 @@ packages=(
   libbenchmark-dev libclang-rt-14-dev libcli11-dev libfmt-dev libgtest-dev libgmock-dev
   libqscintilla2-qt6-dev locales ninja-build qt6-base-dev qt6-wayland xauth xvfb
 )
+
+if [ "${1:-}" = --windows ]; then
+  packages+=(g++-mingw-w64-x86-64 googletest wine64)
+fi
 
 missing=()
 for package in "${packages[@]}"; do
