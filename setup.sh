@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that building and testing need and that are missing.
+# Installs the Debian packages that building and testing need and that are missing; with --windows
+# also those for the Windows build.
 set -euo pipefail
 
 packages=(
@@ -8,6 +9,10 @@ packages=(
   libgmock-dev libgtest-dev libqscintilla2-qt6-dev librsvg2-bin lintian locales man-db
   ninja-build qt6-base-dev qt6-wayland shared-mime-info xauth xvfb
 )
+
+if [ "${1:-}" = --windows ]; then
+  packages+=(g++-mingw-w64-x86-64 googletest wine64)
+fi
 
 missing=()
 for package in "${packages[@]}"; do

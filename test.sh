@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Sets up, builds and runs every test: the optimised build in the plain and in a comma locale, and
 # the core under the sanitizers. Without arguments it does all of that; with the name of a preset
-# (release, debug, asan) only that build.
+# (release, debug, asan) only that build; with --windows the Windows build, under Wine, and its tool
+# against this system's.
 set -euo pipefail
 cd "$(dirname "$0")"
 
@@ -19,6 +20,19 @@ test_under_comma_locale() {
   LOCPATH=$folder LC_ALL=de_DE.UTF-8 ctest --preset release --parallel 2
 }
 
+test_windows() {
+  ./setup.sh --windows
+  cmake --preset release
+  cmake --build --preset release --target vantrel-report sample-walk
+  build_and_test windows
+  tests/compare_tools.sh build/release/vantrel-report tests/wine_report.sh \
+    build/release/sample-walk.c3d
+}
+
+if [ "${1:-}" = --windows ]; then
+  test_windows
+  exit
+fi
 ./setup.sh
 if [ $# -gt 0 ]; then
   build_and_test "$1"

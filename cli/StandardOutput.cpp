@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <cstdio>
 
+#include "cli/Start.h"
 #include "support/RuntimeError.h"
 
 namespace cli {
@@ -30,7 +31,7 @@ void StandardOutput::Flush() {
   const bool written = std::fwrite(piece.data(), 1, piece.size(), stdout) == piece.size() &&
                        std::fflush(stdout) == 0;
   if (written) return;
-  if (errno == EPIPE) throw OutputClosed();
+  if (IsOutputClosed()) throw OutputClosed();
   throw modAllPurpose::FileErrorFromErrno(errno);
 }
 

@@ -1,3 +1,9 @@
+# The end of the names of source files that are written for one system only.
+set(VANTREL_SYSTEM Posix)
+if(WIN32)
+  set(VANTREL_SYSTEM Windows)
+endif()
+
 # vantrel_library(NAME SOURCES ... LINKS ...): one layer of the program.
 #
 # Includes are written from the root of the tree ("c3d/ParamRecord.h"), so that each one shows the

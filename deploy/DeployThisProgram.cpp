@@ -1,4 +1,7 @@
 #include "deploy/DeployDependencies.h"
+#ifdef _WIN32
+#include "deploy/WindowsHost.h"
+#endif
 
 namespace modVantrel_PatchUp {
 
@@ -6,7 +9,10 @@ namespace modVantrel_PatchUp {
 // of Windows: elsewhere the program's libraries come with the system's packages, it carries none,
 // and the folder that it stands in is not its own to write to.
 #ifdef _WIN32
-#error "the Windows host follows"
+bool DeployDependencies(const deploy::MessageShower& showMessage) {
+  deploy::WindowsHost host(showMessage);
+  return DeployDependencies(host);
+}
 #else
 bool DeployDependencies(const deploy::MessageShower& /*showMessage*/) { return true; }
 #endif

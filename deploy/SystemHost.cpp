@@ -18,7 +18,7 @@ using modAllPurpose::NativePath;
 namespace {
 
 void ThrowIf(const std::error_code& failure) {
-  if (failure) throw FileErrorFromErrno(failure.default_error_condition().value());
+  if (failure) throw modAllPurpose::FileErrorFromCode(failure);
 }
 
 }  // namespace

@@ -5,6 +5,11 @@
 #include <random>
 #include <system_error>
 #include <utility>
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#include <sys/stat.h>
+#endif
 
 #include <fmt/format.h>
 
@@ -15,7 +20,11 @@ namespace modAllPurpose {
 namespace {
 
 #ifdef _WIN32
-std::FILE* CreateNew(const std::filesystem::path& path) { return _wfopen(path.c_str(), L"wbx"); }
+std::FILE* CreateNew(const std::filesystem::path& path) {
+  const int descriptor =
+      _wopen(path.c_str(), _O_WRONLY | _O_CREAT | _O_EXCL | _O_BINARY, _S_IREAD | _S_IWRITE);
+  return descriptor < 0 ? nullptr : _fdopen(descriptor, "wb");
+}
 std::FILE* OpenToChange(const std::filesystem::path& path) { return _wfopen(path.c_str(), L"r+b"); }
 #else
 std::FILE* CreateNew(const std::filesystem::path& path) { return std::fopen(path.c_str(), "wbx"); }
@@ -70,7 +79,7 @@ class TemporaryFile {
   void TakePlaceOf(const std::filesystem::path& target) {
     std::error_code failure;
     std::filesystem::rename(path_, target, failure);
-    if (failure) throw FileErrorFromErrno(failure.default_error_condition().value());
+    if (failure) throw FileErrorFromCode(failure);
     path_.clear();
   }
 

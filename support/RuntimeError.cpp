@@ -66,4 +66,8 @@ RuntimeError FileErrorFromErrno(int systemError) {
   }
 }
 
+RuntimeError FileErrorFromCode(const std::error_code& failure) {
+  return FileErrorFromErrno(failure.default_error_condition().value());
+}
+
 }  // namespace modAllPurpose

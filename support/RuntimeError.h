@@ -2,6 +2,7 @@
 
 #include <exception>
 #include <string>
+#include <system_error>
 
 namespace modAllPurpose {
 
@@ -42,6 +43,9 @@ std::string RuntimeErrorTitle(const RuntimeError& error);
 
 // The error for an errno value that making, opening, writing or renaming a file left behind.
 RuntimeError FileErrorFromErrno(int systemError);
+
+// The same for a code of the standard library or, in the system's category, of the system.
+RuntimeError FileErrorFromCode(const std::error_code& failure);
 
 // Runs `work` and swallows a RuntimeError; returns whether it ran to its end. Other exceptions
 // pass.

@@ -8,6 +8,9 @@
 #include "support/FileSystem.h"
 #include "support/RuntimeError.h"
 #include "tests/deploy/OwnSystem.h"
+#ifdef _WIN32
+#include <windows.h>
+#endif
 
 namespace {
 
@@ -60,10 +63,21 @@ class ProbeHost : public tests::OwnSystem {
   }
 };
 
+bool WasStartedMinimized() {
+#ifdef _WIN32
+  STARTUPINFOW start{};
+  ::GetStartupInfoW(&start);
+  return (start.dwFlags & STARTF_USESHOWWINDOW) != 0 && start.wShowWindow == SW_SHOWMINIMIZED;
+#else
+  return false;  // nobody says
+#endif
+}
+
 }  // namespace
 
 int main() {
   ProbeHost host;
+  if (WasStartedMinimized()) host.Log("is minimised");
   if (modVantrel_PatchUp::DeployDependencies(host)) {
     host.Log("goes on");
   } else {

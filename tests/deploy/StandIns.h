@@ -6,7 +6,8 @@
 namespace tests {
 
 // A small file in the place of one that a program carries: a component library or the manifest. The
-// bytes are those of the files in the folder "stand-ins".
+// bytes are those of the files in the folder "stand-ins". Only for systems where a program has no
+// resources of its own.
 struct StandIn {
   std::string_view Type;
   std::string_view Name;

@@ -132,13 +132,16 @@ TEST_F(SystemHost, NamesFilesInUtf8) {
   EXPECT_FALSE(host_.FileExists(name));
 }
 
+// The creation is left aside: some file systems do not let it be set.
 TEST_F(SystemHost, ReadsAndSetsTheTimesOfAFile) {
   Write("file", "text");
   FileTimes times = host_.ReadTimes(Path("file"));
   times.LastAccess -= 48h;
   times.LastWrite -= 864s;
   host_.SetTimes(Path("file"), times);
-  EXPECT_EQ(host_.ReadTimes(Path("file")), times);
+  const FileTimes now = host_.ReadTimes(Path("file"));
+  EXPECT_EQ(now.LastAccess, times.LastAccess);
+  EXPECT_EQ(now.LastWrite, times.LastWrite);
 }
 
 TEST_F(SystemHost, KeepsTheTimesOfAFileOfTheOtherHalfOfTheYear) {

@@ -1,7 +1,8 @@
-#include "tests/deploy/OwnSystem.h"
-
 #include <utility>
 #include <vector>
+
+#include "tests/deploy/OwnSystem.h"
+#include "tests/deploy/StandIns.h"
 
 namespace tests {
 
@@ -21,6 +22,6 @@ std::span<const deploy::PosixResource> Resources() {
 }  // namespace
 
 OwnSystem::OwnSystem(deploy::MessageShower showMessage)
-    : PosixHost(Resources(), std::move(showMessage)) {}
+    : SystemBase(Resources(), std::move(showMessage)) {}
 
 }  // namespace tests

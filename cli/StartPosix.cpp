@@ -1,0 +1,19 @@
+#include <cerrno>
+#include <csignal>
+
+#include "cli/Start.h"
+
+namespace cli {
+
+std::vector<std::string> Arguments(int argc, char* argv[]) { return {argv + 1, argv + argc}; }
+
+void PrepareOutput() {
+  // A closed pipe is met as a failed write, so that the tool ends in its own way.
+  std::signal(SIGPIPE, SIG_IGN);
+  // A file that would grow over its limit is met as a failed write, like a full disk.
+  std::signal(SIGXFSZ, SIG_IGN);
+}
+
+bool IsOutputClosed() { return errno == EPIPE; }
+
+}  // namespace cli

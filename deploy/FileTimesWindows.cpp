@@ -1,0 +1,77 @@
+#include <system_error>
+#include <windows.h>
+
+#include "deploy/FileTimes.h"
+#include "support/FileSystem.h"
+#include "support/RuntimeError.h"
+
+namespace modWindowsFileInfo {
+
+namespace {
+
+// From the first day of the system's calendar, in 1601, to that of the clock's.
+constexpr Tick kCalendarStart =
+    std::chrono::local_days(std::chrono::year(1601) / 1 / 1).time_since_epoch();
+
+modAllPurpose::RuntimeError LastError() {
+  return modAllPurpose::FileErrorFromCode(
+      {static_cast<int>(::GetLastError()), std::system_category()});
+}
+
+// The handle of a file that is open for its times alone.
+class FileForTimes {
+ public:
+  FileForTimes(const std::string& path, DWORD access)
+      : handle_(::CreateFileW(modAllPurpose::NativePath(path).c_str(), access,
+                              FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                              OPEN_EXISTING, 0, nullptr)) {
+    if (handle_ == INVALID_HANDLE_VALUE) throw LastError();
+  }
+  FileForTimes(const FileForTimes&) = delete;
+  FileForTimes& operator=(const FileForTimes&) = delete;
+  ~FileForTimes() { ::CloseHandle(handle_); }
+
+  HANDLE Handle() const { return handle_; }
+
+ private:
+  HANDLE handle_;
+};
+
+LocalTime FromSystem(const FILETIME& universal) {
+  FILETIME local{};
+  ::FileTimeToLocalFileTime(&universal, &local);
+  ULARGE_INTEGER ticks{};
+  ticks.LowPart = local.dwLowDateTime;
+  ticks.HighPart = local.dwHighDateTime;
+  return LocalTime(kCalendarStart + Tick(static_cast<std::int64_t>(ticks.QuadPart)));
+}
+
+FILETIME ToSystem(LocalTime time) {
+  ULARGE_INTEGER ticks{};
+  ticks.QuadPart = static_cast<ULONGLONG>((time.time_since_epoch() - kCalendarStart).count());
+  const FILETIME local = {ticks.LowPart, ticks.HighPart};
+  FILETIME universal{};
+  ::LocalFileTimeToFileTime(&local, &universal);
+  return universal;
+}
+
+}  // namespace
+
+FileTimes ReadFileTimes(const std::string& path) {
+  const FileForTimes file(path, FILE_READ_ATTRIBUTES);
+  FILETIME creation{};
+  FILETIME lastAccess{};
+  FILETIME lastWrite{};
+  if (::GetFileTime(file.Handle(), &creation, &lastAccess, &lastWrite) == 0) throw LastError();
+  return {FromSystem(creation), FromSystem(lastAccess), FromSystem(lastWrite)};
+}
+
+void SetFileTimes(const std::string& path, const FileTimes& times) {
+  const FileForTimes file(path, FILE_WRITE_ATTRIBUTES);
+  const FILETIME creation = ToSystem(times.Creation);
+  const FILETIME lastAccess = ToSystem(times.LastAccess);
+  const FILETIME lastWrite = ToSystem(times.LastWrite);
+  if (::SetFileTime(file.Handle(), &creation, &lastAccess, &lastWrite) == 0) throw LastError();
+}
+
+}  // namespace modWindowsFileInfo

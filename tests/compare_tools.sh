@@ -1,0 +1,98 @@
+#!/usr/bin/env bash
+# Holds two builds of vantrel-report against each other:
+#   tests/compare_tools.sh TOOL OTHER-TOOL FILE.c3d
+# Every report of FILE, from a folder with blanks and letters outside ASCII in its name, must have
+# the same characters and exit status from both, its GCD files the same bytes. An output that nobody
+# reads any more must end either quietly.
+set -euo pipefail
+one=$(realpath -- "$1") other=$(realpath -- "$2") trial=$(realpath -- "$3")
+failed=0 compared=0
+
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+folder="$work/Grüße, 歩行 an Müller €"
+mkdir "$folder"
+cp -- "$trial" "$folder/Gang 1 ä.c3d"
+cd "$folder"
+file='Gang 1 ä.c3d'
+
+complain() {
+  echo "differs: $*"
+  failed=$((failed + 1))
+}
+
+# run TOOL NAME ARGUMENT...: leaves NAME.out, NAME.err (lines ended by LF) and NAME.status in $work.
+run() {
+  local tool=$1 name=$2 status=0
+  shift 2
+  "$tool" "$@" >"$work/$name.out" 2>"$work/$name.raw" || status=$?
+  tr -d '\r' <"$work/$name.raw" >"$work/$name.err"
+  echo "$status" >"$work/$name.status"
+}
+
+# same STATUS ARGUMENT...: both tools end with STATUS and print the same.
+same() {
+  local status=$1
+  shift
+  run "$one" one "$@"
+  run "$other" other "$@"
+  compared=$((compared + 1))
+  [ "$(cat "$work/one.status")" = "$status" ] || complain "exit status, not $status: $*"
+  for part in out err status; do
+    cmp -s "$work/one.$part" "$work/other.$part" || complain "$part: $*"
+  done
+}
+
+# same_files ARGUMENT...: both tools write the same GCD files, one at least.
+same_files() {
+  mkdir "$work/ä one" "$work/ä other"
+  run "$one" one --output-dir "$work/ä one" "$@" gcd "$file"
+  run "$other" other --output-dir "$work/ä other" "$@" gcd "$file"
+  compared=$((compared + 1))
+  cmp -s "$work/one.status" "$work/other.status" || complain "status: gcd $*"
+  compgen -G "$work/ä one/*.gcd" >/dev/null || complain "no GCD files: $*"
+  diff -r "$work/ä one" "$work/ä other" || complain "GCD files: $*"
+  rm -r "$work/ä one" "$work/ä other"
+}
+
+# quiet_when_closed TOOL: a report longer than a pipe holds, of which one line is read.
+quiet_when_closed() {
+  local tool=$1
+  local files=()
+  for _ in {1..60}; do files+=("$file"); done
+  {
+    run_status=0
+    "$tool" parameters "${files[@]}" 2>"$work/closed.err" || run_status=$?
+    echo "$run_status" >"$work/closed.status"
+  } | head -n 1 >/dev/null
+  compared=$((compared + 1))
+  [ "$(cat "$work/closed.status")" = 0 ] || complain "exit status with a closed pipe: $tool"
+  [ ! -s "$work/closed.err" ] || complain "a message with a closed pipe: $tool"
+}
+
+point=$("$one" labels "$file" | sed -n 's/^001  //p')
+analog=$("$one" --group analog --param labels parameters "$file" |
+  sed -n "s/ *txt(1,1,1,1,1,1) *'\(.*\)'/\1/p")
+for report in header parameter-header groups parameters labels events measures tree; do
+  same 0 "$report" "$file"
+done
+same 0 --group point parameters "$file"
+same 0 --group point --param scale parameters "$file"
+for report in point normalized; do same 0 --label "$point" "$report" "$file"; done
+same 0 --label "$analog" analog "$file"
+same 0 --events --label "$point" point "$file"
+same 0 --events --label "$analog" analog "$file"
+same 0 header "$file" "$file"
+same 0 --version
+same 0 --help
+same 1 --label 'nö such' point "$file"
+same 1 header 'nö such.c3d' "$file"
+same 1 header .
+same 2 --label x 'nö report' "$file"
+same_files
+same_files --gender Weiblich-ä --date-of-birth 1990-02-28 --visit-date 2026-11-20
+quiet_when_closed "$one"
+quiet_when_closed "$other"
+
+echo "$compared comparisons, $failed failed"
+[ "$failed" = 0 ]

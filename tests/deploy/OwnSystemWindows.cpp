@@ -1,0 +1,10 @@
+#include <utility>
+
+#include "tests/deploy/OwnSystem.h"
+
+namespace tests {
+
+// The resources are linked into the program.
+OwnSystem::OwnSystem(deploy::MessageShower showMessage) : SystemBase(std::move(showMessage)) {}
+
+}  // namespace tests

@@ -1,0 +1,26 @@
+#!/usr/bin/env bash
+# Runs a Windows program under Wine, without a display and in a Wine folder of the build's own:
+#   tests/wine.sh PROGRAM.exe [ARGUMENT...]
+# Wine's own processes stay for ten seconds after the last program, since starting them takes longer
+# than most programs run.
+set -euo pipefail
+build=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)/build
+wine=/usr/lib/wine
+
+export WINEPREFIX=$build/wine WINEDEBUG=-all LC_ALL=C.UTF-8
+export WINEDLLOVERRIDES='mscoree,mshtml,winemenubuilder.exe='
+unset DISPLAY
+
+# Makes the Wine folder where there is none, and starts Wine's own processes unless they run.
+start_wine() {
+  "$wine/wineserver64" --persistent=10 || return 0
+  "$wine/wine64" wineboot
+}
+
+# One call at a time. What is started must hold neither the lock nor the caller's output.
+mkdir -p "$build"
+exec 9>"$build/wine.lock"
+flock 9
+start_wine 9>&- >/dev/null 2>&1 </dev/null
+exec 9>&-
+exec "$wine/wine64" "$@"

@@ -1,0 +1,6 @@
+#!/usr/bin/env bash
+# The Windows build of vantrel-report as a command of this system:
+#   tests/wine_report.sh [OPTION...] REPORT FILE...
+set -euo pipefail
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+exec "$here/wine.sh" "$here/../build/windows/vantrel-report.exe" "$@"
