@@ -12,6 +12,8 @@ packages=(
 
 if [ "${1:-}" = --windows ]; then
   packages+=(g++-mingw-w64-x86-64 googletest wine64)
+elif [ "${1:-}" = --checks ]; then
+  packages+=(cppcheck gcovr valgrind)
 fi
 
 missing=()

@@ -5,6 +5,8 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
+./setup.sh --checks
+
 core=(support c3d gait deploy app/reports)
 
 clang() {
