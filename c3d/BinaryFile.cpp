@@ -23,11 +23,6 @@ void BinaryFile::Close() noexcept {
   ForgetBuffer();
 }
 
-void BinaryFile::Seek(std::int32_t position) {
-  if (position < 1) throw RuntimeError(ErrorNumber::BadRecordNumber);
-  offset_ = static_cast<std::uint64_t>(position) - 1;
-}
-
 std::int32_t BinaryFile::Position() const {
   return modAllPurposeNumbers::ToLong(static_cast<std::int64_t>(offset_) + 1);
 }
@@ -40,13 +35,6 @@ std::uint32_t BinaryFile::ReadSingleBits() { return StoredSingleBits(Read(4).fir
 
 std::string BinaryFile::ReadText(std::size_t size) {
   return modAllPurpose::FromWindows1252(Read(size));
-}
-
-std::span<const std::byte> BinaryFile::Read(std::size_t count) {
-  if (!IsBuffered(count)) Fill(count);
-  const auto start = static_cast<std::size_t>(offset_ - bufferOffset_);
-  offset_ += count;
-  return std::span<const std::byte>(buffer_).subspan(start, count);
 }
 
 void BinaryFile::Skip(std::uint64_t count) {
@@ -63,12 +51,6 @@ void BinaryFile::RequireLeft(std::uint64_t count) const {
 void BinaryFile::ForgetBuffer() {
   bufferOffset_ = 0;
   bufferedBytes_ = 0;
-}
-
-bool BinaryFile::IsBuffered(std::uint64_t count) const {
-  if (offset_ < bufferOffset_) return false;
-  const std::uint64_t start = offset_ - bufferOffset_;
-  return start <= bufferedBytes_ && count <= bufferedBytes_ - start;
 }
 
 void BinaryFile::Fill(std::size_t count) {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "support/RandomAccessFile.h"
+#include "support/RuntimeError.h"
 
 namespace modVantrel {
 
@@ -23,7 +24,12 @@ class BinaryFile {
   void Close() noexcept;
 
   // Error 63 where `position` is below 1. A position past the end is an error only when read.
-  void Seek(std::int32_t position);
+  void Seek(std::int32_t position) {
+    if (position < 1) {
+      throw modAllPurpose::RuntimeError(modAllPurpose::ErrorNumber::BadRecordNumber);
+    }
+    offset_ = static_cast<std::uint64_t>(position) - 1;
+  }
 
   // The position of the next byte; error 6 where 32 bits cannot hold it.
   std::int32_t Position() const;
@@ -36,7 +42,12 @@ class BinaryFile {
   std::string ReadText(std::size_t size);
 
   // The next `count` bytes; valid until the next call.
-  std::span<const std::byte> Read(std::size_t count);
+  std::span<const std::byte> Read(std::size_t count) {
+    if (!IsBuffered(count)) Fill(count);
+    const auto start = static_cast<std::size_t>(offset_ - bufferOffset_);
+    offset_ += count;
+    return std::span<const std::byte>(buffer_).subspan(start, count);
+  }
 
   // Moves over `count` bytes, which the file must hold.
   void Skip(std::uint64_t count);
@@ -67,7 +78,11 @@ class BinaryFile {
   };
 
  private:
-  bool IsBuffered(std::uint64_t count) const;
+  bool IsBuffered(std::uint64_t count) const {
+    if (offset_ < bufferOffset_) return false;
+    const std::uint64_t start = offset_ - bufferOffset_;
+    return start <= bufferedBytes_ && count <= bufferedBytes_ - start;
+  }
   void Fill(std::size_t count);
 
   modAllPurpose::RandomAccessFile file_;

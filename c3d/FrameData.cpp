@@ -1,7 +1,8 @@
 #include "c3d/FrameData.h"
 
-#include <array>
+#include <algorithm>
 #include <cstddef>
+#include <memory>
 #include <span>
 #include <string>
 
@@ -21,8 +22,6 @@ using modAllPurposeNumbers::ToLong;
 using modAllPurposeNumbers::ToSingle;
 
 namespace {
-
-constexpr std::size_t kCoordinates = 3;
 
 // Where the gap to the label's bytes in the next frame is at most this, reading it along is faster
 // than a system call a frame.
@@ -65,10 +64,12 @@ std::int32_t NextFrame(const FileState& state, const FrameLayout& layout, const 
   return ToLong(std::int64_t{position} + layout.FrameSize);
 }
 
-float FrameTime(const FileState& state, const FramePlace& place) {
-  const double rate = state.Header.PointFrameRate;
-  return ToSingle(1.0 / rate * place.FrameIndex + double{state.WalkStartTime});
+// `secondsPerFrame` is 1 / PointFrameRate, not rounded to a float.
+float FrameTime(const FileState& state, double secondsPerFrame, const FramePlace& place) {
+  return ToSingle(secondsPerFrame * place.FrameIndex + double{state.WalkStartTime});
 }
+
+double SecondsPerFrame(const FileState& state) { return 1.0 / state.Header.PointFrameRate; }
 
 // How far to read ahead when `used` bytes of each frame are wanted.
 std::size_t ReadAheadFor(const FrameLayout& layout, std::int64_t used) {
@@ -76,28 +77,157 @@ std::size_t ReadAheadFor(const FrameLayout& layout, std::int64_t used) {
                                                           : static_cast<std::size_t>(used);
 }
 
-std::array<float, kCoordinates> ReadCoordinates(const FileState& state, const FrameLayout& layout) {
+// Fills the coordinates of `sample` with those that the file stands at.
+void ReadCoordinates(const FileState& state, const FrameLayout& layout, PointSample& sample) {
   const auto words = state.C3dFileNumber.Read(static_cast<std::size_t>(layout.PointSize));
-  std::array<float, kCoordinates> coordinates{};
   if (layout.ValueSize == kIntegerSize) {
-    for (std::size_t i = 0; i < kCoordinates; ++i) {
-      const auto stored = StoredInteger(words.subspan(i * kIntegerSize).first<kIntegerSize>());
-      coordinates[i] = ToSingle(stored * double{state.Header.ScaleFactor});
-    }
+    const double scale = state.Header.ScaleFactor;
+    const auto coordinate = [&](std::size_t i) {
+      return ToSingle(StoredInteger(words.subspan(i * kIntegerSize).first<kIntegerSize>()) * scale);
+    };
+    sample.X = coordinate(0);
+    sample.Y = coordinate(1);
+    sample.Z = coordinate(2);
   } else if (layout.ValueSize == kSingleSize) {
-    for (std::size_t i = 0; i < kCoordinates; ++i) {
+    const auto coordinate = [&](std::size_t i) {
       const auto bits = StoredSingleBits(words.subspan(i * kSingleSize).first<kSingleSize>());
-      coordinates[i] = SingleFromBits(bits, state.ProcessorType);
-    }
+      return SingleFromBits(bits, state.ProcessorType);
+    };
+    sample.X = coordinate(0);
+    sample.Y = coordinate(1);
+    sample.Z = coordinate(2);
   }
-  return coordinates;
 }
 
-float ReadAnalogValue(const FileState& state, const FrameLayout& layout, std::int32_t position) {
-  state.C3dFileNumber.Seek(position);
-  if (layout.ValueSize == kIntegerSize) return state.C3dFileNumber.ReadInteger();
-  return SingleFromBits(state.C3dFileNumber.ReadSingleBits(), state.ProcessorType);
-}
+// Reads samples of points; what all frames share is worked out once.
+class PointReader {
+ public:
+  explicit PointReader(const FileState& state)
+      : state_(state), layout_(LayoutOf(state)), secondsPerFrame_(SecondsPerFrame(state)) {}
+
+  const FrameLayout& Layout() const { return layout_; }
+
+  PointSample At(std::int32_t position) const {
+    PointSample sample;
+    state_.C3dFileNumber.Seek(position);
+    ReadCoordinates(state_, layout_, sample);
+    const FramePlace place = PlaceOf(state_, layout_, position);
+    const bool isLastLabel =
+        place.OffsetInFrame / layout_.PointSize + 1 == state_.Header.PointLabelCount;
+    FillPlaceAndTime(sample, place, position, isLastLabel);
+    return sample;
+  }
+
+  // Fills all samples but the first with those of the same point.
+  void FollowFrames(PointSamples& samples) const {
+    if (state_.PointFrameCount < 2) return;
+    const bool isLastLabel = samples[1].NextPointPosition == 0;
+    std::int32_t position = samples[1].NextFramePosition;
+    FramePlace place = PlaceOf(state_, layout_, position);
+    for (std::int32_t frame = 2; frame <= state_.PointFrameCount; ++frame) {
+      PointSample& sample = samples[frame];
+      state_.C3dFileNumber.Seek(position);
+      ReadCoordinates(state_, layout_, sample);
+      FillPlaceAndTime(sample, place, position, isLastLabel);
+      position = sample.NextFramePosition;
+      // Only damage makes a frame's size negative; it then leads out of the file.
+      place = layout_.FrameSize > 0 ? FramePlace{place.FrameIndex + 1, place.OffsetInFrame}
+                                    : PlaceOf(state_, layout_, position);
+    }
+  }
+
+ private:
+  // The file stands behind the sample at `position`.
+  void FillPlaceAndTime(PointSample& sample, const FramePlace& place, std::int32_t position,
+                        bool isLastLabel) const {
+    sample.NextFramePosition = NextFrame(state_, layout_, place, position);
+    sample.NextPointPosition = isLastLabel ? 0 : state_.C3dFileNumber.Position();
+    sample.Time = FrameTime(state_, secondsPerFrame_, place);
+  }
+
+  const FileState& state_;
+  FrameLayout layout_;
+  double secondsPerFrame_;
+};
+
+// Reads the samples of a channel; what all frames share is worked out once.
+class AnalogReader {
+ public:
+  explicit AnalogReader(const FileState& state)
+      : state_(state),
+        layout_(LayoutOf(state)),
+        secondsPerFrame_(SecondsPerFrame(state)),
+        samples_(std::max<std::int16_t>(state.Header.AnalogSamplesPerChannel, 0)),
+        step_(double{state.AnalogChannelsCount} * layout_.ValueSize),
+        wholeStep_(static_cast<std::int64_t>(step_)),
+        span_(static_cast<std::int64_t>(step_ * (samples_ - 1)) + layout_.ValueSize) {}
+
+  const FrameLayout& Layout() const { return layout_; }
+  std::size_t SampleCount() const { return static_cast<std::size_t>(samples_); }
+
+  // Bytes from the channel's first sample in a frame to behind its last.
+  std::int64_t Span() const { return span_; }
+
+  // All frames of the channel whose first sample stands at `position`.
+  AnalogFrames Frames(std::int32_t position) const {
+    FramePlace place = PlaceOf(state_, layout_, position);
+    RequireFrames(position);
+    const auto count = static_cast<std::size_t>(state_.PointFrameCount);
+    const auto block = std::make_shared_for_overwrite<float[]>(count * SampleCount());
+    const std::span<float> values(block.get(), count * SampleCount());
+    AnalogFrames frames(state_.PointFrameCount);
+    for (std::size_t i = 0; i < count; ++i, ++place.FrameIndex) {
+      const std::int32_t next = NextFrame(state_, layout_, place, position);
+      ReadSamples(values.subspan(i * SampleCount(), SampleCount()), position);
+      frames[static_cast<std::int32_t>(i) + 1] = {SampleValues(block, i * SampleCount(), samples_),
+                                                  Time(place), next};
+      position = next;
+    }
+    return frames;
+  }
+
+  float Time(const FramePlace& place) const { return FrameTime(state_, secondsPerFrame_, place); }
+
+  // Fills `values` from `position` on, which moves behind the last one.
+  void ReadSamples(std::span<float> values, std::int32_t& position) const {
+    if (wholeStep_ < 0 || static_cast<double>(wholeStep_) != step_) {
+      for (float& value : values) {
+        state_.C3dFileNumber.Seek(position);
+        value = Value(state_.C3dFileNumber.Read(static_cast<std::size_t>(layout_.ValueSize)));
+        position = RoundToLong(position + step_);
+      }
+    } else if (!values.empty()) {
+      state_.C3dFileNumber.Seek(position);
+      const auto bytes = state_.C3dFileNumber.Read(static_cast<std::size_t>(span_));
+      const auto step = static_cast<std::size_t>(wholeStep_);
+      for (std::size_t i = 0; i < values.size(); ++i) values[i] = Value(bytes.subspan(i * step));
+      position = ToLong(position + wholeStep_ * samples_);
+    }
+  }
+
+ private:
+  float Value(std::span<const std::byte> bytes) const {
+    if (layout_.ValueSize == kIntegerSize) return StoredInteger(bytes.first<kIntegerSize>());
+    return SingleFromBits(StoredSingleBits(bytes.first<kSingleSize>()), state_.ProcessorType);
+  }
+
+  // The file must reach into the last frame before memory is taken for all of them. A sample takes
+  // its own bytes of a frame, as there is at least one channel.
+  void RequireFrames(std::int32_t position) const {
+    state_.C3dFileNumber.Seek(position);
+    const std::int64_t others = state_.PointFrameCount - 1;
+    state_.C3dFileNumber.RequireLeft(
+        static_cast<std::uint64_t>(others * layout_.FrameSize + layout_.ValueSize));
+  }
+
+  const FileState& state_;
+  FrameLayout layout_;
+  double secondsPerFrame_;
+  std::int32_t samples_;
+  double step_;  // bytes between two samples; has a fraction where the channel count has one
+  std::int64_t wholeStep_;
+  std::int64_t span_;
+};
 
 std::int32_t IndexOf(const OneBasedTable<std::string>& labels, std::string_view label) {
   const std::string wanted = modAllPurpose::SearchKey(label);
@@ -159,74 +289,43 @@ AnalogFrames GetAnalogDataWithEventsForLabel(const FileState& state, std::string
 PointSamples ReadPointDataForIndex(const FileState& state, std::int32_t index) {
   if (index < 1 || index > state.Header.PointLabelCount) return {};
   state.C3dFileNumber.ForgetBuffer();
+  const PointReader reader(state);
   PointSamples samples(state.PointFrameCount);
   std::int32_t position = state.SeekPtrForFirstFrameData;
   for (std::int32_t label = 1; label <= index; ++label) {
-    samples[1] = ReadPointSampleAt(state, position);
+    samples[1] = reader.At(position);
     position = samples[1].NextPointPosition;
   }
-  const FrameLayout layout = LayoutOf(state);
-  const BinaryFile::ReadAhead ahead(state.C3dFileNumber, ReadAheadFor(layout, layout.PointSize));
-  position = samples[1].NextFramePosition;
-  for (std::int32_t frame = 2; frame <= state.PointFrameCount; ++frame) {
-    samples[frame] = ReadPointSampleAt(state, position);
-    position = samples[frame].NextFramePosition;
-  }
+  const BinaryFile::ReadAhead ahead(state.C3dFileNumber,
+                                    ReadAheadFor(reader.Layout(), reader.Layout().PointSize));
+  reader.FollowFrames(samples);
   return samples;
 }
 
 AnalogFrames ReadAnalogDataForIndex(const FileState& state, std::int32_t channel) {
   if (channel < 1 || static_cast<float>(channel) > state.AnalogChannelsCount) return {};
   state.C3dFileNumber.ForgetBuffer();
-  const FrameLayout layout = LayoutOf(state);
-  // From the channel's first to its last sample in a frame.
-  const double span = double{state.AnalogChannelsCount} * layout.ValueSize *
-                      (state.Header.AnalogSamplesPerChannel - 1);
-  const BinaryFile::ReadAhead ahead(
-      state.C3dFileNumber,
-      ReadAheadFor(layout, static_cast<std::int64_t>(span) + layout.ValueSize));
-
-  AnalogFrames frames(state.PointFrameCount);
-  std::int32_t position = ToLong(std::int64_t{state.SeekPtrForFirstFrameData} +
-                                 std::int64_t{state.Header.PointLabelCount} * layout.PointSize +
-                                 std::int64_t{channel - 1} * layout.ValueSize);
-  for (std::int32_t frame = 1; frame <= state.PointFrameCount; ++frame) {
-    frames[frame] = ReadAnalogFrameAt(state, position);
-    position = frames[frame].NextFramePosition;
-  }
-  return frames;
+  const AnalogReader reader(state);
+  const BinaryFile::ReadAhead ahead(state.C3dFileNumber,
+                                    ReadAheadFor(reader.Layout(), reader.Span()));
+  return reader.Frames(
+      ToLong(std::int64_t{state.SeekPtrForFirstFrameData} +
+             std::int64_t{state.Header.PointLabelCount} * reader.Layout().PointSize +
+             std::int64_t{channel - 1} * reader.Layout().ValueSize));
 }
 
 PointSample ReadPointSampleAt(const FileState& state, std::int32_t position) {
-  const FrameLayout layout = LayoutOf(state);
-  state.C3dFileNumber.Seek(position);
-  const auto [x, y, z] = ReadCoordinates(state, layout);
-  PointSample sample;
-  sample.X = x;
-  sample.Y = y;
-  sample.Z = z;
-  const FramePlace place = PlaceOf(state, layout, position);
-  const std::int32_t labelNumber = place.OffsetInFrame / layout.PointSize + 1;
-  sample.NextFramePosition = NextFrame(state, layout, place, position);
-  sample.NextPointPosition =
-      labelNumber == state.Header.PointLabelCount ? 0 : state.C3dFileNumber.Position();
-  sample.Time = FrameTime(state, place);
-  return sample;
+  return PointReader(state).At(position);
 }
 
 AnalogFrame ReadAnalogFrameAt(const FileState& state, std::int32_t& position) {
-  const FrameLayout layout = LayoutOf(state);
-  const FramePlace place = PlaceOf(state, layout, position);
-  AnalogFrame frame;
-  frame.NextFramePosition = NextFrame(state, layout, place, position);
-  frame.Time = FrameTime(state, place);
-  frame.Values = OneBasedTable<float>(state.Header.AnalogSamplesPerChannel);
-  const double step = double{state.AnalogChannelsCount} * layout.ValueSize;
-  for (float& value : frame.Values) {
-    value = ReadAnalogValue(state, layout, position);
-    position = RoundToLong(position + step);
-  }
-  return frame;
+  const AnalogReader reader(state);
+  const FramePlace place = PlaceOf(state, reader.Layout(), position);
+  const std::int32_t next = NextFrame(state, reader.Layout(), place, position);
+  const auto block = std::make_shared_for_overwrite<float[]>(reader.SampleCount());
+  reader.ReadSamples({block.get(), reader.SampleCount()}, position);
+  return {SampleValues(block, 0, static_cast<std::int32_t>(reader.SampleCount())),
+          reader.Time(place), next};
 }
 
 }  // namespace modVantrel

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "c3d/FileState.h"
+#include "c3d/SampleValues.h"
 #include "support/OneBasedTable.h"
 
 // One label's values in every frame, read from the open file at each call. Only the bytes around
@@ -25,9 +26,9 @@ struct PointSample {
 
 // One analog channel in one frame.
 struct AnalogFrame {
-  modAllPurpose::OneBasedTable<float> Values;  // in time order, as stored: no scale, no offset
-  float Time = 0;                              // seconds; of the frame, not of each sample
-  std::int32_t NextFramePosition = 0;          // of the channel's first sample; 0 in the last frame
+  SampleValues Values;                 // in time order, as stored: no scale, no offset
+  float Time = 0;                      // seconds; of the frame, not of each sample
+  std::int32_t NextFramePosition = 0;  // of the channel's first sample; 0 in the last frame
   std::int32_t EventType = kTypeOther;
   std::int32_t EventSide = kSideNone;
 };

@@ -2,22 +2,7 @@
 
 #include <bit>
 
-#include "c3d/C3dFormat.h"
-
 namespace modVantrel {
-
-std::int16_t StoredInteger(std::span<const std::byte, 2> bytes) {
-  const auto low = std::to_integer<unsigned>(bytes[0]);
-  const auto high = std::to_integer<unsigned>(bytes[1]);
-  return static_cast<std::int16_t>(static_cast<std::uint16_t>(low | (high << 8U)));
-}
-
-std::uint32_t StoredSingleBits(std::span<const std::byte, 4> bytes) {
-  return std::to_integer<std::uint32_t>(bytes[0]) |
-         (std::to_integer<std::uint32_t>(bytes[1]) << 8U) |
-         (std::to_integer<std::uint32_t>(bytes[2]) << 16U) |
-         (std::to_integer<std::uint32_t>(bytes[3]) << 24U);
-}
 
 std::int32_t UnsignedWord(std::int16_t value) { return static_cast<std::uint16_t>(value); }
 
@@ -44,11 +29,6 @@ void ConvertDecFloatInPlace(float& value, std::uint8_t processorType) {
 
 void ConvertDecFloatArray(std::span<float> values, std::uint8_t processorType) {
   for (float& value : values) ConvertDecFloatInPlace(value, processorType);
-}
-
-float SingleFromBits(std::uint32_t storedBits, std::uint8_t processorType) {
-  return processorType == kProcessorDec ? ConvertDecFloat(storedBits)
-                                        : std::bit_cast<float>(storedBits);
 }
 
 }  // namespace modVantrel

@@ -1,15 +1,29 @@
 #pragma once
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <span>
+
+#include "c3d/C3dFormat.h"
 
 // Numbers as a C3D file stores them: little-endian words, and 32-bit floats in the Intel (IEEE) or
 // the DEC form. Everything is put together from bytes, so the host's own byte order is irrelevant.
 namespace modVantrel {
 
-std::int16_t StoredInteger(std::span<const std::byte, 2> bytes);
-std::uint32_t StoredSingleBits(std::span<const std::byte, 4> bytes);
+// The short ones stand here because they are read by the million.
+inline std::int16_t StoredInteger(std::span<const std::byte, 2> bytes) {
+  const auto low = std::to_integer<unsigned>(bytes[0]);
+  const auto high = std::to_integer<unsigned>(bytes[1]);
+  return static_cast<std::int16_t>(static_cast<std::uint16_t>(low | (high << 8U)));
+}
+
+inline std::uint32_t StoredSingleBits(std::span<const std::byte, 4> bytes) {
+  return std::to_integer<std::uint32_t>(bytes[0]) |
+         (std::to_integer<std::uint32_t>(bytes[1]) << 8U) |
+         (std::to_integer<std::uint32_t>(bytes[2]) << 16U) |
+         (std::to_integer<std::uint32_t>(bytes[3]) << 24U);
+}
 
 // The 16 bits of `value` read as 0 to 65535.
 std::int32_t UnsignedWord(std::int16_t value);
@@ -26,6 +40,9 @@ void ConvertDecFloatInPlace(float& value, std::uint8_t processorType);
 void ConvertDecFloatArray(std::span<float> values, std::uint8_t processorType);
 
 // The float that `storedBits` stand for in a file of `processorType`.
-float SingleFromBits(std::uint32_t storedBits, std::uint8_t processorType);
+inline float SingleFromBits(std::uint32_t storedBits, std::uint8_t processorType) {
+  return processorType == kProcessorDec ? ConvertDecFloat(storedBits)
+                                        : std::bit_cast<float>(storedBits);
+}
 
 }  // namespace modVantrel

@@ -22,12 +22,6 @@ std::int16_t ToInteger(std::int32_t value) {
 
 }  // namespace
 
-float ToSingle(double value) {
-  const auto single = static_cast<float>(value);
-  if (std::isinf(single) && !std::isinf(value)) throw RuntimeError(ErrorNumber::Overflow);
-  return single;
-}
-
 double Divide(double dividend, double divisor) {
   if (divisor == 0.0) throw RuntimeError(ErrorNumber::DivisionByZero);
   return dividend / divisor;
@@ -39,14 +33,6 @@ std::int16_t SubtractIntegers(std::int16_t left, std::int16_t right) {
 
 std::int16_t AddIntegers(std::int16_t left, std::int16_t right) {
   return ToInteger(std::int32_t{left} + std::int32_t{right});
-}
-
-std::int32_t ToLong(std::int64_t value) {
-  if (value < std::numeric_limits<std::int32_t>::min() ||
-      value > std::numeric_limits<std::int32_t>::max()) {
-    throw RuntimeError(ErrorNumber::Overflow);
-  }
-  return static_cast<std::int32_t>(value);
 }
 
 std::int32_t RoundToLong(double value) {

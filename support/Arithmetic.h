@@ -1,6 +1,9 @@
 #pragma once
 
+#include <cmath>
 #include <cstdint>
+
+#include "support/RuntimeError.h"
 
 // The program's arithmetic: expressions are worked out in double precision, results are stored as
 // 32-bit floats, and a result that its type cannot hold is a run-time error instead of a wrong
@@ -9,7 +12,13 @@ namespace modAllPurposeNumbers {
 
 // `value` rounded to a 32-bit float. Error 6 when a finite value does not fit; infinities and NaN,
 // which can only come from the data themselves, pass.
-float ToSingle(double value);
+inline float ToSingle(double value) {
+  const auto single = static_cast<float>(value);
+  if (std::isinf(single) && !std::isinf(value)) {
+    throw modAllPurpose::RuntimeError(modAllPurpose::ErrorNumber::Overflow);
+  }
+  return single;
+}
 
 // dividend / divisor; error 11 when the divisor is 0.
 double Divide(double dividend, double divisor);
@@ -19,7 +28,11 @@ std::int16_t SubtractIntegers(std::int16_t left, std::int16_t right);
 std::int16_t AddIntegers(std::int16_t left, std::int16_t right);
 
 // `value` as a signed 32-bit number; error 6 where it does not fit.
-std::int32_t ToLong(std::int64_t value);
+inline std::int32_t ToLong(std::int64_t value) {
+  const auto number = static_cast<std::int32_t>(value);
+  if (number != value) throw modAllPurpose::RuntimeError(modAllPurpose::ErrorNumber::Overflow);
+  return number;
+}
 
 // `value` rounded to a whole number, halves to the even neighbour; error 6 where the result is not
 // a signed 32-bit number (NaN included).

@@ -6,6 +6,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdint>
+#include <cstring>
 #include <iterator>
 
 #include <fmt/format.h>
@@ -71,28 +72,71 @@ FixedDigits RoundedDigits(double magnitude, std::size_t decimals) {
   return rounded == power ? FixedDigits{integer + 1, 0} : FixedDigits{integer, rounded};
 }
 
-// Appends `number` with at least `width` digits.
-void AppendDigits(std::string& text, std::uint64_t number, std::size_t width) {
-  std::array<char, 24> digits{};
-  char* first = digits.data() + digits.size();
-  while (number != 0) {
-    *--first = static_cast<char>('0' + number % 10);
-    number /= 10;
+constexpr auto kDigitPairs = [] {
+  std::array<char, 200> pairs{};
+  for (std::size_t i = 0; i < 100; ++i) {
+    pairs[2 * i] = static_cast<char>('0' + i / 10);
+    pairs[2 * i + 1] = static_cast<char>('0' + i % 10);
   }
-  const auto count = static_cast<std::size_t>(digits.data() + digits.size() - first);
-  if (count < width) text.append(width - count, '0');
-  text.append(first, digits.data() + digits.size());
-}
+  return pairs;
+}();
 
-void AppendDecimals(std::string& text, std::uint64_t decimals, const NumberPattern& pattern) {
+// Puts a printed number together from its last character to its first, so that it reaches a text in
+// one piece.
+class BackwardWriter {
+ public:
+  // Characters there is room for: a number below 2^53 with all its decimals needs 29.
+  static constexpr std::size_t kRoom = 64;
+
+  void Put(char character) {
+    if (first_ > 0) characters_[--first_] = character;
+  }
+
+  void Put(std::size_t count, char character) {
+    for (std::size_t i = 0; i < count; ++i) Put(character);
+  }
+
+  // Exactly `width` digits of `number`, the last ones.
+  void PutLastDigits(std::uint64_t number, std::size_t width) {
+    for (; width >= 2; width -= 2, number /= 100) PutPair(number % 100);
+    if (width == 1) Put(static_cast<char>('0' + number % 10));
+  }
+
+  // All digits of `number`, and zeros before them up to `least` digits.
+  void PutNumber(std::uint64_t number, std::size_t least) {
+    const std::size_t before = first_;
+    for (; number >= 100; number /= 100) PutPair(number % 100);
+    if (number >= 10) {
+      PutPair(number);
+    } else if (number > 0) {
+      Put(static_cast<char>('0' + number));
+    }
+    const std::size_t written = before - first_;
+    if (written < least) Put(least - written, '0');
+  }
+
+  std::string_view Text() const { return {characters_.data() + first_, kRoom - first_}; }
+
+ private:
+  void PutPair(std::uint64_t pair) {
+    if (first_ < 2) return;
+    first_ -= 2;
+    std::memcpy(characters_.data() + first_, kDigitPairs.data() + 2 * pair, 2);
+  }
+
+  std::array<char, kRoom> characters_;
+  std::size_t first_ = kRoom;
+};
+
+void PutDecimals(BackwardWriter& writer, std::uint64_t decimals, const NumberPattern& pattern) {
   std::size_t places = pattern.MostDecimals();
   while (places > pattern.LeastDecimals() && decimals % 10 == 0) {
     decimals /= 10;
     --places;
   }
   if (places == 0) return;
-  text += '.';
-  AppendDigits(text, decimals, places);
+  writer.PutLastDigits(decimals, places);
+  writer.Put('.');
 }
 
 // Appends "NaN", "Inf" or "-Inf" and answers true where `value` is one of them.
@@ -106,22 +150,33 @@ bool AppendNonFinite(std::string& text, double value) {
   return true;
 }
 
+// Appends a finite number of 2^53 or more, which has no decimals and more digits than any pattern.
+void AppendLargeNumber(std::string& text, const NumberPattern& pattern, double value) {
+  if (value < 0) text += '-';
+  text.append(pattern.LeadingBlanks(), ' ');
+  fmt::format_to(std::back_inserter(text), "{:.0f}", std::fabs(value));
+  BackwardWriter writer;
+  PutDecimals(writer, 0, pattern);
+  text += writer.Text();
+}
+
 }  // namespace
 
 void AppendNumber(std::string& text, const NumberPattern& pattern, double value) {
   if (AppendNonFinite(text, value)) return;
-  if (value < 0) text += '-';
-  text.append(pattern.LeadingBlanks(), ' ');
   const double magnitude = std::fabs(value);
   constexpr double kAllWholeFromHere = 9007199254740992.0;  // 2^53
   if (magnitude >= kAllWholeFromHere) {
-    fmt::format_to(std::back_inserter(text), "{:.0f}", magnitude);
-    AppendDecimals(text, 0, pattern);
+    AppendLargeNumber(text, pattern, value);
     return;
   }
   const FixedDigits digits = RoundedDigits(magnitude, pattern.MostDecimals());
-  AppendDigits(text, digits.Integer, pattern.LeastIntegerDigits());
-  AppendDecimals(text, digits.Decimals, pattern);
+  BackwardWriter writer;
+  PutDecimals(writer, digits.Decimals, pattern);
+  writer.PutNumber(digits.Integer, pattern.LeastIntegerDigits());
+  writer.Put(pattern.LeadingBlanks(), ' ');
+  if (value < 0) writer.Put('-');
+  text += writer.Text();
 }
 
 std::string FormatNumber(const NumberPattern& pattern, double value) {

@@ -15,7 +15,7 @@ namespace modAllPurposeNumbers {
 class NumberPattern {
  public:
   // `pattern` is optional blanks, digit places and, where it has decimals, a point and their
-  // places ("0" before "#"). At most 12 decimals.
+  // places ("0" before "#"). At most 12 decimals and 16 integer places.
   constexpr explicit NumberPattern(std::string_view pattern);
 
   constexpr std::size_t LeadingBlanks() const { return leadingBlanks_; }

@@ -40,7 +40,7 @@ std::int32_t FrameNumber(const FileState& state, std::int32_t frameIndex) {
 }
 
 void AppendColumn(std::string& line, const NumberPattern& pattern, double value) {
-  line += "  ";
+  line.append(2, ' ');
   AppendNumber(line, pattern, value);
 }
 
@@ -62,13 +62,18 @@ class LinePrinter {
   // `sampleCounter` numbers the samples of the whole listing.
   void FormatAnalogLine(std::int32_t& sampleCounter, std::int32_t frameIndex,
                         const AnalogFrame& frame, Tags tags) {
+    // All lines of a frame share their first column and the time.
+    line_.clear();
+    AppendColumn(line_, kNumber, FrameNumber(state_, frameIndex));
+    const std::size_t sharedSize = line_.size();
+    time_.clear();
+    AppendColumn(time_, kTime, double{frame.Time});
     for (std::int32_t k = 1; k <= state_.Header.AnalogSamplesPerChannel; ++k) {
       if (tags == Tags::With && k != 1) output_.Piece(kNoEventTag);
       ++sampleCounter;
-      line_.clear();
-      AppendColumn(line_, kNumber, FrameNumber(state_, frameIndex));
+      line_.resize(sharedSize);
       AppendColumn(line_, kSampleNumber, sampleCounter);
-      AppendColumn(line_, kTime, double{frame.Time});
+      line_ += time_;
       AppendColumn(line_, kAnalogValue, double{frame.Values[k]});
       output_.Line(line_);
     }
@@ -78,6 +83,7 @@ class LinePrinter {
   const FileState& state_;
   ReportOutput& output_;
   std::string line_;
+  std::string time_;
 };
 
 void PointLines(const FileState& state, const PointSamples& samples, Tags tags,

@@ -2,6 +2,7 @@
 #include <bit>
 #include <cstring>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -40,6 +41,10 @@ sample::Trial WithSamplesPerChannel(const TrialBuilder& builder, std::int16_t sa
   return builder.Build().SetInteger(kSamplesPerChannelPosition, samples);
 }
 
+std::vector<float> Samples(const AnalogFrame& frame) {
+  return {frame.Values.begin(), frame.Values.end()};
+}
+
 std::int16_t IntegerAt(const sample::Trial& trial, std::int32_t position) {
   std::int16_t value = 0;
   std::memcpy(&value, trial.Bytes().data() + position - 1, sizeof value);
@@ -66,6 +71,31 @@ TEST(AnalogData, SamplesOfAChannelStandAllChannelsApart) {
       }
     }
   }
+}
+
+TEST(AnalogData, SampleOutsideTheFrameIsAnIndexError) {
+  OpenedTrial trial(Channels(3, 4, Storage::Integer));
+  const AnalogFrames frames = ReadAnalogDataForIndex(trial.State(), 1);
+  for (const std::int32_t index : {-1, 0, 5}) {
+    EXPECT_EQ(ErrorNumberOf([&] { (void)frames[1].Values[index]; }), kSubscriptOutOfRange);
+  }
+  EXPECT_EQ(ErrorNumberOf([] { (void)AnalogFrame().Values[1]; }), kSubscriptOutOfRange);
+}
+
+TEST(AnalogData, FrameOutlivesTheOthersOfItsChannel) {
+  AnalogFrame frame;
+  {
+    OpenedTrial trial(Channels(3, 4, Storage::Integer));
+    frame = ReadAnalogDataForIndex(trial.State(), 2)[3];
+  }
+  EXPECT_EQ(Samples(frame), (std::vector{2009.0F, 2010.0F, 2011.0F, 2012.0F}));
+}
+
+TEST(AnalogData, FramesThatAreClaimedButMissingAreAnErrorAtOnce) {
+  OpenedTrial trial(Channels(1, 32767, Storage::Integer).Build().ClaimFrames(1, 32767));
+  ASSERT_EQ(trial.State().PointFrameCount, 32767);
+  EXPECT_EQ(ErrorNumberOf([&] { ReadAnalogDataForIndex(trial.State(), 1); }), kInputPastEndOfFile)
+      << "no memory is taken for a thousand million samples";
 }
 
 TEST(AnalogData, AllSamplesOfAFrameShareItsTime) {
@@ -206,7 +236,7 @@ TEST(AnalogData, LargeFramesGiveTheValuesOfSmallOnes) {
     const AnalogFrames frames = ReadAnalogDataForIndex(large.State(), channel);
     ASSERT_EQ(frames.Count(), expected.Count());
     for (std::int32_t i = 1; i <= frames.Count(); ++i) {
-      EXPECT_EQ(frames[i].Values, expected[i].Values);
+      EXPECT_EQ(Samples(frames[i]), Samples(expected[i]));
       EXPECT_EQ(frames[i].Time, expected[i].Time);
     }
   }

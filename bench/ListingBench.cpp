@@ -1,0 +1,165 @@
+#include <array>
+#include <cstdio>
+#include <stdexcept>
+#include <string>
+
+#include <benchmark/benchmark.h>
+
+#include "app/reports/ListingReport.h"
+#include "bench/BenchTrial.h"
+#include "bench/Budget.h"
+#include "c3d/FrameData.h"
+#include "sample/TrialBuilder.h"
+
+// Long listings, reading included, against the same lines by the C library. Both sides hand their
+// lines on in pieces, as the tool does, so that neither is measured by how a long text grows.
+namespace {
+
+using bench::BenchTrial;
+using modVantrel::FileState;
+
+constexpr std::int16_t kFrames = 32767;
+constexpr std::int16_t kSamples = 20;  // 655,340 lines
+
+// 2 k + 1. An odd number of 1/1024 or 1/131072 has too many decimals to be a tie of a form, which
+// the C library would round to the even digit.
+float Odd(std::int32_t k) { return static_cast<float>(2 * k + 1); }
+
+const BenchTrial& Trial() {
+  static const BenchTrial trial(
+      sample::TrialBuilder()
+          .StoredAs(sample::Storage::Single)
+          .Frames(1, kFrames)
+          .AddPoint("LTOE",
+                    [](std::int32_t frame) {
+                      const float x = Odd(frame) / 1024;
+                      return std::array{x - 20, 3000 - 50 * x, -x};
+                    })
+          .SamplesPerFrame(kSamples)
+          .AddAnalog("Fz", "", [](std::int32_t k) { return Odd(k) / 131072 - 5; })
+          .Build(),
+      BenchTrial::Frames::Written, [](FileState& /*state*/) {});
+  return trial;
+}
+
+// The lines of a report without the two above and the empty one below them.
+std::string LinesOfListing(const std::string& text) {
+  const auto heading = text.find('\n', text.find('\n') + 1) + 1;
+  return text.substr(heading, text.size() - heading - 1);
+}
+
+// Takes lines and hands them on in pieces: to `kept` where there is one, else to nobody.
+class Pieces : public modAllPurpose::ReportOutput {
+ public:
+  explicit Pieces(std::string* kept = nullptr) : kept_(kept) {}
+
+  void BeginReport() override {}
+  void AppendOutput(std::string_view text, bool /*paneOnly*/, bool continueLine) override {
+    pending_ += text;
+    if (!continueLine) pending_ += '\n';
+    constexpr std::size_t kPieceSize = std::size_t{256} * 1024;
+    if (pending_.size() >= kPieceSize) HandOn();
+  }
+  void HandOn() {
+    benchmark::DoNotOptimize(pending_.data());
+    if (kept_ != nullptr) *kept_ += pending_;
+    pending_.clear();
+  }
+
+ private:
+  std::string pending_;
+  std::string* kept_;
+};
+
+void AnalogListing(Pieces& output) {
+  (void)reports::ShowAnalogData(Trial().State(), "Fz", output);
+  output.HandOn();
+}
+
+void PointListing(Pieces& output) {
+  (void)reports::ShowPointData(Trial().State(), "LTOE", output);
+  output.HandOn();
+}
+
+void AnalogLinesByPrintf(const modVantrel::AnalogFrames& frames, Pieces& output) {
+  std::array<char, 128> line{};
+  int sample = 0;
+  for (std::int32_t i = 1; i <= frames.Count(); ++i) {
+    for (const float value : frames[i].Values) {
+      const int size = std::snprintf(line.data(), line.size(), "  %03d  %04d  %08.5f  %.8f", i,
+                                     ++sample, double{frames[i].Time}, double{value});
+      output.Line({line.data(), static_cast<std::size_t>(size)});
+    }
+  }
+  output.HandOn();
+}
+
+void PointLinesByPrintf(const modVantrel::PointSamples& samples, Pieces& output) {
+  std::array<char, 128> line{};
+  const auto width = [](float value) { return value < 0 ? 10 : 9; };
+  for (std::int32_t i = 1; i <= samples.Count(); ++i) {
+    const modVantrel::PointSample& s = samples[i];
+    const int size = std::snprintf(
+        line.data(), line.size(), "  %03d  %08.5f  %0*.4f  %0*.4f  %0*.4f", i, double{s.Time},
+        width(s.X), double{s.X}, width(s.Y), double{s.Y}, width(s.Z), double{s.Z});
+    output.Line({line.data(), static_cast<std::size_t>(size)});
+  }
+  output.HandOn();
+}
+
+void ListAnalog(benchmark::State& run) {
+  Pieces output;
+  while (run.KeepRunning()) AnalogListing(output);
+}
+
+void PrintfAnalog(benchmark::State& run) {
+  const auto frames = modVantrel::GetAnalogDataForLabel(Trial().State(), "Fz");
+  Pieces output;
+  while (run.KeepRunning()) AnalogLinesByPrintf(frames, output);
+}
+
+void ListPoint(benchmark::State& run) {
+  Pieces output;
+  while (run.KeepRunning()) PointListing(output);
+}
+
+void PrintfPoint(benchmark::State& run) {
+  const auto samples = modVantrel::GetPointDataForLabel(Trial().State(), "LTOE");
+  Pieces output;
+  while (run.KeepRunning()) PointLinesByPrintf(samples, output);
+}
+
+BENCHMARK(ListAnalog)->Repetitions(7)->Unit(benchmark::kMillisecond);
+BENCHMARK(PrintfAnalog)->Repetitions(7)->Unit(benchmark::kMillisecond);
+BENCHMARK(ListPoint)->Repetitions(7)->Unit(benchmark::kMillisecond);
+BENCHMARK(PrintfPoint)->Repetitions(7)->Unit(benchmark::kMillisecond);
+
+// What `print` hands on in all.
+template <typename Print>
+std::string TextOf(const Print& print) {
+  std::string text;
+  Pieces output(&text);
+  print(output);
+  return text;
+}
+
+// Both sides must print the same, or their times say nothing.
+void RequireSameLines() {
+  const FileState& state = Trial().State();
+  const auto frames = modVantrel::GetAnalogDataForLabel(state, "Fz");
+  const auto samples = modVantrel::GetPointDataForLabel(state, "LTOE");
+  if (LinesOfListing(TextOf(AnalogListing)) !=
+          TextOf([&](Pieces& output) { AnalogLinesByPrintf(frames, output); }) ||
+      LinesOfListing(TextOf(PointListing)) !=
+          TextOf([&](Pieces& output) { PointLinesByPrintf(samples, output); })) {
+    throw std::runtime_error("the listing and the C library print different lines");
+  }
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  RequireSameLines();
+  return bench::RunWithBudgets(
+      argc, argv, {{"ListAnalog", "PrintfAnalog", 0.2}, {"ListPoint", "PrintfPoint", 0.2}});
+}

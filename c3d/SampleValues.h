@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <span>
+
+#include "support/RuntimeError.h"
+
+namespace modVantrel {
+
+// The samples of one channel in one frame, numbered from 1 in time order. An index outside
+// 1..Count() is error 9. The frames of a channel share one block of memory, which lasts as long as
+// any of them; so copies refer to the same samples.
+class SampleValues {
+ public:
+  SampleValues() = default;
+
+  // The `count` samples from `first` on, from 0, of a block that must hold them.
+  SampleValues(std::shared_ptr<float[]> block, std::size_t first, std::int32_t count)
+      : block_(std::move(block)), first_(block_.get() + first), count_(count) {}
+
+  std::int32_t Count() const { return count_; }
+
+  float operator[](std::int32_t index) const {
+    if (index < 1 || index > count_) {
+      throw modAllPurpose::RuntimeError(modAllPurpose::ErrorNumber::SubscriptOutOfRange);
+    }
+    return first_[index - 1];
+  }
+
+  const float* begin() const { return first_; }
+  const float* end() const { return first_ + count_; }
+
+ private:
+  std::shared_ptr<float[]> block_;
+  const float* first_ = nullptr;
+  std::int32_t count_ = 0;
+};
+
+}  // namespace modVantrel
