@@ -13,7 +13,10 @@ CaptionButton::CaptionButton(const QString& caption, QWidget* parent)
 QRect CaptionButton::CaptionArea() const {
   QStyleOptionButton option;
   initStyleOption(&option);
-  return style()->subElementRect(QStyle::SE_PushButtonContents, &option, this);
+  constexpr int kEdge = 3;  // a caption that would touch the frame is broken before it does
+  return style()
+      ->subElementRect(QStyle::SE_PushButtonContents, &option, this)
+      .adjusted(kEdge, 0, -kEdge, 0);
 }
 
 void CaptionButton::paintEvent(QPaintEvent* /*event*/) {

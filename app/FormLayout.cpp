@@ -107,8 +107,8 @@ constexpr std::array kGaitButtons = {
 };
 
 constexpr QRect kCheckBoxPlace = Whole(447, 34);
-constexpr QPoint kTreeLabelPlace(kMargin, 486);
-constexpr int kTreeLabelHeight = 32;
+constexpr QPoint kTreeLabelPlace(kMargin, 483);
+constexpr int kTreeLabelHeight = 37;
 constexpr QRect kTreePlace(kMargin, 521, kWhole, kDesignSize.height() - kMargin - 521);
 constexpr QRect kPanePlace(kColumnsEnd, kMargin, kDesignSize.width() - kColumnsEnd - kMargin,
                            kDesignSize.height() - 2 * kMargin);

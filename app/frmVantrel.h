@@ -40,6 +40,7 @@ class frmVantrel : public QWidget {
 
  signals:
   void Unloaded(int exitStatus);
+  void FileDropped(const QString& file);
 
  protected:
   void resizeEvent(QResizeEvent* event) override;

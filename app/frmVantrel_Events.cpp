@@ -83,6 +83,11 @@ void frmVantrel::AddShortcuts() {
 
 void frmVantrel::AcceptDrops() {
   setAcceptDrops(true);
+  // The other program waits for the end of the drop, so a message box must not keep it.
+  connect(
+      this, &frmVantrel::FileDropped, this,
+      [this](const QString& file) { Run([&] { OpenFile(file.toStdString()); }); },
+      Qt::QueuedConnection);
   for (QLineEdit* box : {controls_.txtGroup, controls_.txtParam, controls_.txtPointLabel,
                          controls_.txtAnalogLabel}) {
     box->installEventFilter(this);
@@ -90,22 +95,16 @@ void frmVantrel::AcceptDrops() {
 }
 
 bool frmVantrel::eventFilter(QObject* watched, QEvent* event) {
-  // A text box takes dropped texts, but a file dropped on it is for the form.
-  const auto carriesFile = [event] {
-    return !DraggedFile(static_cast<QDropEvent*>(event)->mimeData()).isEmpty();
-  };
-  switch (event->type()) {
-    case QEvent::DragEnter:
-    case QEvent::DragMove:
-      if (!carriesFile()) break;
-      static_cast<QDropEvent*>(event)->acceptProposedAction();
-      return true;
-    case QEvent::Drop:
-      if (!carriesFile()) break;
-      dropEvent(static_cast<QDropEvent*>(event));
-      return true;
-    default:
-      break;
+  // A text box takes dropped texts, but a file dropped on it is for the form. Entering and moving
+  // are kinds of dropping to the toolkit.
+  if (auto* drop = dynamic_cast<QDropEvent*>(event);
+      drop != nullptr && !DraggedFile(drop->mimeData()).isEmpty()) {
+    if (event->type() == QEvent::Drop) {
+      dropEvent(drop);
+    } else {
+      drop->acceptProposedAction();
+    }
+    return true;
   }
   return QWidget::eventFilter(watched, event);
 }
@@ -119,9 +118,7 @@ void frmVantrel::dropEvent(QDropEvent* event) {
   // While a message box waits, the command behind it is not done yet.
   if (file.isEmpty() || QApplication::activeModalWidget() != nullptr) return;
   event->acceptProposedAction();
-  // The other program waits for the end of the drop, so a message box must not keep it.
-  QMetaObject::invokeMethod(
-      this, [this, file] { Run([&] { OpenFile(file.toStdString()); }); }, Qt::QueuedConnection);
+  emit FileDropped(file);
 }
 
 }  // namespace app

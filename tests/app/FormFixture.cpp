@@ -19,10 +19,7 @@ FormTest::FormTest() {
   std::filesystem::create_directory(folder_ / "config");
   std::ofstream(folder_ / "config/user-dirs.dirs")
       << "XDG_DESKTOP_DIR=\"" << (folder_ / "Desktop").string() << "\"\n";
-  qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString((folder_ / "config").string()));
 }
-
-FormTest::~FormTest() { qunsetenv("XDG_CONFIG_HOME"); }
 
 void FormTest::Start(const std::string& commandLine) {
   form_.Form_Load(commandLine);

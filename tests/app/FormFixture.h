@@ -17,6 +17,7 @@
 #include "c3d/FileState.h"
 #include "tests/TestTrials.h"
 #include "tests/app/Boxes.h"
+#include "tests/app/ConfigFolder.h"
 
 namespace tests {
 
@@ -24,7 +25,6 @@ namespace tests {
 class FormTest : public ::testing::Test {
  protected:
   FormTest();
-  ~FormTest() override;
 
   // Starts the form with that command line and shows it.
   void Start(const std::string& commandLine = {});
@@ -67,6 +67,7 @@ class FormTest : public ::testing::Test {
   }
 
   TemporaryFolder folder_;
+  ConfigFolder config_{(folder_ / "config").string()};
   modVantrel::FileState state_;
   app::frmVantrel form_{state_};
   Boxes boxes_;

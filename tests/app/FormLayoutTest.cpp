@@ -3,6 +3,8 @@
 #include <array>
 #include <map>
 
+#include <QApplication>
+#include <QFontDatabase>
 #include <QLabel>
 #include <QScreen>
 #include <QTest>
@@ -140,21 +142,41 @@ TEST_F(FormLayout, NoTwoControlsOverlap) {
   }
 }
 
-TEST_F(FormLayout, EveryCaptionFitsItsPlace) {
-  Start();
-  const auto fits = [](const QWidget* control, const QRect& area, int flags, const QString& text) {
-    const QRect needed =
-        control->fontMetrics().boundingRect(QRect(0, 0, area.width(), 10000), flags, text);
-    EXPECT_LE(needed.height(), control->height()) << text.toStdString();
-    EXPECT_LE(needed.width(), area.width()) << text.toStdString();
-  };
-  for (const auto* button : form_.findChildren<app::CaptionButton*>()) {
-    fits(button, button->CaptionArea(), app::kButtonCaptionFlags, button->text());
+void ExpectFits(const QWidget* control, int width, int flags, const QString& text) {
+  const QRect needed = control->fontMetrics().boundingRect(QRect(0, 0, width, 10000), flags, text);
+  EXPECT_LE(needed.height(), control->height()) << text.toStdString();
+  EXPECT_LE(needed.width(), width) << text.toStdString();
+}
+
+void ExpectEveryCaptionFits(const app::frmVantrel& form) {
+  for (const auto* button : form.findChildren<app::CaptionButton*>()) {
+    ExpectFits(button, button->CaptionArea().width(), app::kButtonCaptionFlags, button->text());
   }
-  fits(CheckBox(), CheckBox()->CaptionArea(), app::kCheckBoxCaptionFlags, CheckBox()->text());
-  for (const auto* label : form_.findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly)) {
-    fits(label, label->rect(), Qt::TextWordWrap | Qt::TextShowMnemonic, label->text());
+  for (const auto* box : form.findChildren<app::CaptionCheckBox*>()) {
+    ExpectFits(box, box->CaptionArea().width(), app::kCheckBoxCaptionFlags, box->text());
   }
+  for (const auto* label : form.findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly)) {
+    ExpectFits(label, label->width(), Qt::TextWordWrap | Qt::TextShowMnemonic, label->text());
+  }
+}
+
+TEST_F(FormLayout, EveryCaptionFitsItsPlaceInTheFacesOfCommonDesktops) {
+  const QFont before = QApplication::font();
+  int tried = 0;
+  for (const auto& family : {QStringLiteral("DejaVu Sans"), QStringLiteral("Liberation Sans"),
+                             QStringLiteral("Noto Sans"), QStringLiteral("Cantarell"),
+                             QStringLiteral("Ubuntu"), QStringLiteral("Segoe UI")}) {
+    if (!QFontDatabase::families().contains(family)) continue;
+    SCOPED_TRACE(family.toStdString());
+    ++tried;
+    QApplication::setFont(QFont(family));
+    modVantrel::FileState state;
+    app::frmVantrel form(state);
+    form.ensurePolished();
+    ExpectEveryCaptionFits(form);
+  }
+  QApplication::setFont(before);
+  EXPECT_GE(tried, 2) << "the project needs these two itself";
 }
 
 TEST_F(FormLayout, TheTreesLabelBreaksBetweenItsTwoSentences) {

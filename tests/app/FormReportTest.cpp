@@ -1,6 +1,6 @@
 // The report commands of the form: what they put into the pane and into the desktop copy.
 
-#include <fstream>
+#include <array>
 #include <functional>
 
 #include <QApplication>
@@ -202,14 +202,14 @@ struct Rejection {
   const char* Message;
 };
 
-constexpr Rejection kRejections[] = {
-    {"cmdShowMatchingGroupAndAllParams", "txtGroup", "group not found"},
-    {"cmdShowMatchingGroupAndMatchingParam", "txtGroup", "neither group nor param found"},
-    {"cmdShowPointData", "txtPointLabel", "point label not found"},
-    {"cmdShowPointDataWithEvents", "txtPointLabel", "point label not found"},
-    {"cmdShowAnalogData", "txtAnalogLabel", "analog label not found"},
-    {"cmdShowAnalogDataWithEvents", "txtAnalogLabel", "analog label not found"},
-    {"cmdShowNormalized", "txtPointLabel", "point label not found"},
+constexpr std::array kRejections = {
+    Rejection{"cmdShowMatchingGroupAndAllParams", "txtGroup", "group not found"},
+    Rejection{"cmdShowMatchingGroupAndMatchingParam", "txtGroup", "neither group nor param found"},
+    Rejection{"cmdShowPointData", "txtPointLabel", "point label not found"},
+    Rejection{"cmdShowPointDataWithEvents", "txtPointLabel", "point label not found"},
+    Rejection{"cmdShowAnalogData", "txtAnalogLabel", "analog label not found"},
+    Rejection{"cmdShowAnalogDataWithEvents", "txtAnalogLabel", "analog label not found"},
+    Rejection{"cmdShowNormalized", "txtPointLabel", "point label not found"},
 };
 
 TEST_F(FormReport, ARejectedInputReplacesThePaneAndTouchesNoDesktopCopy) {

@@ -1,3 +1,6 @@
+#include <array>
+#include <map>
+
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QPushButton>
@@ -63,21 +66,22 @@ TEST(MsgBoxPlus, ShowsItsTitleItsTextAndTheCaptionsInOrder) {
 TEST(MsgBoxPlus, ShowsTheButtonsOfEachSetAndNoMore) {
   const QStringList captions = {QStringLiteral("One"), QStringLiteral("Two"),
                                 QStringLiteral("Three")};
-  const int counts[] = {1, 2, 3, 3, 2, 2};
+  constexpr std::array kCounts = {1, 2, 3, 3, 2, 2};
   for (int set = 0; set <= 5; ++set) {
     Boxes boxes;
     boxes.ExpectAndClick(QStringLiteral("One"));
     Ask(set);
-    EXPECT_EQ(boxes.Seen().at(0).Buttons, captions.first(counts[set])) << "set " << set;
+    EXPECT_EQ(boxes.Seen().at(0).Buttons, captions.first(kCounts.at(static_cast<std::size_t>(set))))
+        << "set " << set;
   }
 }
 
 TEST(MsgBoxPlus, ShowsTheIconOfItsStyle) {
-  const std::pair<int, QMessageBox::Icon> icons[] = {{0, QMessageBox::NoIcon},
-                                                     {16, QMessageBox::Critical},
-                                                     {32, QMessageBox::Question},
-                                                     {48, QMessageBox::Warning},
-                                                     {64, QMessageBox::Information}};
+  const std::map<int, QMessageBox::Icon> icons = {{0, QMessageBox::NoIcon},
+                                                  {16, QMessageBox::Critical},
+                                                  {32, QMessageBox::Question},
+                                                  {48, QMessageBox::Warning},
+                                                  {64, QMessageBox::Information}};
   for (const auto& [style, icon] : icons) {
     Boxes boxes;
     boxes.ExpectAndClick(QStringLiteral("One"));
@@ -89,7 +93,7 @@ TEST(MsgBoxPlus, ShowsTheIconOfItsStyle) {
 TEST(MsgBoxPlus, TakesTextAsItStandsAndNotAsMarkup) {
   Boxes boxes;
   boxes.Expect([&](QDialog& box) {
-    EXPECT_EQ(static_cast<QMessageBox&>(box).textFormat(), Qt::PlainText);
+    EXPECT_EQ(dynamic_cast<QMessageBox&>(box).textFormat(), Qt::PlainText);
     QTest::keyClick(&box, Qt::Key_Escape);
   });
   modMsgBoxPlus::MsgBoxPlus(nullptr, 0, {}, QStringLiteral("<b>walk</b>.gcd"), 0,
@@ -97,7 +101,7 @@ TEST(MsgBoxPlus, TakesTextAsItStandsAndNotAsMarkup) {
 }
 
 TEST(MsgBoxPlus, EnterPressesTheFirstButtonUnlessTheStyleNamesAnother) {
-  const std::pair<int, const char16_t*> cases[] = {{0, u"One"}, {256, u"Two"}, {512, u"Three"}};
+  const std::map<int, const char16_t*> cases = {{0, u"One"}, {256, u"Two"}, {512, u"Three"}};
   for (const auto& [style, answer] : cases) {
     Boxes boxes;
     boxes.Expect([](QDialog& box) { QTest::keyClick(box.focusWidget(), Qt::Key_Return); });
@@ -177,10 +181,9 @@ TEST(MsgBoxPlus, SetsWithoutCancelIgnoreTheTimeOut) {
   for (const int set : {modMsgBoxPlus::kAbortRetryIgnore, modMsgBoxPlus::kYesNo}) {
     Boxes boxes;
     boxes.Expect([](QDialog& box) {
-      QTimer::singleShot(200, &box, [&box] {
-        EXPECT_TRUE(box.isVisible());
-        QTest::mouseClick(box.findChildren<QPushButton*>().first(), Qt::LeftButton);
-      });
+      QTest::qWait(200);
+      EXPECT_TRUE(box.isVisible());
+      QTest::mouseClick(box.findChildren<QPushButton*>().first(), Qt::LeftButton);
     });
     EXPECT_NE(Ask(set, 50), QStringLiteral("TimedOut")) << "set " << set;
   }

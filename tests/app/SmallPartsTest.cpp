@@ -1,5 +1,6 @@
 // The parts of the form that can be looked at without it.
 
+#include <array>
 #include <filesystem>
 #include <fstream>
 
@@ -14,19 +15,21 @@
 #include "app/OutputPane.h"
 #include "app/Screens.h"
 #include "tests/TestTrials.h"
+#include "tests/app/ConfigFolder.h"
 
 namespace {
 
+using tests::ConfigFolder;
 using tests::TemporaryFolder;
 
 TEST(CommandLine, SeveralArgumentsAreOnePathJoinedByBlanks) {
-  const char* const argv[] = {"vantrel", "/data/left", "foot", "walk.c3d"};
-  EXPECT_EQ(app::JoinedArguments(4, argv), "/data/left foot walk.c3d");
+  const std::array argv = {"vantrel", "/data/left", "foot", "walk.c3d"};
+  EXPECT_EQ(app::JoinedArguments(4, argv.data()), "/data/left foot walk.c3d");
 }
 
 TEST(CommandLine, WithoutArgumentsIsEmpty) {
-  const char* const argv[] = {"vantrel"};
-  EXPECT_EQ(app::JoinedArguments(1, argv), "");
+  const std::array argv = {"vantrel"};
+  EXPECT_EQ(app::JoinedArguments(1, argv.data()), "");
 }
 
 TEST(CommandLine, APathInDoubleQuotesLosesThem) {
@@ -55,16 +58,12 @@ TEST(FormPosition, CutsTowardsZeroWhereTheFormIsLargerThanTheScreen) {
 
 class DesktopFolder : public ::testing::Test {
  protected:
-  DesktopFolder() {
-    qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(folder_.Path().string()));
-  }
-  ~DesktopFolder() override { qunsetenv("XDG_CONFIG_HOME"); }
-
   void SystemNames(const std::string& folder) {
     std::ofstream(folder_ / "user-dirs.dirs") << "XDG_DESKTOP_DIR=\"" << folder << "\"\n";
   }
 
   TemporaryFolder folder_;
+  ConfigFolder config_{folder_.Path().string()};
 };
 
 TEST_F(DesktopFolder, IsTheOneOfTheSystemWithASlashAtItsEnd) {

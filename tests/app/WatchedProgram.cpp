@@ -51,9 +51,8 @@ void ActAsUser() {
     return;
   }
   auto* button = pane->window()->findChild<QPushButton*>(clicks.takeFirst());
-  // From the event loop, for a timer does not fire again while it is served.
-  QMetaObject::invokeMethod(
-      button, [button] { QTest::mouseClick(button, Qt::LeftButton); }, Qt::QueuedConnection);
+  // Pressed from the event loop, for a timer does not fire again while it is served.
+  button->animateClick();
 }
 
 void StartWatching() {
