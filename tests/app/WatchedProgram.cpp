@@ -42,6 +42,8 @@ void ActAsUser() {
     if (auto* box = qobject_cast<QMessageBox*>(modal)) AnswerBox(*box);
     return;
   }
+  static QPushButton* pressed = nullptr;
+  if (pressed != nullptr && pressed->isDown()) return;
   app::OutputPane* pane = Pane();
   if (pane == nullptr || !pane->window()->isVisible()) return;
   if (clicks.isEmpty()) {
@@ -50,9 +52,9 @@ void ActAsUser() {
     pane->window()->close();
     return;
   }
-  auto* button = pane->window()->findChild<QPushButton*>(clicks.takeFirst());
+  pressed = pane->window()->findChild<QPushButton*>(clicks.takeFirst());
   // Pressed from the event loop, for a timer does not fire again while it is served.
-  button->animateClick();
+  pressed->animateClick();
 }
 
 void StartWatching() {
