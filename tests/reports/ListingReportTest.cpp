@@ -2,6 +2,7 @@
 #include <cmath>
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -187,25 +188,30 @@ TEST(AnalogListing, ChannelAboveAFractionalCountIsAnIndexError) {
             kSubscriptOutOfRange);
 }
 
-struct Refusal {
+struct Request {
   Listing Report;
-  std::string Label;
-  std::string Text;
+  std::string_view Label;
+};
+
+struct Refusal {
+  Request Asked;
+  std::string_view Text;
 };
 
 TEST(Listings, UnknownLabelIsRejectedBeforeThePaneIsCleared) {
   OpenedTrial trial(OneChannel(2, 2));
   const std::vector<Refusal> refusals = {
-      {reports::ShowPointData, "LHEE", "point label not found"},
-      {reports::ShowPointData, "Fz", "point label not found"},
-      {reports::ShowPointData, "", "point label not found"},
-      {reports::ShowPointDataWithEvents, "LHEE", "point label not found"},
-      {reports::ShowAnalogData, "LTOE", "analog label not found"},
-      {reports::ShowAnalogData, "", "analog label not found"},
-      {reports::ShowAnalogDataWithEvents, "Fx", "analog label not found"}};
+      {{reports::ShowPointData, "LHEE"}, "point label not found"},
+      {{reports::ShowPointData, "Fz"}, "point label not found"},
+      {{reports::ShowPointData, ""}, "point label not found"},
+      {{reports::ShowPointDataWithEvents, "LHEE"}, "point label not found"},
+      {{reports::ShowAnalogData, "LTOE"}, "analog label not found"},
+      {{reports::ShowAnalogData, ""}, "analog label not found"},
+      {{reports::ShowAnalogDataWithEvents, "Fx"}, "analog label not found"}};
   for (const Refusal& refusal : refusals) {
     modAllPurpose::TextReport output;
-    EXPECT_EQ(refusal.Report(trial.State(), refusal.Label, output).Text(), refusal.Text);
+    EXPECT_EQ(refusal.Asked.Report(trial.State(), refusal.Asked.Label, output).Text(),
+              refusal.Text);
     EXPECT_FALSE(output.Begun());
     EXPECT_EQ(output.Text(), "");
   }
@@ -221,11 +227,10 @@ TEST(Listings, EmptyLabelIsListedWhereOneIsStored) {
 TEST(Listings, EventOutsideTheFramesIsAnIndexError) {
   OpenedTrial trial(OneChannel(2, 2));
   AddEventOnFrame(trial.State(), {3, kSideRight, kTypeFootStrike});
-  for (const auto& [listing, label] :
-       {std::pair<Listing, std::string>{reports::ShowPointDataWithEvents, "LTOE"},
-        std::pair<Listing, std::string>{reports::ShowAnalogDataWithEvents, "Fz"}}) {
+  for (const Request& request : {Request{reports::ShowPointDataWithEvents, "LTOE"},
+                                 Request{reports::ShowAnalogDataWithEvents, "Fz"}}) {
     modAllPurpose::TextReport output;
-    EXPECT_EQ(ErrorNumberOf([&] { (void)listing(trial.State(), label, output); }),
+    EXPECT_EQ(ErrorNumberOf([&] { (void)request.Report(trial.State(), request.Label, output); }),
               kSubscriptOutOfRange);
     EXPECT_TRUE(output.Begun()) << "the pane is cleared before the data are read";
     EXPECT_EQ(output.Text(), "");
@@ -236,11 +241,10 @@ TEST(Listings, CutTrialIsAnError) {
   const sample::Trial whole = OneChannel(2, 2).Build();
   sample::Trial cut = whole;
   OpenedTrial trial(cut.TruncateTo(whole.Size() - 30));
-  for (const auto& [listing, label] :
-       {std::pair<Listing, std::string>{reports::ShowPointData, "LTOE"},
-        std::pair<Listing, std::string>{reports::ShowAnalogData, "Fz"}}) {
+  for (const Request& request :
+       {Request{reports::ShowPointData, "LTOE"}, Request{reports::ShowAnalogData, "Fz"}}) {
     modAllPurpose::TextReport output;
-    EXPECT_EQ(ErrorNumberOf([&] { (void)listing(trial.State(), label, output); }),
+    EXPECT_EQ(ErrorNumberOf([&] { (void)request.Report(trial.State(), request.Label, output); }),
               kInputPastEndOfFile);
   }
 }
