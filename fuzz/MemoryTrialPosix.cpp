@@ -1,9 +1,9 @@
-#include "fuzz/MemoryTrial.h"
-
 #include <cerrno>
 #include <sys/mman.h>
 #include <system_error>
 #include <unistd.h>
+
+#include "fuzz/MemoryTrial.h"
 
 namespace fuzz {
 
