@@ -23,7 +23,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QTimer>
 
 #include "app/OutputPane.h"
 #include "app/Startup.h"
@@ -77,7 +76,7 @@ class UntilPainted : public QObject {
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() == QEvent::Paint && watched->objectName() == QStringLiteral("frmVantrel")) {
-      QTimer::singleShot(0, qApp, [] { QApplication::exit(0); });
+      QMetaObject::invokeMethod(qApp, "quit", Qt::QueuedConnection);  // the controls come first
     }
     return false;
   }
