@@ -10,7 +10,8 @@ namespace cli {
 // came elsewhere.
 std::vector<std::string> Arguments(int argc, char* argv[]);
 
-// Lets standard output take bytes as they are, and failed writes come back as errors.
+// Lets standard output and standard error take bytes as they are, and failed writes come back as
+// errors.
 void PrepareOutput();
 
 // Whether the write to standard output that has just failed did so because nobody reads it any

@@ -35,6 +35,7 @@ std::vector<std::string> Arguments(int /*argc*/, char* /*argv*/[]) {
 
 void PrepareOutput() {
   ::_setmode(::_fileno(stdout), _O_BINARY);
+  ::_setmode(::_fileno(stderr), _O_BINARY);
   ::SetConsoleOutputCP(CP_UTF8);
 }
 

@@ -1,6 +1,7 @@
 #include "gait/GcdCommand.h"
 
 #include <cstddef>
+#include <filesystem>
 
 #include <fmt/format.h>
 
@@ -65,8 +66,12 @@ std::string GcdFileName(const std::string& trial, const StrideRecord& stride,
   std::string name = fmt::format("{}-{}{}.gcd", modAllPurpose::WithoutExtension(trial),
                                  SideName(stride.Side).front(), stride.Number);
   if (outputFolder.empty()) return name;
+  // Windows takes two separators; the folder goes on with the one that it is written with.
+  constexpr char kSeparator = std::filesystem::path::preferred_separator;
+  const bool ended = outputFolder.back() == '/' || outputFolder.back() == kSeparator;
+  const char separator = outputFolder.find(kSeparator) == std::string::npos ? '/' : kSeparator;
   const auto fileName = modAllPurpose::NativePath(name).filename();
-  return modAllPurpose::Utf8Path(modAllPurpose::NativePath(outputFolder) / fileName);
+  return (ended ? outputFolder : outputFolder + separator) + modAllPurpose::Utf8Path(fileName);
 }
 
 ReportResult WriteGcdFiles(const FileState& state, const GcdOptions& options,

@@ -30,6 +30,7 @@ bool IsRegularFile(HANDLE handle) {
 
 void RandomAccessFile::Open(const std::string& path) {
   Close();
+  if (path.empty()) throw RuntimeError(ErrorNumber::FileNotFound);
   // Others may go on writing to the file, or delete it. Only with the backup flag is a folder
   // opened at all, and then refused as one.
   const HANDLE handle = ::CreateFileW(NativePath(path).c_str(), GENERIC_READ,

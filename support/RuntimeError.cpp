@@ -67,6 +67,13 @@ RuntimeError FileErrorFromErrno(int systemError) {
 }
 
 RuntimeError FileErrorFromCode(const std::error_code& failure) {
+#ifdef _WIN32
+  // The library takes a missing folder for a missing file.
+  constexpr int kErrorPathNotFound = 3;
+  if (failure == std::error_code(kErrorPathNotFound, std::system_category())) {
+    return RuntimeError(ErrorNumber::PathNotFound);
+  }
+#endif
   return FileErrorFromErrno(failure.default_error_condition().value());
 }
 

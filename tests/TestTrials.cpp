@@ -4,6 +4,11 @@
 #include <iterator>
 #include <random>
 #include <sstream>
+#include <system_error>
+
+#include <fmt/format.h>
+
+#include "support/FileSystem.h"
 
 namespace tests {
 
@@ -20,6 +25,10 @@ TemporaryFolder::~TemporaryFolder() {
   std::filesystem::remove_all(path_, ignored);
 }
 
+std::filesystem::path TemporaryFolder::operator/(const std::string& name) const {
+  return path_ / modAllPurpose::NativePath(name);
+}
+
 OpenedTrial::OpenedTrial(const sample::Trial& trial) : file_(folder_ / "trial.c3d") {
   trial.WriteTo(file_);
   result_ = modVantrel::OpenC3dFile(state_, file_.string(), NoEvents);
@@ -30,8 +39,17 @@ modVantrel::OpenResult TrialOpener::Open(const sample::Trial& trial) {
   return modVantrel::OpenC3dFile(state_, file_.string(), NoEvents);
 }
 
+void TakeAway(const std::filesystem::path& path) {
+  static int taken = 0;
+  std::filesystem::path aside = path;
+  aside += fmt::format(".{}", ++taken);
+  std::error_code failure;
+  std::filesystem::rename(path, aside, failure);
+  if (!failure) std::filesystem::remove(aside);
+}
+
 void WriteAnew(const sample::Trial& trial, const std::filesystem::path& path) {
-  std::filesystem::remove(path);
+  TakeAway(path);
   trial.WriteTo(path);
 }
 

@@ -23,7 +23,8 @@ class TemporaryFolder {
   ~TemporaryFolder();
 
   const std::filesystem::path& Path() const { return path_; }
-  std::filesystem::path operator/(const std::string& name) const { return path_ / name; }
+  // The path of `name` (UTF-8) in it.
+  std::filesystem::path operator/(const std::string& name) const;
 
  private:
   std::filesystem::path path_;
@@ -90,6 +91,10 @@ inline constexpr std::int32_t kReserved4 = 469;
 inline constexpr std::int32_t kSectionPosition = 513;
 inline constexpr std::int32_t kProcessorPosition = 516;
 inline constexpr std::int32_t kFirstRecordPosition = 517;
+
+// Deletes the file at `path`, if there is one, so that its name is free at once. Windows keeps the
+// name of a deleted file taken as long as the file is open, so it gets another one first.
+void TakeAway(const std::filesystem::path& path);
 
 // Writes `trial` to a new file in place of the one at `path`. Some file systems wait for the disk
 // when a file's content is replaced, which adds up in tests that write thousands.

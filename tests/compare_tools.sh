@@ -21,12 +21,11 @@ complain() {
   failed=$((failed + 1))
 }
 
-# run TOOL NAME ARGUMENT...: leaves NAME.out, NAME.err (lines ended by LF) and NAME.status in $work.
+# run TOOL NAME ARGUMENT...: leaves NAME.out, NAME.err and NAME.status in $work.
 run() {
   local tool=$1 name=$2 status=0
   shift 2
-  "$tool" "$@" >"$work/$name.out" 2>"$work/$name.raw" || status=$?
-  tr -d '\r' <"$work/$name.raw" >"$work/$name.err"
+  "$tool" "$@" >"$work/$name.out" 2>"$work/$name.err" || status=$?
   echo "$status" >"$work/$name.status"
 }
 
@@ -43,16 +42,21 @@ same() {
   done
 }
 
-# same_files ARGUMENT...: both tools write the same GCD files, one at least.
+# same_files ARGUMENT...: both tools write the same GCD files, one at least, and print the same.
 same_files() {
-  mkdir "$work/ä one" "$work/ä other"
-  run "$one" one --output-dir "$work/ä one" "$@" gcd "$file"
-  run "$other" other --output-dir "$work/ä other" "$@" gcd "$file"
+  local name
+  for name in one other; do
+    mkdir "$work/ä out"
+    run "${!name}" "$name" --output-dir "$work/ä out" "$@" gcd "$file"
+    mv "$work/ä out" "$work/$name files"
+  done
   compared=$((compared + 1))
-  cmp -s "$work/one.status" "$work/other.status" || complain "status: gcd $*"
-  compgen -G "$work/ä one/*.gcd" >/dev/null || complain "no GCD files: $*"
-  diff -r "$work/ä one" "$work/ä other" || complain "GCD files: $*"
-  rm -r "$work/ä one" "$work/ä other"
+  for part in out err status; do
+    cmp -s "$work/one.$part" "$work/other.$part" || complain "$part: gcd $*"
+  done
+  compgen -G "$work/one files/*.gcd" >/dev/null || complain "no GCD files: $*"
+  diff -r "$work/one files" "$work/other files" || complain "GCD files: $*"
+  rm -r "$work/one files" "$work/other files"
 }
 
 # quiet_when_closed TOOL: a report longer than a pipe holds, of which one line is read.

@@ -181,8 +181,9 @@ TEST(MacEventLines, CodeWithoutALineIsEmpty) {
 }
 
 TEST(MacEventLines, MissingEventFileIsAnError) {
+  const tests::TemporaryFolder folder;
   FileState state;
-  state.EvtFileSpec = "/nowhere/walk.evt";
+  state.EvtFileSpec = (folder / "walk.evt").string();
   EXPECT_EQ(ErrorNumberOf([&] { ReadMacEventLines(state); }), kFileNotFound);
 }
 

@@ -35,7 +35,7 @@ class ParamRecordTest : public testing::Test {
  protected:
   void Given(const Bytes& bytes) {
     const std::filesystem::path path = folder_ / "records";
-    std::filesystem::remove(path);
+    tests::TakeAway(path);
     std::ofstream(path, std::ios::binary) << std::string(bytes.begin(), bytes.end());
     state_.C3dFileNumber.Open(path.string());
     state_.SeekPtrForFirstC3dParam = 1;

@@ -14,6 +14,14 @@ std::atomic<std::size_t> taken{0};
 std::atomic<std::size_t> peak{0};
 std::atomic<std::size_t> start{0};
 
+std::size_t SizeOf(void* memory) {
+#ifdef _WIN32
+  return ::_msize(memory);
+#else
+  return ::malloc_usable_size(memory);
+#endif
+}
+
 }  // namespace
 
 void AllocationMeter::Reset() {
@@ -26,13 +34,13 @@ std::size_t AllocationMeter::Peak() { return peak - start; }
 void* Take(std::size_t size) {
   void* memory = std::malloc(size);
   if (memory == nullptr) throw std::bad_alloc();
-  taken += ::malloc_usable_size(memory);
+  taken += SizeOf(memory);
   peak = std::max(peak.load(), taken.load());
   return memory;
 }
 
 void GiveBack(void* memory) noexcept {
-  if (memory != nullptr) taken -= ::malloc_usable_size(memory);
+  if (memory != nullptr) taken -= SizeOf(memory);
   std::free(memory);
 }
 

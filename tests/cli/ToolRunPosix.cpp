@@ -1,5 +1,3 @@
-#include "tests/cli/ToolRun.h"
-
 #include <array>
 #include <fcntl.h>
 #include <stdexcept>
@@ -8,6 +6,7 @@
 #include <unistd.h>
 
 #include "tests/TestTrials.h"
+#include "tests/cli/ToolRun.h"
 
 namespace tests {
 
