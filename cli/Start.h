@@ -10,6 +10,11 @@ namespace cli {
 // came elsewhere.
 std::vector<std::string> Arguments(int argc, char* argv[]);
 
+// `files` with each one that holds a wildcard, "*" or "?" in its name, replaced by the files that
+// it stands for, in order; one that stands for none stays. Only Windows shells leave that to a
+// program: elsewhere all files come back as they are.
+std::vector<std::string> WithoutWildcards(const std::vector<std::string>& files);
+
 // Lets standard output and standard error take bytes as they are, and failed writes come back as
 // errors.
 void PrepareOutput();

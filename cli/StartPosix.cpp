@@ -7,6 +7,8 @@ namespace cli {
 
 std::vector<std::string> Arguments(int argc, char* argv[]) { return {argv + 1, argv + argc}; }
 
+std::vector<std::string> WithoutWildcards(const std::vector<std::string>& files) { return files; }
+
 void PrepareOutput() {
   // A closed pipe is met as a failed write, so that the tool ends in its own way.
   std::signal(SIGPIPE, SIG_IGN);

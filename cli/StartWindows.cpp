@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
@@ -6,6 +7,7 @@
 #include <windows.h>
 
 #include "cli/Start.h"
+#include "support/FileSystem.h"
 
 namespace cli {
 
@@ -21,6 +23,22 @@ std::string Utf8(const wchar_t* text) {
   return utf8;
 }
 
+// The files whose names fit `pattern`, in the order of their names.
+std::vector<std::string> Matches(const std::string& pattern) {
+  std::vector<std::string> matches;
+  const std::string folder = pattern.substr(0, pattern.find_last_of("/\\:") + 1);
+  WIN32_FIND_DATAW found{};
+  const HANDLE search = ::FindFirstFileW(modAllPurpose::NativePath(pattern).c_str(), &found);
+  if (search == INVALID_HANDLE_VALUE) return matches;
+  do {
+    const bool isFolder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+    if (!isFolder) matches.push_back(folder + Utf8(&found.cFileName[0]));
+  } while (::FindNextFileW(search, &found) != 0);
+  ::FindClose(search);
+  std::ranges::sort(matches);
+  return matches;
+}
+
 }  // namespace
 
 // main's own arguments are in the code page of the system, which cannot name every file.
@@ -31,6 +49,17 @@ std::vector<std::string> Arguments(int /*argc*/, char* /*argv*/[]) {
   for (int k = 1; k < count; ++k) arguments.push_back(Utf8(words[k]));
   ::LocalFree(words);
   return arguments;
+}
+
+std::vector<std::string> WithoutWildcards(const std::vector<std::string>& files) {
+  std::vector<std::string> all;
+  for (const std::string& file : files) {
+    const bool isPattern = file.find_first_of("*?") != std::string::npos;
+    const auto matches = isPattern ? Matches(file) : std::vector<std::string>();
+    if (matches.empty()) all.push_back(file);
+    all.insert(all.end(), matches.begin(), matches.end());
+  }
+  return all;
 }
 
 void PrepareOutput() {

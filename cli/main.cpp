@@ -9,5 +9,7 @@ int main(int argc, char* argv[]) {
   cli::PrepareOutput();
   auto parsed = cli::ParseCommandLine(cli::Arguments(argc, argv));
   if (const int* status = std::get_if<int>(&parsed)) return *status;
-  return cli::RunReports(std::get<cli::Request>(std::move(parsed)));
+  auto request = std::get<cli::Request>(std::move(parsed));
+  request.Files = cli::WithoutWildcards(request.Files);
+  return cli::RunReports(request);
 }

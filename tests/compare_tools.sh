@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
 # Holds two builds of vantrel-report against each other:
-#   tests/compare_tools.sh TOOL OTHER-TOOL FILE.c3d
+#   tests/compare_tools.sh TOOL WINDOWS-TOOL FILE.c3d
 # Every report of FILE, from a folder with blanks and letters outside ASCII in its name, must have
 # the same characters and exit status from both, its GCD files the same bytes. An output that nobody
-# reads any more must end either quietly.
+# reads any more must end either quietly. Wildcards, which the shell resolves for the one, the other
+# must resolve itself.
 set -euo pipefail
 one=$(realpath -- "$1") other=$(realpath -- "$2") trial=$(realpath -- "$3")
 failed=0 compared=0
@@ -29,17 +30,23 @@ run() {
   echo "$status" >"$work/$name.status"
 }
 
+# same_output WHAT: what the last two runs printed, and their exit statuses.
+same_output() {
+  local part
+  compared=$((compared + 1))
+  for part in out err status; do
+    cmp -s "$work/one.$part" "$work/other.$part" || complain "$part: $1"
+  done
+}
+
 # same STATUS ARGUMENT...: both tools end with STATUS and print the same.
 same() {
   local status=$1
   shift
   run "$one" one "$@"
   run "$other" other "$@"
-  compared=$((compared + 1))
   [ "$(cat "$work/one.status")" = "$status" ] || complain "exit status, not $status: $*"
-  for part in out err status; do
-    cmp -s "$work/one.$part" "$work/other.$part" || complain "$part: $*"
-  done
+  same_output "$*"
 }
 
 # same_files ARGUMENT...: both tools write the same GCD files, one at least, and print the same.
@@ -50,10 +57,7 @@ same_files() {
     run "${!name}" "$name" --output-dir "$work/ä out" "$@" gcd "$file"
     mv "$work/ä out" "$work/$name files"
   done
-  compared=$((compared + 1))
-  for part in out err status; do
-    cmp -s "$work/one.$part" "$work/other.$part" || complain "$part: gcd $*"
-  done
+  same_output "gcd $*"
   compgen -G "$work/one files/*.gcd" >/dev/null || complain "no GCD files: $*"
   diff -r "$work/one files" "$work/other files" || complain "GCD files: $*"
   rm -r "$work/one files" "$work/other files"
@@ -72,6 +76,14 @@ quiet_when_closed() {
   compared=$((compared + 1))
   [ "$(cat "$work/closed.status")" = 0 ] || complain "exit status with a closed pipe: $tool"
   [ ! -s "$work/closed.err" ] || complain "a message with a closed pipe: $tool"
+}
+
+# same_wildcard FOLDER: the files that "*.c3d" stands for in FOLDER, which ends with a slash.
+same_wildcard() {
+  run "$one" one groups "$1"*.c3d
+  run "$other" other groups "$1*.c3d"
+  [ "$(grep -c '^==> ' "$work/other.out")" = 2 ] || complain "not two files: $1*.c3d"
+  same_output "$1*.c3d"
 }
 
 point=$("$one" labels "$file" | sed -n 's/^001  //p')
@@ -95,6 +107,10 @@ same 1 header .
 same 2 --label x 'nö report' "$file"
 same_files
 same_files --gender Weiblich-ä --date-of-birth 1990-02-28 --visit-date 2026-11-20
+cp -- "$file" 'Gang 2 ö.c3d'
+same_wildcard ''
+same_wildcard "$folder/"
+same 1 groups '*.d3c'
 quiet_when_closed "$one"
 quiet_when_closed "$other"
 
