@@ -66,7 +66,7 @@ void FindBar::Open() {
   lblFindResult_->hide();
   show();
   raise();
-  MoveToCorner();
+  TakePlace();
   txtFind_->setFocus();
   txtFind_->selectAll();
 }
@@ -86,18 +86,25 @@ void FindBar::Find(bool forward) {
       pane_->Find({wanted.constData(), static_cast<std::size_t>(wanted.size())}, forward);
   lblFindResult_->setText(tr("not found"));
   lblFindResult_->setVisible(!found);
-  MoveToCorner();
+  TakePlace();
 }
 
-void FindBar::MoveToCorner() {
+void FindBar::TakePlace() {
   adjustSize();
   const QRect inside = pane_->viewport()->geometry();
-  move(inside.right() + 1 - width(), inside.top());
+  const QPoint upperCorner(inside.right() + 1 - width(), inside.top());
+  const QPoint lowerCorner(upperCorner.x(), inside.bottom() + 1 - height());
+  const QRect selected = pane_->SelectionPlace().translated(inside.topLeft());
+  move(QRect(upperCorner, size()).intersects(selected) ? lowerCorner : upperCorner);
 }
 
 bool FindBar::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == pane_ && event->type() == QEvent::Resize && isVisible()) MoveToCorner();
-  return QFrame::eventFilter(watched, event);
+  if (watched != pane_ || !isVisible()) return QFrame::eventFilter(watched, event);
+  if (event->type() == QEvent::Resize) TakePlace();
+  const auto* key = event->type() == QEvent::KeyPress ? dynamic_cast<QKeyEvent*>(event) : nullptr;
+  if (key == nullptr || key->key() != Qt::Key_Escape) return QFrame::eventFilter(watched, event);
+  Close();
+  return true;
 }
 
 void FindBar::keyPressEvent(QKeyEvent* event) {

@@ -10,7 +10,8 @@ namespace app {
 class OutputPane;
 
 // The bar for searching the output pane. It lies over the pane's upper right corner, so it moves
-// nothing, and is hidden until it is asked for.
+// nothing, or over the lower one where it would hide what was found; it is hidden until it is asked
+// for.
 class FindBar : public QFrame {
   Q_OBJECT
 
@@ -30,7 +31,7 @@ class FindBar : public QFrame {
 
  private:
   void Find(bool forward);
-  void MoveToCorner();
+  void TakePlace();
 
   OutputPane* pane_;
   QLineEdit* txtFind_;

@@ -79,6 +79,9 @@ OutputPane::OutputPane(QWidget* parent) : QsciScintilla(parent) {
   setAcceptDrops(false);  // a file dropped here is for the form
   viewport()->setAcceptDrops(false);
   SendScintilla(SCI_SETUNDOCOLLECTION, 0UL);
+  // The editor would tell screen readers of every change a second time, and hand over whole
+  // listings.
+  SendScintilla(SCI_SETMODEVENTMASK, 0UL);
   SendScintilla(SCI_SETRECTANGULARSELECTIONMODIFIER, static_cast<unsigned long>(SCMOD_CTRL));
   SendScintilla(SCI_STYLESETFONT, kDefaultStyle, PaneFontFamily().toUtf8().constData());
   SendScintilla(SCI_STYLESETSIZE, kDefaultStyle, long{kFontSize});
@@ -88,6 +91,7 @@ OutputPane::OutputPane(QWidget* parent) : QsciScintilla(parent) {
   });
   OutputPaneReader::Install();
   TakeColours();
+  SetScrollWidth();
 }
 
 void OutputPane::TakeColours() {
@@ -132,6 +136,7 @@ void OutputPane::SetScrollWidth() {
 }
 
 void OutputPane::ReplaceText(std::string_view text) {
+  OutputPaneReader::TextWillBeCleared(*this);
   {
     const Writable writable(*this);
     SendScintilla(SCI_CLEARALL);
@@ -187,6 +192,20 @@ bool OutputPane::Find(std::string_view text, bool forward) {
   }
   // A target that runs backwards is searched backwards.
   return FindBetween(text, SendScintilla(SCI_GETSELECTIONSTART), 0L) || FindBetween(text, end, 0);
+}
+
+QRect OutputPane::SelectionPlace() const {
+  if (!hasSelectedText()) return {};
+  const auto at = [this](unsigned message, long position) {
+    return static_cast<int>(SendScintilla(message, 0UL, position));
+  };
+  const long start = SendScintilla(SCI_GETSELECTIONSTART);
+  const long line = SendScintilla(SCI_LINEFROMPOSITION, static_cast<unsigned long>(start), 0L);
+  const long end =
+      std::min(SendScintilla(SCI_GETSELECTIONEND),
+               SendScintilla(SCI_GETLINEENDPOSITION, static_cast<unsigned long>(line)));
+  const QPoint corner(at(SCI_POINTXFROMPOSITION, start), at(SCI_POINTYFROMPOSITION, start));
+  return {corner, QSize(at(SCI_POINTXFROMPOSITION, end) - corner.x(), textHeight(0))};
 }
 
 void OutputPane::keyPressEvent(QKeyEvent* event) {

@@ -33,6 +33,10 @@ class OutputPane : public QsciScintilla {
   // stays.
   bool Find(std::string_view text, bool forward);
 
+  // Where the selection is seen, from its start to its end or to the end of the first line, in the
+  // coordinates of the viewport; empty without a selection.
+  QRect SelectionPlace() const;
+
   // Positions count bytes, offsets UTF-16 units, both from 0. One outside the text stands for its
   // nearest end.
   int OffsetOf(long position) const;

@@ -6,6 +6,8 @@ namespace app {
 
 namespace {
 
+constexpr long kLongestHandedOver = 65'536;  // bytes
+
 QAccessibleInterface* MakeReader(const QString& /*className*/, QObject* object) {
   auto* pane = qobject_cast<OutputPane*>(object);
   return pane == nullptr ? nullptr : new OutputPaneReader(pane);
@@ -25,9 +27,16 @@ void OutputPaneReader::Install() {
 }
 
 void OutputPaneReader::TextWasAppended(OutputPane& pane, long position) {
-  if (!QAccessible::isActive()) return;
+  if (!QAccessible::isActive() || pane.length() - position > kLongestHandedOver) return;
   const QString text = pane.TextBetween(position, pane.length());
   QAccessibleTextInsertEvent event(&pane, pane.OffsetOf(position), text);
+  QAccessible::updateAccessibility(&event);
+}
+
+void OutputPaneReader::TextWillBeCleared(OutputPane& pane) {
+  if (!QAccessible::isActive() || pane.length() == 0) return;
+  if (pane.length() > kLongestHandedOver) return;
+  QAccessibleTextRemoveEvent event(&pane, 0, pane.TextBetween(0, pane.length()));
   QAccessible::updateAccessibility(&event);
 }
 

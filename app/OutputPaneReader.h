@@ -20,8 +20,10 @@ class OutputPaneReader : public QAccessibleWidget, public QAccessibleTextInterfa
   static void Install();
 
   // Tells a screen reader, where one is running, of the text that now stands from that position in
-  // bytes to the end, or that the caret or the selection moved.
+  // bytes to the end, that all text is about to go, or that the caret or the selection moved. A
+  // text too long to be read out is not handed over; that the caret moved then says enough.
   static void TextWasAppended(OutputPane& pane, long position);
+  static void TextWillBeCleared(OutputPane& pane);
   static void SelectionWasMoved(OutputPane& pane);
 
   QAccessible::State state() const override;

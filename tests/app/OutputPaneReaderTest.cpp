@@ -2,6 +2,9 @@
 
 #include <QAccessible>
 #include <QTest>
+#include <QtGui/private/qguiapplication_p.h>
+#include <qpa/qplatformaccessibility.h>
+#include <qpa/qplatformintegration.h>
 
 #include "app/OutputPane.h"
 #include "tests/app/FormFixture.h"
@@ -91,6 +94,62 @@ TEST_F(PaneReader, ACharacterIsFoundAtItsPlaceOnTheScreen) {
   EXPECT_FALSE(place.isEmpty());
   EXPECT_EQ(Text()->offsetAtPoint(QPoint(place.left() + 1, place.center().y())), 5);
   EXPECT_EQ(Text()->offsetAtPoint(place.center() + QPoint(0, 300)), -1);
+}
+
+// Listens in place of a screen reader.
+class PaneReaderEvents : public PaneReader {
+ protected:
+  PaneReaderEvents() {
+    Activate(true);
+    before_ = QAccessible::installUpdateHandler(Note);
+    Notes().clear();
+  }
+  ~PaneReaderEvents() override {
+    QAccessible::installUpdateHandler(before_);
+    Activate(false);
+  }
+
+  // The texts that came and went so far.
+  static QStringList& Notes() {
+    static QStringList notes;
+    return notes;
+  }
+
+ private:
+  static void Activate(bool active) {
+    QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(active);
+  }
+
+  static void Note(QAccessibleEvent* event) {
+    if (const auto* inserted = dynamic_cast<QAccessibleTextInsertEvent*>(event)) {
+      Notes()
+          << QStringLiteral("+%1:%2").arg(inserted->changePosition()).arg(inserted->textInserted());
+    }
+    if (const auto* removed = dynamic_cast<QAccessibleTextRemoveEvent*>(event)) {
+      Notes()
+          << QStringLiteral("-%1:%2").arg(removed->changePosition()).arg(removed->textRemoved());
+    }
+  }
+
+  QAccessible::UpdateHandler before_ = nullptr;
+};
+
+TEST_F(PaneReaderEvents, TellOfTextsThatComeAndGo) {
+  Pane()->Append("\xC3\xBC\n");
+  Pane()->Append("two\n");
+  Pane()->ReplaceText("three");
+  Pane()->Empty();
+  EXPECT_EQ(Notes(), QStringList({QStringLiteral("+0:\u00FC\n"), QStringLiteral("+2:two\n"),
+                                  QStringLiteral("-0:\u00FC\ntwo\n"), QStringLiteral("+0:three"),
+                                  QStringLiteral("-0:three")}));
+}
+
+TEST_F(PaneReaderEvents, DoNotHandOverAListing) {
+  const std::string listing(100'000, 'x');
+  Pane()->Append(listing);
+  Pane()->Empty();
+  EXPECT_EQ(Notes(), QStringList());
+  EXPECT_EQ(Text()->characterCount(), 0);
 }
 
 }  // namespace

@@ -113,6 +113,13 @@ TEST_F(OutputPane, PageDownAfterAReportMovesOnFromWhatIsSeen) {
   EXPECT_GT(Pane()->firstVisibleLine(), 900);
 }
 
+TEST_F(OutputPane, HasNoScrollBarsWhileItIsEmpty) {
+  Start();
+  QApplication::processEvents();
+  EXPECT_FALSE(Pane()->horizontalScrollBar()->isVisible());
+  EXPECT_EQ(Pane()->horizontalScrollBar()->maximum(), 0);
+}
+
 TEST_F(OutputPane, LongLinesAreNotWrappedAndCanBeScrolledTo) {
   Start();
   Pane()->Append(std::string(300, 'x') + "\nshort\n");
@@ -218,6 +225,36 @@ TEST_F(Find, EscapeClosesTheBarAndGoesBackToThePane) {
   QTest::keyClick(Wanted(), Qt::Key_Escape);
   EXPECT_FALSE(Bar()->isVisible());
   EXPECT_TRUE(Pane()->hasFocus());
+}
+
+TEST_F(Find, EscapeClosesTheBarFromThePaneToo) {
+  StartWith("text");
+  Pane()->setFocus();
+  QTest::keyClick(Pane(), Qt::Key_Escape);
+  EXPECT_FALSE(Bar()->isVisible());
+  EXPECT_TRUE(Pane()->hasFocus());
+}
+
+TEST_F(Find, TheBarNeverLiesOverWhatWasFound) {
+  // At the end of a line as wide as the pane, first on the first line, then far below.
+  const std::string wide(80, '.');
+  std::string text = wide + "toe\n";
+  for (int i = 0; i < 300; ++i) text += wide + "\n";
+  text += wide + "toe\n";
+  StartWith((text + text).c_str());
+  QTest::keyClicks(Wanted(), QStringLiteral("toe"));
+  int besideTheTop = 0;
+  for (int i = 0; i < 4; ++i) {
+    QTest::keyClick(Wanted(), Qt::Key_Return);
+    ASSERT_EQ(Pane()->selectedText(), QStringLiteral("toe"));
+    const QRect view = Pane()->viewport()->geometry();
+    const QRect found = Pane()->SelectionPlace().translated(view.topLeft());
+    EXPECT_TRUE(view.contains(found)) << i;
+    EXPECT_FALSE(Bar()->geometry().intersects(found)) << i;
+    EXPECT_TRUE(view.contains(Bar()->geometry())) << i;
+    besideTheTop += Bar()->geometry().top() == view.top() ? 1 : 0;
+  }
+  EXPECT_LT(besideTheTop, 4) << "the first line lies under the upper corner";
 }
 
 TEST_F(Find, ASelectionWithinALineIsTakenOver) {
