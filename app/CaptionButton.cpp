@@ -5,6 +5,22 @@
 
 namespace app {
 
+namespace {
+
+// Frames the box of a check box where the colours are dark: common styles darken the ground for
+// that, which leaves nothing to be seen there.
+void OutlineInTheDark(QPainter& painter, const QRect& box, const QPalette& colours) {
+  constexpr int kDarkBelow = 128;
+  if (colours.color(QPalette::Window).lightness() >= kDarkBelow) return;
+  constexpr int kHalfSeen = 128;
+  QColor line = colours.color(QPalette::WindowText);
+  line.setAlpha(kHalfSeen);
+  painter.setPen(line);
+  painter.drawRect(box.adjusted(0, 0, -1, -1));
+}
+
+}  // namespace
+
 CaptionButton::CaptionButton(const QString& caption, QWidget* parent)
     : QPushButton(caption, parent) {
   setAutoDefault(true);
@@ -48,6 +64,8 @@ void CaptionCheckBox::paintEvent(QPaintEvent* /*event*/) {
   option.text.clear();
   option.state &= ~QStyle::State_HasFocus;  // drawn below, around the caption
   painter.drawControl(QStyle::CE_CheckBox, option);
+  OutlineInTheDark(painter, style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, this),
+                   palette());
   painter.drawItemText(CaptionArea(), kCheckBoxCaptionFlags, palette(), isEnabled(), text(),
                        QPalette::WindowText);
   if (hasFocus()) {

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include <QKeyEvent>
+#include <QMouseEvent>
 
 #include "app/QtText.h"
 
@@ -20,6 +21,7 @@ std::unique_ptr<QTreeWidgetItem> MakeItem(const reports::TreeNode& node) {
 
 NodeTree::NodeTree(QWidget* parent) : QTreeWidget(parent) {
   setColumnCount(1);
+  setHeaderLabel(QStringLiteral("Groups, Parameters, & Labels"));  // read out, not shown
   setHeaderHidden(true);
   setUniformRowHeights(true);
   connect(this, &QTreeWidget::itemClicked, this, &NodeTree::NodeClick);
@@ -41,6 +43,11 @@ void NodeTree::keyPressEvent(QKeyEvent* event) {
   const QTreeWidgetItem* before = currentItem();
   QTreeWidget::keyPressEvent(event);
   if (currentItem() != nullptr && currentItem() != before) emit NodeClick(currentItem());
+}
+
+void NodeTree::mouseDoubleClickEvent(QMouseEvent* event) {
+  // The toolkit takes any button for a double-click.
+  if (event->button() == Qt::LeftButton) QTreeWidget::mouseDoubleClickEvent(event);
 }
 
 std::int16_t NodeDepth(const QTreeWidgetItem* node) {

@@ -26,6 +26,7 @@ class NodeTree : public QTreeWidget {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
 };
 
 // How many ancestors a node has: 0 for a group, 1 for a parameter, 2 for a label.

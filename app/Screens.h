@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPoint>
+#include <QRect>
 #include <QSize>
 
 namespace app {
@@ -8,5 +9,10 @@ namespace app {
 // Where the top left corner of a form goes: centred from left to right and a third of the way down.
 // Halves and thirds are cut towards zero, also where the form is larger than the screen.
 QPoint FormPosition(QSize screen, QSize form);
+
+// The place nearest to that of `frame`, a window with its title bar, where it lies within
+// `available`, the part of the screen that no panel covers. A frame that is too large keeps its top
+// left corner, by which a window is moved.
+QPoint NearestPlaceInside(const QRect& available, const QRect& frame);
 
 }  // namespace app

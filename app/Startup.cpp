@@ -16,6 +16,15 @@ namespace app {
 
 namespace {
 
+// The icon of the desktop's theme, or the one that the program carries.
+QIcon ProgramIcon() {
+  QIcon carried;
+  for (const int size : {16, 32, 48, 64, 128, 256}) {
+    carried.addFile(QStringLiteral(":/icons/%1x%1/vantrel.png").arg(size));
+  }
+  return QIcon::fromTheme(QStringLiteral("vantrel"), carried);
+}
+
 // Whether this process may go on to show the form.
 bool Form_Initialize() {
   return modVantrel_PatchUp::DeployDependencies(
@@ -28,7 +37,7 @@ int RunVantrel(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("vantrel"));
   QApplication::setDesktopFileName(QStringLiteral("vantrel"));
-  QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("vantrel")));
+  QApplication::setWindowIcon(ProgramIcon());
   // The toolkit has taken its own options off the command line; the rest is the path of a file.
   const std::string commandLine = JoinedArguments(argc, argv);
   if (!Form_Initialize()) return 0;

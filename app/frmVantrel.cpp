@@ -1,6 +1,7 @@
 #include "app/frmVantrel.h"
 
 #include <new>
+#include <utility>
 
 #include <QCloseEvent>
 #include <QLineEdit>
@@ -13,6 +14,7 @@
 #include "app/CursorOverride.h"
 #include "app/DesktopFolder.h"
 #include "app/FindBar.h"
+#include "app/FormReader.h"
 #include "app/MessageBoxes.h"
 #include "app/NodeTree.h"
 #include "app/OpenFileDialog.h"
@@ -30,6 +32,7 @@ using modVantrel::OpenResult;
 
 frmVantrel::frmVantrel(modVantrel::FileState& state)
     : state_(state), controls_(LayOutForm(*this)), findBar_(new FindBar(controls_.txt)) {
+  FormReader::Install();
   setObjectName(QStringLiteral("frmVantrel"));
   setWindowTitle(QStringLiteral("Vantrel"));
   ConnectControls();
@@ -80,6 +83,18 @@ void frmVantrel::Form_Unload() {
   modAllPurpose::IgnoringErrors([this] { desktopCopy_.Close(); });
   if (!exitStatus_) exitStatus_ = 0;
   emit Unloaded(*exitStatus_);
+}
+
+bool frmVantrel::event(QEvent* event) {
+  if (event->type() == QEvent::WindowActivate && !std::exchange(wasActive_, true)) {
+    KeepFrameOnScreen();
+  }
+  return QWidget::event(event);
+}
+
+void frmVantrel::KeepFrameOnScreen() {
+  const QPoint place = NearestPlaceInside(screen()->availableGeometry(), frameGeometry());
+  if (place != pos()) move(place);
 }
 
 void frmVantrel::resizeEvent(QResizeEvent* event) {

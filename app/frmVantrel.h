@@ -40,9 +40,10 @@ class frmVantrel : public QWidget {
 
  signals:
   void Unloaded(int exitStatus);
-  void FileDropped(const QString& file);
+  void FileDropped(const std::string& file);
 
  protected:
+  bool event(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
@@ -69,6 +70,7 @@ class frmVantrel : public QWidget {
   void EndWithError(const modAllPurpose::RuntimeError& error);
   void Unload(int exitStatus);
 
+  void KeepFrameOnScreen();
   void Form_Resize();
   void Form_Unload();
 
@@ -114,6 +116,7 @@ class frmVantrel : public QWidget {
   std::string DesktopOutputPath_;
   std::string DialogFileSpec_;
   bool fileOpen_ = false;
+  bool wasActive_ = false;  // the window system has framed the form
   std::optional<DesignSizes> design_;
   std::optional<int> exitStatus_;
 };

@@ -17,10 +17,12 @@ namespace app {
 
 namespace {
 
-// The first file among what is dragged; empty where there is none.
-QString DraggedFile(const QMimeData* data) {
+// The path of the first file among what is dragged, byte for byte, since it need not be UTF-8;
+// empty where there is none.
+std::string DraggedFile(const QMimeData* data) {
   for (const QUrl& url : data->urls()) {
-    if (url.isLocalFile()) return url.toLocalFile();
+    if (!url.isLocalFile()) continue;
+    return QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()).toStdString();
   }
   return {};
 }
@@ -86,8 +88,7 @@ void frmVantrel::AcceptDrops() {
   // The other program waits for the end of the drop, so a message box must not keep it.
   connect(
       this, &frmVantrel::FileDropped, this,
-      [this](const QString& file) { Run([&] { OpenFile(file.toStdString()); }); },
-      Qt::QueuedConnection);
+      [this](const std::string& file) { Run([&] { OpenFile(file); }); }, Qt::QueuedConnection);
   for (QLineEdit* box : {controls_.txtGroup, controls_.txtParam, controls_.txtPointLabel,
                          controls_.txtAnalogLabel}) {
     box->installEventFilter(this);
@@ -98,7 +99,7 @@ bool frmVantrel::eventFilter(QObject* watched, QEvent* event) {
   // A text box takes dropped texts, but a file dropped on it is for the form. Entering and moving
   // are kinds of dropping to the toolkit.
   if (auto* drop = dynamic_cast<QDropEvent*>(event);
-      drop != nullptr && !DraggedFile(drop->mimeData()).isEmpty()) {
+      drop != nullptr && !DraggedFile(drop->mimeData()).empty()) {
     if (event->type() == QEvent::Drop) {
       dropEvent(drop);
     } else {
@@ -110,13 +111,13 @@ bool frmVantrel::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void frmVantrel::dragEnterEvent(QDragEnterEvent* event) {
-  if (!DraggedFile(event->mimeData()).isEmpty()) event->acceptProposedAction();
+  if (!DraggedFile(event->mimeData()).empty()) event->acceptProposedAction();
 }
 
 void frmVantrel::dropEvent(QDropEvent* event) {
-  const QString file = DraggedFile(event->mimeData());
+  const std::string file = DraggedFile(event->mimeData());
   // While a message box waits, the command behind it is not done yet.
-  if (file.isEmpty() || QApplication::activeModalWidget() != nullptr) return;
+  if (file.empty() || QApplication::activeModalWidget() != nullptr) return;
   event->acceptProposedAction();
   emit FileDropped(file);
 }

@@ -44,7 +44,9 @@ void FormTest::Drop(const std::string& path) { DropOn(form_, path); }
 
 void FormTest::DropOn(QWidget& target, const std::string& path) {
   QMimeData data;
-  data.setUrls({QUrl::fromLocalFile(QString::fromStdString(path))});
+  // Percent-encoded byte for byte, as file managers hand it over.
+  data.setUrls(
+      {QUrl::fromEncoded("file://" + QByteArray::fromStdString(path).toPercentEncoding("/"))});
   const QPoint place(3, 3);
   QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
   QApplication::sendEvent(&target, &enter);

@@ -3,6 +3,7 @@
 #include <array>
 #include <map>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QFontDatabase>
 #include <QLabel>
@@ -195,6 +196,56 @@ TEST_F(FormLayout, StandsInTheMiddleAndAThirdOfTheWayDownTheScreen) {
   form_.Form_Load({});
   const QRect screen = form_.screen()->geometry();
   EXPECT_EQ(form_.pos() - screen.topLeft(), app::FormPosition(screen.size(), app::kDesignSize));
+}
+
+TEST_F(FormLayout, IsAWindowToAScreenReader) {
+  Start();
+  QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(&form_);
+  EXPECT_EQ(reader->role(), QAccessible::Window);
+  EXPECT_EQ(reader->text(QAccessible::Name), QStringLiteral("Vantrel"));
+}
+
+TEST_F(FormLayout, TheHiddenHeaderOfTheTreeIsReadOutByItsLabel) {
+  EXPECT_EQ(Tree()->headerItem()->text(0), QStringLiteral("Groups, Parameters, & Labels"));
+}
+
+TEST_F(FormLayout, OnceShownKeepsItsSizeAndItsCornerOnTheScreen) {
+  Start();
+  QTest::qWait(50);
+  const QRect screen = form_.screen()->availableGeometry();
+  EXPECT_EQ(form_.size(), app::kDesignSize);
+  EXPECT_TRUE(screen.contains(form_.frameGeometry().topLeft()));
+}
+
+TEST(FrameOnScreen, StaysWhereItFits) {
+  EXPECT_EQ(app::NearestPlaceInside({0, 0, 1366, 768}, {93, 9, 1180, 740}), QPoint(93, 9));
+  EXPECT_EQ(app::NearestPlaceInside({0, 0, 1366, 768}, {186, 28, 1180, 740}), QPoint(186, 28));
+}
+
+TEST(FrameOnScreen, IsPushedBackOverTheEdgeThatItCrosses) {
+  EXPECT_EQ(app::NearestPlaceInside({0, 0, 1366, 768}, {190, 9, 1180, 768}), QPoint(186, 0));
+  EXPECT_EQ(app::NearestPlaceInside({1366, 30, 1366, 738}, {1300, 9, 700, 500}), QPoint(1366, 30));
+}
+
+TEST(FrameOnScreen, KeepsItsTitleBarInSightWhereItIsTooLarge) {
+  EXPECT_EQ(app::NearestPlaceInside({0, 40, 1366, 728}, {93, 9, 1180, 768}), QPoint(93, 40));
+  EXPECT_EQ(app::NearestPlaceInside({0, 0, 800, 600}, {-190, -46, 1180, 768}), QPoint(0, 0));
+}
+
+TEST_F(FormLayout, AnUntickedBoxIsSeenInDarkColours) {
+  const QPalette before = QApplication::palette();
+  QPalette dark(QColor(43, 43, 46), QColor(35, 35, 38));
+  dark.setColor(QPalette::Base, QColor(27, 27, 29));
+  QApplication::setPalette(dark);
+  Start();
+  const QImage shown = CheckBox()->grab().toImage();
+  QApplication::setPalette(before);
+  // Across the box, left of the caption: its ground and its frame.
+  int lightest = 0;
+  for (int x = 0; x < CheckBox()->CaptionArea().left() - 2; ++x) {
+    lightest = std::max(lightest, qGray(shown.pixel(x, shown.height() / 2)));
+  }
+  EXPECT_GT(lightest, 100);
 }
 
 TEST_F(FormResize, GrowingTheFormGrowsThePaneAndTheTreeByExactlyThat) {

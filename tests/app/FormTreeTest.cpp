@@ -171,4 +171,16 @@ TEST_F(FormTree, PointLabelsStoredAsNumbersHaveNoLabelNodes) {
   EXPECT_EQ(Node(Path("POINT", "LABELS"))->childCount(), 0);
 }
 
+TEST_F(FormTree, ADoubleClickWithAnotherButtonRunsNothing) {
+  StartWithSample();
+  const QStringList before = TextBoxes();
+  const QPoint place = Tree()->visualItemRect(Tree()->topLevelItem(0)).center();
+  for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
+    QTest::mouseClick(Tree()->viewport(), button, {}, place);
+    QTest::mouseDClick(Tree()->viewport(), button, {}, place);
+  }
+  EXPECT_EQ(PaneText(), "");
+  EXPECT_EQ(TextBoxes(), before);
+}
+
 }  // namespace

@@ -107,11 +107,15 @@ TEST(DesktopCopy, ReplacesAnEarlierOneEvenIfThatIsStillOpen) {
 }
 
 TEST(DesktopCopy, WritesNothingWhereNoneIsOpen) {
+  const TemporaryFolder folder;
   app::DesktopCopy copy;
+  copy.Open((folder / "out.txt").string());
+  copy.Write("kept", false);
+  copy.Close();
   copy.Write("lost", false);
   copy.Flush();
   copy.Close();
-  SUCCEED();
+  EXPECT_EQ(tests::ReadWholeFile(folder / "out.txt"), "kept\r\n");
 }
 
 TEST(DesktopCopy, InAFolderThatIsNotThereIsError76) {
