@@ -14,12 +14,18 @@ cd "$(dirname "$0")"
 
 programs=$PWD/build/release
 file=${file:-$programs/sample-walk.c3d}
-if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+# A display may be named and not be there.
+has_display() {
+  [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || return 1
+  (ulimit -c 0; timeout 10 "$programs/vantrel-picture" --check-display) >/dev/null 2>&1
+}
+
+if has_display 2>/dev/null; then
   exec "$programs/vantrel" "$file"
 fi
 
 echo "There is no display to open the window on. The measures of $file:"
 echo
 "$programs/vantrel-report" measures -- "$file"
-"$programs/vantrel-picture" "$file" "$programs/window.png"
+QT_QPA_PLATFORM=offscreen "$programs/vantrel-picture" "$file" "$programs/window.png"
 echo "A picture of the window: $programs/window.png"

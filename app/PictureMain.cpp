@@ -21,7 +21,9 @@ namespace {
 constexpr const char* kUsage =
     "usage: vantrel-picture [--dark] FILE.c3d PICTURE.png [LABEL]\n"
     "Opens FILE.c3d, shows the normalised curves of LABEL (without it, the single-value measures)\n"
-    "and saves a picture of the window.\n";
+    "and saves a picture of the window.\n"
+    "       vantrel-picture --check-display\n"
+    "Ends with 0 where there is a display that shows windows.\n";
 
 QPalette DarkPalette() {
   QPalette palette(QColor(0x2b, 0x2b, 0x2e), QColor(0x23, 0x23, 0x26));
@@ -68,9 +70,14 @@ bool SavePicture(const std::vector<std::string>& arguments) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
-  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication application(argc, argv);
   std::vector<std::string> arguments(argv + 1, argv + argc);
+  const bool checkDisplay = arguments == std::vector<std::string>{"--check-display"};
+  if (!checkDisplay && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+  }
+  // Without a display that answers the toolkit ends the program here.
+  const QApplication application(argc, argv);
+  if (checkDisplay) return 0;
   if (!arguments.empty() && arguments[0] == "--dark") {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setPalette(DarkPalette());
