@@ -1,0 +1,1 @@
+// Has the headers of the test framework compiled.
