@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QShortcut>
 #include <QToolButton>
 
 #include "app/OutputPane.h"
@@ -29,7 +30,11 @@ QToolButton* AddButton(QHBoxLayout& row, const QString& objectName, Qt::ArrowTyp
 }  // namespace
 
 FindBar::FindBar(OutputPane* pane)
-    : QFrame(pane), pane_(pane), txtFind_(new QLineEdit), lblFindResult_(new QLabel) {
+    : QFrame(pane),
+      pane_(pane),
+      txtFind_(new QLineEdit),
+      lblFindResult_(new QLabel),
+      escape_(new QShortcut(Qt::Key_Escape, pane->window())) {
   setObjectName(QStringLiteral("findBar"));
   setFrameStyle(QFrame::StyledPanel | QFrame::Raised);
   setAutoFillBackground(true);
@@ -57,6 +62,8 @@ FindBar::FindBar(OutputPane* pane)
   connect(close, &QToolButton::clicked, this, &FindBar::Close);
   connect(txtFind_, &QLineEdit::textEdited, lblFindResult_, &QLabel::hide);
   pane->installEventFilter(this);
+  connect(escape_, &QShortcut::activated, this, &FindBar::Close);
+  escape_->setEnabled(false);
   hide();
 }
 
@@ -84,6 +91,7 @@ void FindBar::Find(bool forward) {
   }
   const bool found =
       pane_->Find({wanted.constData(), static_cast<std::size_t>(wanted.size())}, forward);
+  if (!found && isHidden()) Open();  // to say so
   lblFindResult_->setText(tr("not found"));
   lblFindResult_->setVisible(!found);
   TakePlace();
@@ -99,19 +107,22 @@ void FindBar::TakePlace() {
 }
 
 bool FindBar::eventFilter(QObject* watched, QEvent* event) {
-  if (watched != pane_ || !isVisible()) return QFrame::eventFilter(watched, event);
-  if (event->type() == QEvent::Resize) TakePlace();
-  const auto* key = event->type() == QEvent::KeyPress ? dynamic_cast<QKeyEvent*>(event) : nullptr;
-  if (key == nullptr || key->key() != Qt::Key_Escape) return QFrame::eventFilter(watched, event);
-  Close();
-  return true;
+  if (watched == pane_ && event->type() == QEvent::Resize && isVisible()) TakePlace();
+  return QFrame::eventFilter(watched, event);
+}
+
+void FindBar::showEvent(QShowEvent* event) {
+  QFrame::showEvent(event);
+  escape_->setEnabled(true);
+}
+
+void FindBar::hideEvent(QHideEvent* event) {
+  QFrame::hideEvent(event);
+  escape_->setEnabled(false);
 }
 
 void FindBar::keyPressEvent(QKeyEvent* event) {
   switch (event->key()) {
-    case Qt::Key_Escape:
-      Close();
-      break;
     case Qt::Key_Return:
     case Qt::Key_Enter:
       Find(!event->modifiers().testFlag(Qt::ShiftModifier));

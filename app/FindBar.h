@@ -4,6 +4,7 @@
 
 class QLabel;
 class QLineEdit;
+class QShortcut;
 
 namespace app {
 
@@ -18,7 +19,8 @@ class FindBar : public QFrame {
  public:
   explicit FindBar(OutputPane* pane);
 
-  // Shows the bar, ready for typing; a selection within one line is taken over.
+  // Shows the bar, ready for typing; a selection within one line is taken over. Escape hides it
+  // again.
   void Open();
   void FindNext() { Find(true); }
   void FindPrevious() { Find(false); }
@@ -27,6 +29,8 @@ class FindBar : public QFrame {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
@@ -36,6 +40,7 @@ class FindBar : public QFrame {
   OutputPane* pane_;
   QLineEdit* txtFind_;
   QLabel* lblFindResult_;
+  QShortcut* escape_;  // of the whole window while the bar is shown
 };
 
 }  // namespace app

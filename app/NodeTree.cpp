@@ -45,8 +45,25 @@ void NodeTree::keyPressEvent(QKeyEvent* event) {
   if (currentItem() != nullptr && currentItem() != before) emit NodeClick(currentItem());
 }
 
+void NodeTree::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  pressed_ = itemAt(event->pos());
+  QTreeWidget::mousePressEvent(event);
+}
+
+void NodeTree::mouseMoveEvent(QMouseEvent* event) {
+  // A dragged mouse would highlight node after node.
+  if (event->buttons() == Qt::NoButton) QTreeWidget::mouseMoveEvent(event);
+}
+
+void NodeTree::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  const bool slipped = pressed_ != nullptr && itemAt(event->pos()) != pressed_;
+  QTreeWidget::mouseReleaseEvent(event);
+  if (slipped && currentItem() == pressed_) emit NodeClick(currentItem());
+}
+
 void NodeTree::mouseDoubleClickEvent(QMouseEvent* event) {
-  // The toolkit takes any button for a double-click.
   if (event->button() == Qt::LeftButton) QTreeWidget::mouseDoubleClickEvent(event);
 }
 

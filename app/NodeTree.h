@@ -10,7 +10,9 @@
 namespace app {
 
 // The tree of groups, parameters and labels. The mouse and the keyboard do the same: moving to a
-// node by keys clicks it, Enter double-clicks it.
+// node by keys clicks it, Enter double-clicks it. The highlighted node is the one that was clicked
+// last: other buttons than the left one do nothing, and a node that the mouse was pressed on is
+// clicked wherever the button is let go.
 class NodeTree : public QTreeWidget {
   Q_OBJECT
 
@@ -26,7 +28,13 @@ class NodeTree : public QTreeWidget {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
+
+ private:
+  const QTreeWidgetItem* pressed_ = nullptr;  // only ever compared
 };
 
 // How many ancestors a node has: 0 for a group, 1 for a parameter, 2 for a label.

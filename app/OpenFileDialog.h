@@ -25,8 +25,9 @@ struct DialogResult {
 
 // Shows the dialog over `owner` and waits. `filter` is a row of pairs, a text to show and its
 // pattern, each ended by NUL; patterns are matched without regard to case. An empty
-// `initialFolder` starts in the current folder. One existing file can be chosen, which is what the
-// flags ask for; there is no read-only box to hide.
+// `initialFolder` starts in the folder visited last, at first in the current one. One existing file
+// can be chosen, which is what the flags ask for; there is no read-only box to hide. A path may be
+// as long as the system allows.
 DialogResult ShowOpenFileDialog(QWidget* owner, std::string_view filter,
                                 const std::string& initialFolder, const QString& title,
                                 unsigned flags);

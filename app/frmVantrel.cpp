@@ -123,8 +123,11 @@ bool frmVantrel::EnsureFileOpen() {
 
 void frmVantrel::cmdOpen_Click() {
   using namespace std::string_view_literals;
+  const std::string folder =
+      fileOpen_ ? modApiCommonDialog::ResultForChosenFile(DialogFileSpec_).DialogFolder
+                : std::string();
   const modApiCommonDialog::DialogResult chosen = modApiCommonDialog::ShowOpenFileDialog(
-      this, "C3D Files (*.c3d)\0*.c3d\0"sv, {}, QStringLiteral("Vantrel"),
+      this, "C3D Files (*.c3d)\0*.c3d\0"sv, folder, QStringLiteral("Vantrel"),
       modApiCommonDialog::kHideReadOnly | modApiCommonDialog::kPathMustExist |
           modApiCommonDialog::kFileMustExist);
   if (chosen.DialogOk) {

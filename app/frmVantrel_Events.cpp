@@ -27,6 +27,15 @@ std::string DraggedFile(const QMimeData* data) {
   return {};
 }
 
+// Accepts a file that is dragged, to be read where it is: the program it comes from must not take
+// it for moved away. False where it may only be moved.
+bool AcceptCopy(QDropEvent* event) {
+  if (!event->possibleActions().testFlag(Qt::CopyAction)) return false;
+  event->setDropAction(Qt::CopyAction);
+  event->accept();
+  return true;
+}
+
 }  // namespace
 
 void frmVantrel::OnClick(QPushButton* button, Handler handler) {
@@ -103,7 +112,7 @@ bool frmVantrel::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Drop) {
       dropEvent(drop);
     } else {
-      drop->acceptProposedAction();
+      AcceptCopy(drop);
     }
     return true;
   }
@@ -111,15 +120,14 @@ bool frmVantrel::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void frmVantrel::dragEnterEvent(QDragEnterEvent* event) {
-  if (!DraggedFile(event->mimeData()).empty()) event->acceptProposedAction();
+  if (!DraggedFile(event->mimeData()).empty()) AcceptCopy(event);
 }
 
 void frmVantrel::dropEvent(QDropEvent* event) {
   const std::string file = DraggedFile(event->mimeData());
   // While a message box waits, the command behind it is not done yet.
   if (file.empty() || QApplication::activeModalWidget() != nullptr) return;
-  event->acceptProposedAction();
-  emit FileDropped(file);
+  if (AcceptCopy(event)) emit FileDropped(file);
 }
 
 }  // namespace app

@@ -150,7 +150,8 @@ QString MsgBoxPlus(QWidget* ownerWindow, int buttonSet, const QString& caption, 
   for (const Button& button : buttons) {
     if (button.Widget == box.clickedButton()) return AnswerFor(button.Kind, buttonSet, captions);
   }
-  return {};
+  // The box was closed without a button, as at the end of the desktop's session.
+  return AnswerFor(SetFor(buttonSet).Escape, buttonSet, captions);
 }
 
 }  // namespace modMsgBoxPlus

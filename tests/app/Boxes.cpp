@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QPushButton>
 #include <QTest>
+#include <QWindow>
 #include <gtest/gtest.h>
 
 namespace tests {
@@ -57,6 +58,8 @@ void Boxes::ExpectAndPress(Qt::Key key) {
 void Boxes::Look() {
   auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
   if (dialog == nullptr || !dialog->isVisible()) return;
+  // What a user does to a window that has not come up yet is lost.
+  if (!dialog->isActiveWindow() || !dialog->windowHandle()->isExposed()) return;
   if (dialog == answered_) {
     if (!sinceAnswer_.hasExpired(kPatience)) return;
     ADD_FAILURE() << "the dialog '" << dialog->windowTitle().toStdString() << "' did not close";

@@ -17,7 +17,19 @@
 namespace {
 
 using FormLayout = tests::FormTest;
-using FormResize = tests::FormTest;
+
+class FormResize : public tests::FormTest {
+ protected:
+  // Gives the form a size and waits until the window system has taken it.
+  void Resize(int width, int height) {
+    const QSize size(width, height);
+    form_.resize(size);
+    constexpr int kLateAnswers = 50;  // milliseconds; to earlier sizes, too
+    QTest::qWait(kLateAnswers);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return form_.size() == size; }))
+        << "a smallest size holds it";
+  }
+};
 
 struct NamedCaption {
   const char* Name;
@@ -252,8 +264,7 @@ TEST_F(FormResize, GrowingTheFormGrowsThePaneAndTheTreeByExactlyThat) {
   Start();
   const QRect pane = Pane()->geometry();
   const QRect tree = Tree()->geometry();
-  form_.resize(1180 + 137, 740 + 59);
-  QApplication::processEvents();
+  Resize(1180 + 137, 740 + 59);
   EXPECT_EQ(Pane()->geometry(), QRect(pane.topLeft(), pane.size() + QSize(137, 59)));
   EXPECT_EQ(Tree()->geometry(), QRect(tree.topLeft(), tree.size() + QSize(0, 59)));
 }
@@ -262,8 +273,7 @@ TEST_F(FormResize, ShrinkingTheFormShrinksThePaneAndTheTreeByExactlyThat) {
   Start();
   const QRect pane = Pane()->geometry();
   const QRect tree = Tree()->geometry();
-  form_.resize(1180 - 301, 740 - 101);
-  QApplication::processEvents();
+  Resize(1180 - 301, 740 - 101);
   EXPECT_EQ(Pane()->geometry(), QRect(pane.topLeft(), pane.size() - QSize(301, 101)));
   EXPECT_EQ(Tree()->geometry(), QRect(tree.topLeft(), tree.size() - QSize(0, 101)));
 }
@@ -273,8 +283,7 @@ TEST_F(FormResize, NothingElseMoves) {
   std::map<const QWidget*, QRect> places;
   const auto controls = form_.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
   for (const QWidget* control : controls) places[control] = control->geometry();
-  form_.resize(1500, 900);
-  QApplication::processEvents();
+  Resize(1500, 900);
   for (const QWidget* control : controls) {
     if (control == Pane() || control == Tree()) continue;
     EXPECT_EQ(control->geometry(), places[control]);
@@ -286,8 +295,7 @@ TEST_F(FormResize, AWidthBelowNothingIsLeftOutAndTheHeightsStillFollow) {
   const int paneWidth = Pane()->width();
   const int paneHeight = Pane()->height();
   const int treeHeight = Tree()->height();
-  form_.resize(300, 740 - 40);
-  QApplication::processEvents();
+  Resize(300, 740 - 40);
   EXPECT_EQ(Pane()->width(), paneWidth);
   EXPECT_EQ(Pane()->height(), paneHeight - 40);
   EXPECT_EQ(Tree()->height(), treeHeight - 40);
@@ -297,16 +305,14 @@ TEST_F(FormResize, AHeightBelowNothingIsLeftOutForEachControlByItself) {
   Start();
   const int treeHeight = Tree()->height();
   const int paneHeight = Pane()->height();
-  form_.resize(1180, 740 - treeHeight - 50);
-  QApplication::processEvents();
+  Resize(1180, 740 - treeHeight - 50);
   EXPECT_EQ(Tree()->height(), treeHeight);
   EXPECT_EQ(Pane()->height(), paneHeight - treeHeight - 50);
 }
 
 TEST_F(FormResize, AWidthOfExactlyNothingIsSet) {
   Start();
-  form_.resize(1180 - Pane()->width(), 740);
-  QApplication::processEvents();
+  Resize(1180 - Pane()->width(), 740);
   EXPECT_EQ(Pane()->width(), 0);
 }
 
@@ -315,9 +321,7 @@ TEST_F(FormResize, ToTinyAndBackGivesTheDesignAgain) {
   const QRect pane = Pane()->geometry();
   const QRect tree = Tree()->geometry();
   for (const QSize size : {QSize(700, 500), QSize(120, 90), QSize(1, 1), QSize(1180, 740)}) {
-    form_.resize(size);
-    QApplication::processEvents();
-    EXPECT_EQ(form_.size(), size) << "a smallest size holds it";
+    Resize(size.width(), size.height());
   }
   EXPECT_EQ(Pane()->geometry(), pane);
   EXPECT_EQ(Tree()->geometry(), tree);

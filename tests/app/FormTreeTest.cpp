@@ -1,5 +1,7 @@
 // The navigation tree: what it holds, and what clicks on its nodes do.
 
+#include <QApplication>
+#include <QMouseEvent>
 #include <QTest>
 
 #include "sample/TrialBuilder.h"
@@ -169,6 +171,33 @@ TEST_F(FormTree, GoingToTheTreeByTabChangesNoTextBox) {
 TEST_F(FormTree, PointLabelsStoredAsNumbersHaveNoLabelNodes) {
   Start(TrialBuilder().SetParam("POINT", sample::IntegerListParam("LABELS", {1, 2})).Build());
   EXPECT_EQ(Node(Path("POINT", "LABELS"))->childCount(), 0);
+}
+
+TEST_F(FormTree, PressingOnOneNodeAndReleasingOnAnotherClicksTheFirst) {
+  StartWithSample();
+  ClickNode(Path("POINT"));
+  QWidget* view = Tree()->viewport();
+  const QPoint first = Tree()->visualItemRect(Tree()->topLevelItem(1)).center();
+  const QPoint second = Tree()->visualItemRect(Tree()->topLevelItem(2)).center();
+  QTest::mousePress(view, Qt::LeftButton, {}, first);
+  QMouseEvent move(QEvent::MouseMove, second, view->mapToGlobal(second), Qt::NoButton,
+                   Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(view, &move);
+  QTest::mouseRelease(view, Qt::LeftButton, {}, second);
+  EXPECT_EQ(Tree()->currentItem(), Tree()->topLevelItem(1));
+  EXPECT_EQ(Tree()->selectedItems(), QList<QTreeWidgetItem*>({Tree()->topLevelItem(1)}));
+  EXPECT_EQ(Box("txtGroup")->text(), Tree()->topLevelItem(1)->text(0));
+}
+
+TEST_F(FormTree, AnotherButtonMovesNoHighlight) {
+  StartWithSample();
+  ClickNode(Path("POINT"));
+  const QPoint place = Tree()->visualItemRect(Tree()->topLevelItem(1)).center();
+  for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
+    QTest::mouseClick(Tree()->viewport(), button, {}, place);
+    EXPECT_EQ(Tree()->currentItem(), Tree()->topLevelItem(0));
+    EXPECT_EQ(Box("txtGroup")->text(), QStringLiteral("POINT"));
+  }
 }
 
 TEST_F(FormTree, ADoubleClickWithAnotherButtonRunsNothing) {

@@ -95,6 +95,17 @@ TEST(MsgBoxPlus, LeavesWordsThatFitALineAsTheyAre) {
   EXPECT_EQ(boxes.Seen().at(0).Text, text);
 }
 
+TEST(MsgBoxPlus, ClosedWithoutAButtonCountsAsEscape) {
+  Boxes boxes;
+  for (const auto& [set, answer] :
+       {std::pair(modMsgBoxPlus::kOk, "One"), std::pair(modMsgBoxPlus::kOkCancel, "Two"),
+        std::pair(modMsgBoxPlus::kYesNoCancel, "Three"),
+        std::pair(modMsgBoxPlus::kRetryCancel, "Two")}) {
+    boxes.Expect([](QDialog& dialog) { dialog.done(0); });
+    EXPECT_EQ(Ask(set).toStdString(), answer) << "set " << set;
+  }
+}
+
 TEST(MsgBoxPlus, ShowsTheButtonsOfEachSetAndNoMore) {
   const QStringList captions = {QStringLiteral("One"), QStringLiteral("Two"),
                                 QStringLiteral("Three")};

@@ -235,6 +235,23 @@ TEST_F(Find, EscapeClosesTheBarFromThePaneToo) {
   EXPECT_TRUE(Pane()->hasFocus());
 }
 
+TEST_F(Find, EscapeClosesTheBarFromAnywhereInTheWindow) {
+  StartWith("text");
+  Box("txtGroup")->setFocus();
+  QTest::keyClick(Box("txtGroup"), Qt::Key_Escape);
+  EXPECT_FALSE(Bar()->isVisible());
+}
+
+TEST_F(Find, F3SaysWhatIsNotThereWhereTheBarIsClosed) {
+  StartWith("text");
+  QTest::keyClicks(Wanted(), QStringLiteral("zzz"));
+  QTest::keyClick(Wanted(), Qt::Key_Escape);
+  ASSERT_FALSE(Bar()->isVisible());
+  QTest::keyClick(&form_, Qt::Key_F3);
+  EXPECT_TRUE(Bar()->isVisible());
+  EXPECT_TRUE(Control<QLabel>("lblFindResult")->isVisible());
+}
+
 TEST_F(Find, TheBarNeverLiesOverWhatWasFound) {
   // At the end of a line as wide as the pane, first on the first line, then far below.
   const std::string wide(80, '.');

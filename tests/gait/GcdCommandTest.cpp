@@ -237,7 +237,13 @@ TEST_F(GcdFiles, FolderOfAFilesNameIsAnErrorAndStays) {
   std::filesystem::create_directory(Path("walk-L1.gcd"));
   ToldAnswers question({});
   modAllPurpose::TextReport output;
-  EXPECT_NE(ErrorNumberOf([&] { (void)WriteGcdFiles(walk_.State(), {}, question, output); }), 0);
+#ifdef _WIN32  // which refuses as it refuses a file that is in use
+  constexpr int kExpected = 70;
+#else
+  constexpr int kExpected = 75;
+#endif
+  EXPECT_EQ(ErrorNumberOf([&] { (void)WriteGcdFiles(walk_.State(), {}, question, output); }),
+            kExpected);
   EXPECT_TRUE(std::filesystem::is_directory(Path("walk-L1.gcd")));
   EXPECT_EQ(NamesIn(walk_.Folder().Path()), (std::vector<std::string>{"walk-L1.gcd", "walk.c3d"}));
 }
