@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -66,6 +67,14 @@ TEST_F(BinaryFileTest, OpeningAnotherFileForgetsTheFirst) {
   std::ofstream(folder_ / "other", std::ios::binary) << "other";
   file_.Open((folder_ / "other").string());
   EXPECT_EQ(file_.ReadText(5), "other");
+}
+
+TEST_F(BinaryFileTest, IsHandedOnWithItsFileAndItsPlace) {
+  GivenFileOf(10);
+  file_.Seek(4);
+  BinaryFile next(std::move(file_));
+  EXPECT_EQ(next.ReadByte(), ByteAt(4));
+  EXPECT_EQ(next.Position(), 5);
 }
 
 TEST_F(BinaryFileTest, ReadsAcrossTheBordersOfItsBuffer) {
