@@ -61,26 +61,6 @@ modVantrel::FileState StateWithEvents(const std::vector<modVantrel::EventRecord>
   return state;
 }
 
-std::string ReportText(const std::function<void(modAllPurpose::ReportOutput&)>& report) {
-  modAllPurpose::TextReport output;
-  report(output);
-  return output.Text();
-}
-
-std::vector<std::string> SplitLines(std::string text, const std::string& end) {
-  std::vector<std::string> lines;
-  while (!text.empty()) {
-    const auto length = text.find(end);
-    if (length == std::string::npos) {
-      ADD_FAILURE() << "a line without its end: " << text;
-      break;
-    }
-    lines.push_back(text.substr(0, length));
-    text.erase(0, length + end.size());
-  }
-  return lines;
-}
-
 std::vector<std::string> NamesIn(const std::filesystem::path& folder) {
   std::vector<std::string> names;
   for (const auto& entry : std::filesystem::directory_iterator(folder)) {

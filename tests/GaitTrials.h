@@ -2,13 +2,11 @@
 
 #include <array>
 #include <filesystem>
-#include <functional>
 #include <string>
 #include <vector>
 
 #include "c3d/FileState.h"
 #include "sample/TrialBuilder.h"
-#include "support/ReportOutput.h"
 #include "tests/TestTrials.h"
 
 // Trials with events, and states with hand-made event lists, for the tests of what is worked out
@@ -66,12 +64,6 @@ template <typename Entry>
 std::vector<Entry> Entries(const modAllPurpose::OneBasedTable<Entry>& table) {
   return {table.begin(), table.end()};
 }
-
-// What `report` writes, lines ended by LF.
-std::string ReportText(const std::function<void(modAllPurpose::ReportOutput&)>& report);
-
-// The lines of `text` up to each `end`, which must close the last one as well.
-std::vector<std::string> SplitLines(std::string text, const std::string& end = "\n");
 
 // The names of what stands in a folder, sorted.
 std::vector<std::string> NamesIn(const std::filesystem::path& folder);

@@ -3,10 +3,10 @@
 #include <fstream>
 #include <iterator>
 #include <random>
-#include <sstream>
 #include <system_error>
 
 #include <fmt/format.h>
+#include <gtest/gtest.h>
 
 #include "support/FileSystem.h"
 
@@ -70,10 +70,14 @@ std::string TextOf(const std::function<void(modAllPurpose::ReportOutput&)>& repo
   return output.Text();
 }
 
-std::vector<std::string> LinesOf(const std::string& text) {
+std::vector<std::string> LinesOf(const std::string& text, const std::string& end) {
   std::vector<std::string> lines;
-  std::istringstream stream(text);
-  for (std::string line; std::getline(stream, line);) lines.push_back(line);
+  std::size_t start = 0;
+  for (auto at = text.find(end); at != std::string::npos; at = text.find(end, start)) {
+    lines.push_back(text.substr(start, at - start));
+    start = at + end.size();
+  }
+  EXPECT_EQ(text.substr(start), "") << "a line without its end";
   return lines;
 }
 

@@ -109,8 +109,8 @@ int ErrorNumberOf(const std::function<void()>& work);
 // What a report writes, lines ended by LF.
 std::string TextOf(const std::function<void(modAllPurpose::ReportOutput&)>& report);
 
-// The lines of `text` without their ends; the empty piece behind the last end is no line.
-std::vector<std::string> LinesOf(const std::string& text);
+// The lines of `text` without their ends; fails the test where the last line has none.
+std::vector<std::string> LinesOf(const std::string& text, const std::string& end = "\n");
 
 std::string ReadWholeFile(const std::filesystem::path& path);
 

@@ -36,7 +36,7 @@ std::string Text(const FileState& state, const SubjectRecord& subject = {}, bool
 
 Lines TextLinesOf(const sample::TrialBuilder& builder) {
   OpenedWalk walk = Open(builder);
-  return tests::SplitLines(Text(walk.State()), "\r\n");
+  return tests::LinesOf(Text(walk.State()), "\r\n");
 }
 
 // The 51 lines below the line `name`; empty where there is no such line.
@@ -125,7 +125,7 @@ TEST(GcdText, HeaderNamesTheSubject) {
   using namespace std::chrono;
   const SubjectRecord subject{"female", year_month_day(2014y, March, 2d),
                               year_month_day(2026y, May, 11d)};
-  const Lines lines = tests::SplitLines(Text(walk.State(), subject), "\r\n");
+  const Lines lines = tests::LinesOf(Text(walk.State(), subject), "\r\n");
   EXPECT_EQ(lines[2], "Female");
   EXPECT_EQ(lines[4], "12.20") << "4453 days";
 }

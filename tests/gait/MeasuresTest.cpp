@@ -185,7 +185,7 @@ TEST(Measures, StrideOutsideTheListIsAnIndexError) {
 }
 
 std::string MeasuresReport(const FileState& state) {
-  return tests::ReportText([&](auto& output) { ShowSingleValueStrikeOffMeasures(state, output); });
+  return tests::TextOf([&](auto& output) { ShowSingleValueStrikeOffMeasures(state, output); });
 }
 
 TEST(MeasuresReport, TrialWithoutStridesIsOneEmptyLine) {
@@ -227,7 +227,7 @@ TEST(MeasuresReport, KeepsWhatItHadWrittenBeforeAnError) {
   modAllPurpose::TextReport output;
   EXPECT_EQ(ErrorNumberOf([&] { ShowSingleValueStrikeOffMeasures(state, output); }),
             kDivisionByZero);
-  EXPECT_EQ(tests::SplitLines(output.Text()).size(), 14U) << "the first stride's lines";
+  EXPECT_EQ(tests::LinesOf(output.Text()).size(), 14U) << "the first stride's lines";
 }
 
 }  // namespace

@@ -137,8 +137,7 @@ TEST(NormalizedReport, StrideOfOneSecondFromTwoSecondsOn) {
   builder.AddPoint("LKneeAngles", Standing(-5.25F, 123.5F, 0.00004F));
   tests::AddStrideEvents(builder, "Left", {2.0F, 2.1F, 2.5F, 2.6F, 3.0F});
   OpenedWalk walk = OpenedWalk(builder.Build(), FindGaitEvents);
-  const std::vector<std::string> lines =
-      tests::SplitLines(Report(walk.State(), "LKneeAngles").Text);
+  const std::vector<std::string> lines = tests::LinesOf(Report(walk.State(), "LKneeAngles").Text);
   ASSERT_EQ(lines.size(), 5U + 51U + 2U);
   EXPECT_EQ(lines[0], "LKneeAngles  Left Side #1");
   EXPECT_EQ(lines[1], "     Opposite foot off time:    02.1000");
@@ -160,8 +159,7 @@ TEST(NormalizedReport, EachStrideHasItsBlockAndAnEmptyLine) {
   right.Number = 7;
   walk.State().GaitEvents.ValidStrides.Append(right);
   walk.State().GaitEvents.ValidStrideCount = 2;
-  const std::vector<std::string> lines =
-      tests::SplitLines(Report(walk.State(), "LKneeAngles").Text);
+  const std::vector<std::string> lines = tests::LinesOf(Report(walk.State(), "LKneeAngles").Text);
   ASSERT_EQ(lines.size(), 2 * (5U + 51U + 1U) + 1U);
   EXPECT_EQ(lines[56], "");
   EXPECT_EQ(lines[57], "LKneeAngles  Right Side #7");

@@ -12,12 +12,12 @@ using namespace modVantrel;
 using tests::StateWithEvents;
 
 std::string EventsReport(const FileState& state) {
-  return tests::ReportText([&](auto& output) { ShowStrikeOffEvents(state, output); });
+  return tests::TextOf([&](auto& output) { ShowStrikeOffEvents(state, output); });
 }
 
 // The report's line that holds `part`.
 std::string LineWith(const std::string& report, const std::string& part) {
-  for (const std::string& line : tests::SplitLines(report)) {
+  for (const std::string& line : tests::LinesOf(report)) {
     if (line.find(part) != std::string::npos) return line;
   }
   return "no line with " + part;

@@ -27,7 +27,7 @@ void AddOfLabel(std::map<std::string, std::string>& texts, const FileState& stat
                 const modAllPurpose::OneBasedTable<std::string>& labels) {
   for (const std::string& label : labels) {
     texts[name + ' ' + label] =
-        ReportText([&](ReportOutput& output) { (void)report(state, label, output); });
+        TextOf([&](ReportOutput& output) { (void)report(state, label, output); });
   }
 }
 
@@ -43,7 +43,7 @@ std::map<std::string, std::string> AllReportsOf(const FileState& state) {
       {"events", modVantrel::ShowStrikeOffEvents},
       {"measures", modVantrel::ShowSingleValueStrikeOffMeasures}};
   for (const auto& [name, report] : plain) {
-    texts[name] = ReportText([&, show = report](ReportOutput& output) { show(state, output); });
+    texts[name] = TextOf([&, show = report](ReportOutput& output) { show(state, output); });
   }
   AddOfLabel(texts, state, "point", reports::ShowPointData, state.PointLabels);
   AddOfLabel(texts, state, "point with events", reports::ShowPointDataWithEvents,

@@ -51,13 +51,13 @@ TrialBuilder OneChannel(std::int16_t frames, std::int16_t samples) {
 }
 
 std::string Text(Listing listing, const FileState& state, const std::string& label) {
-  return tests::ReportText(
+  return tests::TextOf(
       [&](ReportOutput& output) { EXPECT_FALSE(listing(state, label, output).IsRejected()); });
 }
 
 std::vector<std::string> LinesOf(Listing listing, const FileState& state,
                                  const std::string& label) {
-  return tests::SplitLines(Text(listing, state, label));
+  return tests::LinesOf(Text(listing, state, label));
 }
 
 void AddEventOnFrame(FileState& state, const EventFrameRecord& event) {
@@ -69,9 +69,8 @@ TEST(PointLabels, AreNumberedAndEndWithoutAnEmptyLine) {
   TrialBuilder builder = OnePoint(1, 2);
   builder.AddPoint("LHEE", tests::Standing(0, 0, 0));
   OpenedTrial trial(builder);
-  EXPECT_EQ(
-      tests::ReportText([&](auto& output) { reports::ShowPointLabels(trial.State(), output); }),
-      "001  LTOE\n002  LHEE\n");
+  EXPECT_EQ(tests::TextOf([&](auto& output) { reports::ShowPointLabels(trial.State(), output); }),
+            "001  LTOE\n002  LHEE\n");
 }
 
 TEST(PointLabels, LabelThatTheFileDoesNotNameIsEmpty) {
@@ -79,9 +78,8 @@ TEST(PointLabels, LabelThatTheFileDoesNotNameIsEmpty) {
   builder.AddPoint("LHEE", tests::Standing(0, 0, 0))
       .SetParam("POINT", sample::TextListParam("LABELS", {"LTOE"}));
   OpenedTrial trial(builder);
-  EXPECT_EQ(
-      tests::ReportText([&](auto& output) { reports::ShowPointLabels(trial.State(), output); }),
-      "001  LTOE\n002  \n");
+  EXPECT_EQ(tests::TextOf([&](auto& output) { reports::ShowPointLabels(trial.State(), output); }),
+            "001  LTOE\n002  \n");
 }
 
 TEST(PointListing, PrintsEachFrame) {

@@ -58,7 +58,7 @@ class CommaLocale {
 };
 
 std::string HeaderOf(const modVantrel::FileState& state) {
-  return tests::ReportText([&](auto& output) { reports::ShowHeaderInfo(state, output); });
+  return tests::TextOf([&](auto& output) { reports::ShowHeaderInfo(state, output); });
 }
 
 TEST(Locale, ReportsDoNotDependOnIt) {
