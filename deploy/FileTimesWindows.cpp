@@ -41,6 +41,9 @@ LocalTime FromSystem(const FILETIME& universal) {
 }
 
 FILETIME ToSystem(LocalTime time) {
+  if (time.time_since_epoch() <= kCalendarStart) {
+    throw modAllPurpose::RuntimeError(modAllPurpose::ErrorNumber::PathFileAccessError);
+  }
   ULARGE_INTEGER ticks{};
   ticks.QuadPart = static_cast<ULONGLONG>((time.time_since_epoch() - kCalendarStart).count());
   const FILETIME local = {ticks.LowPart, ticks.HighPart};

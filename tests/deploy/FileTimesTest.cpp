@@ -19,8 +19,10 @@ namespace {
 
 namespace fs = std::filesystem;
 using modWindowsFileInfo::FileTimes;
+using modWindowsFileInfo::LocalTime;
 using modWindowsFileInfo::ReadFileTimes;
 using modWindowsFileInfo::SetFileTimes;
+using tests::ErrorNumberOf;
 using namespace std::chrono_literals;
 
 class FileTimesInAZone : public testing::Test {
@@ -87,6 +89,16 @@ TEST_F(FileTimesInAZone, OfCreationIsReadAsItWasSet) {
   if (!KeepsCreationTime(file_)) GTEST_SKIP() << "no creation time can be set here";
   Set(times);
   EXPECT_EQ(Read().Creation, times.Creation);
+}
+#endif
+
+#ifdef _WIN32
+TEST_F(FileTimesInAZone, BeforeTheCalendarOfTheSystemCannotBeSet) {
+  const FileTimes before = Read();
+  FileTimes times = before;
+  times.LastWrite = LocalTime(std::chrono::local_days(1600y / 1 / 1).time_since_epoch());
+  EXPECT_EQ(ErrorNumberOf([&] { Set(times); }), 75);
+  EXPECT_EQ(Read(), before);
 }
 #endif
 

@@ -118,13 +118,11 @@ class HandOver : public testing::Test {
 
 TEST_F(HandOver, WritesEverythingAndComesBackThroughTheFixer) {
   StartUntilItWentOn(1);
-  std::vector<std::string> expected = {"gait probe.exe copies gait probe.exe to gait probe_Fix.exe",
-                                       "gait probe.exe starts gait probe_Fix.exe",
-                                       kInTheWay,
-                                       "gait probe_Fix.exe copies gait probe_Fix.exe to gait "
-                                       "probe.exe",
-                                       "gait probe_Fix.exe starts gait probe.exe",
-                                       kGoesOn};
+  const std::string program = kProgram;
+  const std::string fixer = kFixer;
+  std::vector<std::string> expected = {
+      program + " copies " + program + " to " + fixer, program + " starts " + fixer, kInTheWay,
+      fixer + " copies " + fixer + " to " + program,   fixer + " starts " + program, kGoesOn};
   if (kTellsWindowState) expected.insert(expected.begin() + 2, "gait probe_Fix.exe is minimised");
   EXPECT_EQ(Log(), expected);
   const Files files = FilesNow();
