@@ -48,7 +48,8 @@ class NewFile {
   // Writes all that the file is to hold.
   void Write(std::span<const std::byte> bytes) {
     errno = 0;
-    const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file_) == bytes.size();
+    const bool written =
+        bytes.empty() || std::fwrite(bytes.data(), 1, bytes.size(), file_) == bytes.size();
     const int writeError = errno;
     const bool closed = std::fclose(std::exchange(file_, nullptr)) == 0;
     if (!written) throw FileErrorFromErrno(writeError);
