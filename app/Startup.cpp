@@ -26,21 +26,24 @@ QIcon ProgramIcon() {
 }
 
 // Whether this process may go on to show the form.
-bool Form_Initialize() {
-  return modVantrel_PatchUp::DeployDependencies(
-      [](const std::string& text) { ShowMessage(nullptr, text); });
+bool Form_Initialize(const Deployment& deployment) {
+  return deployment([](const std::string& text) { ShowMessage(nullptr, text); });
 }
 
 }  // namespace
 
-int RunVantrel(int argc, char** argv) {
+bool DeployThisProgram(const deploy::MessageShower& showMessage) {
+  return modVantrel_PatchUp::DeployDependencies(showMessage);
+}
+
+int RunVantrel(int argc, char** argv, const Deployment& deployment) {
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("vantrel"));
   QApplication::setDesktopFileName(QStringLiteral("vantrel"));
   QApplication::setWindowIcon(ProgramIcon());
   // The toolkit has taken its own options off the command line; the rest is the path of a file.
   const std::string commandLine = JoinedArguments(argc, argv);
-  if (!Form_Initialize()) return 0;
+  if (!Form_Initialize(deployment)) return 0;
 
   modVantrel::FileState state;
   frmVantrel form(state);

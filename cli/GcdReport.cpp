@@ -1,7 +1,5 @@
 #include "cli/GcdReport.h"
 
-#include <filesystem>
-#include <system_error>
 #include <vector>
 
 #include "support/FileSystem.h"
@@ -30,16 +28,9 @@ std::vector<std::string> FileNames(const FileState& state, const GcdRequest& req
   return names;
 }
 
-// One spelling for each file, whatever way its path was written.
-std::string Identity(const std::string& name) {
-  std::error_code ignored;
-  return modAllPurpose::Utf8Path(
-      std::filesystem::weakly_canonical(modAllPurpose::NativePath(name), ignored));
-}
-
 std::string WhyRefused(const std::vector<std::string>& names, const GcdRequest& request) {
   for (const std::string& name : names) {
-    if (request.Written.contains(Identity(name))) {
+    if (request.Written.contains(modAllPurpose::OneSpelling(name))) {
       return name + " was written for another trial of this command";
     }
     if (!request.Overwrite && modAllPurpose::FileExists(name)) {
@@ -56,7 +47,7 @@ std::string WriteGcdReport(const FileState& state, GcdRequest& request,
   const std::vector<std::string> names = FileNames(state, request);
   std::string refusal = WhyRefused(names, request);
   if (!refusal.empty()) return refusal;
-  for (const std::string& name : names) request.Written.insert(Identity(name));
+  for (const std::string& name : names) request.Written.insert(modAllPurpose::OneSpelling(name));
   AskedBefore question;
   return std::string(modVantrel::WriteGcdFiles(state, request.Options, question, output).Text());
 }

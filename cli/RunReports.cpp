@@ -1,15 +1,19 @@
 #include "cli/RunReports.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <iterator>
 #include <new>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <fmt/format.h>
 
 #include "c3d/OpenC3dFile.h"
 #include "cli/ReportTable.h"
 #include "cli/StandardOutput.h"
+#include "cli/Start.h"
 #include "gait/EventExtraction.h"
 #include "support/RuntimeError.h"
 
@@ -27,6 +31,21 @@ void Complain(const std::string& file, std::string_view message) {
 
 void Complain(const std::string& file, const RuntimeError& error) {
   Complain(file, fmt::format("{} {}", modAllPurpose::RuntimeErrorTitle(error), error.what()));
+}
+
+// The files that those of the command line stand for. One that cannot be told is complained about
+// and left out; `status` says so.
+std::vector<std::string> FilesToRead(const std::vector<std::string>& named, int& status) {
+  std::vector<std::string> files;
+  for (const std::string& file : named) {
+    try {
+      std::ranges::move(WithoutWildcards(file), std::back_inserter(files));
+    } catch (const RuntimeError& error) {
+      Complain(file, error);
+      status = kSomeFailed;
+    }
+  }
+  return files;
 }
 
 // Opens `file` and writes its report; answers with the message of a failed open or a refused input,
@@ -68,6 +87,7 @@ bool Report(const std::string& file, Request& request) {
 
 int RunReports(Request request) {
   int status = kAllWell;
+  request.Files = FilesToRead(request.Files, status);
   try {
     for (const std::string& file : request.Files) {
       if (!Report(file, request)) status = kSomeFailed;

@@ -27,7 +27,7 @@ void StandardOutput::AppendOutput(std::string_view text, bool /*paneOnly*/, bool
 void StandardOutput::Flush() {
   std::string piece;
   piece.swap(pending_);
-  errno = 0;
+  ForgetErrors();
   const bool written = std::fwrite(piece.data(), 1, piece.size(), stdout) == piece.size() &&
                        std::fflush(stdout) == 0;
   if (written) return;

@@ -8,16 +8,19 @@ namespace cli {
 
 // The arguments that the tool was started with, its own name aside, in UTF-8 on Windows and as they
 // came elsewhere.
-std::vector<std::string> Arguments(int argc, char* argv[]);
+std::vector<std::string> Arguments(int argc, char** argv);
 
-// `files` with each one that holds a wildcard, "*" or "?" in its name, replaced by the files that
-// it stands for, in order; one that stands for none stays. Only Windows shells leave that to a
-// program: elsewhere all files come back as they are.
-std::vector<std::string> WithoutWildcards(const std::vector<std::string>& files);
+// The files that `file` stands for, in order, where it has a wildcard, "*" or "?", in its last
+// name; `file` itself where it has none or stands for no file. Only Windows shells leave that to a
+// program: elsewhere a name is a name. A RuntimeError where a folder cannot be read to its end.
+std::vector<std::string> WithoutWildcards(const std::string& file);
 
-// Lets standard output and standard error take bytes as they are, and failed writes come back as
-// errors.
+// Lets standard output and standard error take bytes as they are, UTF-8 on a console, and failed
+// writes come back as errors. A console is as it was when the tool has ended.
 void PrepareOutput();
+
+// Forgets the errors of earlier calls, before a write whose failure is asked about.
+void ForgetErrors();
 
 // Whether the write to standard output that has just failed did so because nobody reads it any
 // more.

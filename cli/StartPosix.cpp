@@ -5,9 +5,9 @@
 
 namespace cli {
 
-std::vector<std::string> Arguments(int argc, char* argv[]) { return {argv + 1, argv + argc}; }
+std::vector<std::string> Arguments(int argc, char** argv) { return {argv + 1, argv + argc}; }
 
-std::vector<std::string> WithoutWildcards(const std::vector<std::string>& files) { return files; }
+std::vector<std::string> WithoutWildcards(const std::string& file) { return {file}; }
 
 void PrepareOutput() {
   // A closed pipe is met as a failed write, so that the tool ends in its own way.
@@ -15,6 +15,8 @@ void PrepareOutput() {
   // A file that would grow over its limit is met as a failed write, like a full disk.
   std::signal(SIGXFSZ, SIG_IGN);
 }
+
+void ForgetErrors() { errno = 0; }
 
 bool IsOutputClosed() { return errno == EPIPE; }
 

@@ -9,7 +9,5 @@ int main(int argc, char* argv[]) {
   cli::PrepareOutput();
   auto parsed = cli::ParseCommandLine(cli::Arguments(argc, argv));
   if (const int* status = std::get_if<int>(&parsed)) return *status;
-  auto request = std::get<cli::Request>(std::move(parsed));
-  request.Files = cli::WithoutWildcards(request.Files);
-  return cli::RunReports(request);
+  return cli::RunReports(std::get<cli::Request>(std::move(parsed)));
 }

@@ -30,13 +30,6 @@ constexpr auto kHandOverPause = 5s;  // lets the process before this one end
 constexpr auto kStartPause = 1s;
 constexpr auto kTimeShift = 864s;  // 0.01 day
 
-std::string LowerCase(std::string text) {
-  for (char& letter : text) {
-    if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter - 'A' + 'a');
-  }
-  return text;
-}
-
 // The running program.
 struct Program {
   std::string Path;
@@ -59,7 +52,7 @@ Program RunningProgram(const Host& host) {
   program.Path = host.ProgramPath();
   const auto nameStart = program.Path.rfind(host.FolderSeparator()) + 1;
   program.Folder = program.Path.substr(0, nameStart);
-  program.FileName = LowerCase(program.Path.substr(nameStart));
+  program.FileName = host.LowerCase(program.Path.substr(nameStart));
   if (!program.FileName.ends_with(kProgramEnding)) program.FileName += kProgramEnding;
   return program;
 }

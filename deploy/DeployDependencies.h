@@ -15,7 +15,8 @@ namespace modVantrel_PatchUp {
 bool DeployDependencies(deploy::Host& host);
 
 // The same for the running program on its own system, messages shown by `showMessage`. This is what
-// the program calls first of all; where it carries no libraries it answers true and writes nothing.
+// the program calls first of all. Outside Windows it answers true and does nothing; a Windows
+// program that carries no libraries answers true too, and makes the folder alone.
 bool DeployDependencies(const deploy::MessageShower& showMessage);
 
 }  // namespace modVantrel_PatchUp

@@ -27,7 +27,7 @@ struct FileTimes {
 FileTimes ReadFileTimes(const std::string& path);
 
 // Sets the times of the file at `path`; the creation only where the system lets it be set. Fails
-// like ReadFileTimes.
+// like ReadFileTimes, and with error 75 for a time before 1601 on Windows, which keeps none.
 void SetFileTimes(const std::string& path, const FileTimes& times);
 
 }  // namespace modWindowsFileInfo

@@ -1,9 +1,8 @@
-#include <system_error>
 #include <windows.h>
 
 #include "deploy/FileTimes.h"
 #include "support/FileSystem.h"
-#include "support/RuntimeError.h"
+#include "support/WindowsError.h"
 
 namespace modWindowsFileInfo {
 
@@ -13,11 +12,6 @@ namespace {
 constexpr Tick kCalendarStart =
     std::chrono::local_days(std::chrono::year(1601) / 1 / 1).time_since_epoch();
 
-modAllPurpose::RuntimeError LastError() {
-  return modAllPurpose::FileErrorFromCode(
-      {static_cast<int>(::GetLastError()), std::system_category()});
-}
-
 // The handle of a file that is open for its times alone.
 class FileForTimes {
  public:
@@ -25,7 +19,7 @@ class FileForTimes {
       : handle_(::CreateFileW(modAllPurpose::NativePath(path).c_str(), access,
                               FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
                               OPEN_EXISTING, 0, nullptr)) {
-    if (handle_ == INVALID_HANDLE_VALUE) throw LastError();
+    if (handle_ == INVALID_HANDLE_VALUE) throw modAllPurpose::LastFileError();
   }
   FileForTimes(const FileForTimes&) = delete;
   FileForTimes& operator=(const FileForTimes&) = delete;
@@ -39,7 +33,7 @@ class FileForTimes {
 
 LocalTime FromSystem(const FILETIME& universal) {
   FILETIME local{};
-  ::FileTimeToLocalFileTime(&universal, &local);
+  if (::FileTimeToLocalFileTime(&universal, &local) == 0) throw modAllPurpose::LastFileError();
   ULARGE_INTEGER ticks{};
   ticks.LowPart = local.dwLowDateTime;
   ticks.HighPart = local.dwHighDateTime;
@@ -47,11 +41,14 @@ LocalTime FromSystem(const FILETIME& universal) {
 }
 
 FILETIME ToSystem(LocalTime time) {
+  if (time.time_since_epoch() <= kCalendarStart) {
+    throw modAllPurpose::RuntimeError(modAllPurpose::ErrorNumber::PathFileAccessError);
+  }
   ULARGE_INTEGER ticks{};
   ticks.QuadPart = static_cast<ULONGLONG>((time.time_since_epoch() - kCalendarStart).count());
   const FILETIME local = {ticks.LowPart, ticks.HighPart};
   FILETIME universal{};
-  ::LocalFileTimeToFileTime(&local, &universal);
+  if (::LocalFileTimeToFileTime(&local, &universal) == 0) throw modAllPurpose::LastFileError();
   return universal;
 }
 
@@ -62,7 +59,8 @@ FileTimes ReadFileTimes(const std::string& path) {
   FILETIME creation{};
   FILETIME lastAccess{};
   FILETIME lastWrite{};
-  if (::GetFileTime(file.Handle(), &creation, &lastAccess, &lastWrite) == 0) throw LastError();
+  if (::GetFileTime(file.Handle(), &creation, &lastAccess, &lastWrite) == 0)
+    throw modAllPurpose::LastFileError();
   return {FromSystem(creation), FromSystem(lastAccess), FromSystem(lastWrite)};
 }
 
@@ -71,7 +69,8 @@ void SetFileTimes(const std::string& path, const FileTimes& times) {
   const FILETIME creation = ToSystem(times.Creation);
   const FILETIME lastAccess = ToSystem(times.LastAccess);
   const FILETIME lastWrite = ToSystem(times.LastWrite);
-  if (::SetFileTime(file.Handle(), &creation, &lastAccess, &lastWrite) == 0) throw LastError();
+  if (::SetFileTime(file.Handle(), &creation, &lastAccess, &lastWrite) == 0)
+    throw modAllPurpose::LastFileError();
 }
 
 }  // namespace modWindowsFileInfo

@@ -23,6 +23,9 @@ class Host {
   // The character between a folder and what is in it.
   virtual char FolderSeparator() const = 0;
 
+  // `text` with its letters in lower case, one for one, as the system knows them.
+  virtual std::string LowerCase(const std::string& text) const = 0;
+
   // The running program's file with its whole path; empty where the system cannot tell.
   virtual std::string ProgramPath() const = 0;
 
@@ -41,10 +44,12 @@ class Host {
   virtual bool IsFolder(const std::string& path) const = 0;
   // Makes the last folder of `path`.
   virtual void MakeFolder(const std::string& path) = 0;
+  // Deletes a file; error 70 or 75 for a folder.
   virtual void RemoveFile(const std::string& path) = 0;
   // Copies the file `from` to `to`, in place of a file that is there.
   virtual void Copy(const std::string& from, const std::string& to) = 0;
-  // Writes a new file; a failure may leave a part of it behind.
+  // Writes a file that is not there yet. Where it cannot, no part of it is left; error 75, and what
+  // is there stays, where anything has that name.
   virtual void WriteNewFile(const std::string& path, std::span<const std::byte> bytes) = 0;
 
   virtual modWindowsFileInfo::FileTimes ReadTimes(const std::string& path) const = 0;

@@ -25,6 +25,14 @@ std::string PathOfThisProgram() {
 PosixHost::PosixHost(std::span<const PosixResource> resources, MessageShower showMessage)
     : SystemHost(PathOfThisProgram(), std::move(showMessage)), resources_(resources) {}
 
+std::string PosixHost::LowerCase(const std::string& text) const {
+  std::string lower = text;
+  for (char& letter : lower) {
+    if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter - 'A' + 'a');
+  }
+  return lower;
+}
+
 std::span<const std::byte> PosixHost::Resource(const std::string& type,
                                                const std::string& name) const {
   const auto found = std::ranges::find_if(resources_, [&](const PosixResource& resource) {

@@ -21,6 +21,8 @@ class PosixHost : public SystemHost {
   // The table must last as long as the host.
   PosixHost(std::span<const PosixResource> resources, MessageShower showMessage);
 
+  // Letters of ASCII alone: a name's case is a part of it here.
+  std::string LowerCase(const std::string& text) const override;
   std::span<const std::byte> Resource(const std::string& type,
                                       const std::string& name) const override;
   // Whether a program comes up minimised is for the desktop to say here.

@@ -1,7 +1,6 @@
 #include "deploy/ResourceFile.h"
 
 #include "deploy/Folders.h"
-#include "support/RuntimeError.h"
 
 namespace modResourceFile {
 
@@ -21,13 +20,8 @@ void ExtractResourceToFile(deploy::Host& host, const std::string& folder, const 
   if (exists && overwrite == Overwrite::No) return;
   const auto bytes = host.Resource(type, WithoutBlanks(name));
   if (exists) host.RemoveFile(target);
-  try {
-    host.WriteNewFile(target, bytes);
-  } catch (const modAllPurpose::RuntimeError&) {
-    // Half a file would pass for the whole one at every later start.
-    modAllPurposeFolders::DeleteIgnoringErrors(host, target);
-    throw;
-  }
+  // Half a file would pass for the whole one at every later start; the host leaves none.
+  host.WriteNewFile(target, bytes);
 }
 
 }  // namespace modResourceFile

@@ -1,8 +1,6 @@
 #include "deploy/SystemHost.h"
 
-#include <cerrno>
 #include <filesystem>
-#include <fstream>
 #include <system_error>
 #include <thread>
 #include <utility>
@@ -12,7 +10,6 @@
 
 namespace deploy {
 
-using modAllPurpose::FileErrorFromErrno;
 using modAllPurpose::NativePath;
 
 namespace {
@@ -47,12 +44,7 @@ void SystemHost::MakeFolder(const std::string& path) {
   ThrowIf(failure);
 }
 
-void SystemHost::RemoveFile(const std::string& path) {
-  std::error_code failure;
-  const bool removed = std::filesystem::remove(NativePath(path), failure);
-  ThrowIf(failure);
-  if (!removed) throw FileErrorFromErrno(ENOENT);
-}
+void SystemHost::RemoveFile(const std::string& path) { modAllPurpose::RemoveFile(path); }
 
 void SystemHost::Copy(const std::string& from, const std::string& to) {
   std::error_code failure;
@@ -62,11 +54,7 @@ void SystemHost::Copy(const std::string& from, const std::string& to) {
 }
 
 void SystemHost::WriteNewFile(const std::string& path, std::span<const std::byte> bytes) {
-  errno = 0;
-  std::ofstream file(NativePath(path), std::ios::binary);
-  for (const std::byte byte : bytes) file.put(static_cast<char>(byte));
-  file.close();
-  if (!file) throw FileErrorFromErrno(errno);
+  modAllPurpose::WriteNewFile(path, bytes);
 }
 
 modWindowsFileInfo::FileTimes SystemHost::ReadTimes(const std::string& path) const {

@@ -1,23 +1,17 @@
 #include "deploy/WindowsHost.h"
 
 #include <filesystem>
-#include <system_error>
 #include <utility>
 #include <windows.h>
 
 #include "support/FileSystem.h"
-#include "support/RuntimeError.h"
+#include "support/WindowsError.h"
 
 namespace deploy {
 
 using modAllPurpose::NativePath;
 
 namespace {
-
-modAllPurpose::RuntimeError LastError() {
-  return modAllPurpose::FileErrorFromCode(
-      {static_cast<int>(::GetLastError()), std::system_category()});
-}
 
 // Empty where the system does not tell.
 std::string PathOfThisProgram() {
@@ -26,13 +20,30 @@ std::string PathOfThisProgram() {
   const DWORD length = ::GetModuleFileNameW(nullptr, path.data(), kLongestPath);
   if (length == kLongestPath) return {};
   path.resize(length);
-  return modAllPurpose::Utf8Path(path);
+  // A name that is no UTF-16 has no path in the program.
+  std::string known;
+  modAllPurpose::IgnoringErrors([&] { known = modAllPurpose::Utf8Path(path); });
+  return known;
+}
+
+// A copy keeps the attributes, so that a program from a medium that cannot be written makes copies
+// that no other file can be copied over.
+void LetBeReplaced(const std::wstring& path) {
+  const DWORD attributes = ::GetFileAttributesW(path.c_str());
+  if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_READONLY) == 0) return;
+  ::SetFileAttributesW(path.c_str(), attributes & ~DWORD{FILE_ATTRIBUTE_READONLY});
 }
 
 }  // namespace
 
 WindowsHost::WindowsHost(MessageShower showMessage)
     : SystemHost(PathOfThisProgram(), std::move(showMessage)) {}
+
+std::string WindowsHost::LowerCase(const std::string& text) const {
+  std::wstring lower = NativePath(text).native();
+  ::CharLowerBuffW(lower.data(), static_cast<DWORD>(lower.size()));
+  return modAllPurpose::Utf8Path(lower);
+}
 
 std::span<const std::byte> WindowsHost::Resource(const std::string& type,
                                                  const std::string& name) const {
@@ -46,8 +57,10 @@ std::span<const std::byte> WindowsHost::Resource(const std::string& type,
 
 void WindowsHost::Copy(const std::string& from, const std::string& to) {
   constexpr BOOL kFailIfExists = FALSE;
-  if (::CopyFileW(NativePath(from).c_str(), NativePath(to).c_str(), kFailIfExists) == 0) {
-    throw LastError();
+  const std::wstring target = NativePath(to);
+  LetBeReplaced(target);
+  if (::CopyFileW(NativePath(from).c_str(), target.c_str(), kFailIfExists) == 0) {
+    throw modAllPurpose::LastFileError();
   }
 }
 
@@ -61,7 +74,7 @@ void WindowsHost::StartProcess(const std::string& path, WindowState window) {
   PROCESS_INFORMATION process{};
   if (::CreateProcessW(program.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr,
                        nullptr, &start, &process) == 0) {
-    throw LastError();
+    throw modAllPurpose::LastFileError();
   }
   ::CloseHandle(process.hThread);
   ::CloseHandle(process.hProcess);

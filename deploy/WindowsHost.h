@@ -11,9 +11,10 @@ class WindowsHost : public SystemHost {
  public:
   explicit WindowsHost(MessageShower showMessage);
 
+  std::string LowerCase(const std::string& text) const override;
   std::span<const std::byte> Resource(const std::string& type,
                                       const std::string& name) const override;
-  // A copy keeps the times of last writing and the attributes.
+  // A copy keeps the time of last writing and the attributes; a read-only file gives way too.
   void Copy(const std::string& from, const std::string& to) override;
   void StartProcess(const std::string& path, WindowState window) override;
 };

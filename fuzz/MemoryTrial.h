@@ -19,7 +19,7 @@ class MemoryTrial {
   const std::string& Fill(std::span<const std::uint8_t> bytes);
 
  private:
-  int descriptor_;
+  int descriptor_ = -1;
   std::string path_;
 };
 

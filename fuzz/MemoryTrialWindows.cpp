@@ -22,7 +22,7 @@ void Require(bool succeeded, const char* what) {
 
 // The nearest thing to a file in memory: a temporary one, which the system deletes when it is
 // closed.
-MemoryTrial::MemoryTrial() : descriptor_(-1) {
+MemoryTrial::MemoryTrial() {
   const std::string name = "vantrel-trial-" + std::to_string(std::random_device()());
   const auto path = std::filesystem::temp_directory_path() / name;
   descriptor_ = ::_wopen(path.c_str(), _O_RDWR | _O_CREAT | _O_EXCL | _O_BINARY | _O_TEMPORARY,

@@ -1,21 +1,16 @@
 #include <algorithm>
 #include <cstdint>
-#include <system_error>
 #include <windows.h>
 
 #include "support/FileSystem.h"
 #include "support/RandomAccessFile.h"
-#include "support/RuntimeError.h"
+#include "support/WindowsError.h"
 
 namespace modAllPurpose {
 
 namespace {
 
 constexpr std::size_t kMostAtOnce = std::size_t{1} << 30U;  // a call counts in 32 bits
-
-RuntimeError LastError() {
-  return FileErrorFromCode({static_cast<int>(::GetLastError()), std::system_category()});
-}
 
 HANDLE Handle(std::intptr_t handle) { return reinterpret_cast<HANDLE>(handle); }
 
@@ -36,7 +31,7 @@ void RandomAccessFile::Open(const std::string& path) {
   const HANDLE handle = ::CreateFileW(NativePath(path).c_str(), GENERIC_READ,
                                       FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
                                       nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
-  if (handle == INVALID_HANDLE_VALUE) throw LastError();
+  if (handle == INVALID_HANDLE_VALUE) throw LastFileError();
   handle_ = reinterpret_cast<std::intptr_t>(handle);
   if (!IsRegularFile(handle)) {
     Close();

@@ -1,10 +1,34 @@
 #include "support/RuntimeError.h"
 
 #include <cerrno>
+#include <optional>
 
 #include <fmt/format.h>
 
 namespace modAllPurpose {
+
+namespace {
+
+#ifdef _WIN32
+// The numbers of the system that the library maps to another error than they are, or to none.
+std::optional<ErrorNumber> ErrorOfWindows(int systemError) {
+  switch (systemError) {
+    case 3:  // a missing folder
+      return ErrorNumber::PathNotFound;
+    case 29:  // the device cannot be written
+    case 30:  // or read
+    case 31:  // or does not work
+      return ErrorNumber::DeviceIoError;
+    case 32:  // another process has the file open
+    case 33:  // or a part of it locked
+      return ErrorNumber::PermissionDenied;
+    default:
+      return std::nullopt;
+  }
+}
+#endif
+
+}  // namespace
 
 const char* RuntimeError::what() const noexcept {
   switch (number_) {
@@ -68,13 +92,16 @@ RuntimeError FileErrorFromErrno(int systemError) {
 
 RuntimeError FileErrorFromCode(const std::error_code& failure) {
 #ifdef _WIN32
-  // The library takes a missing folder for a missing file.
-  constexpr int kErrorPathNotFound = 3;
-  if (failure == std::error_code(kErrorPathNotFound, std::system_category())) {
-    return RuntimeError(ErrorNumber::PathNotFound);
+  if (failure.category() == std::system_category()) {
+    if (const auto number = ErrorOfWindows(failure.value())) return RuntimeError(*number);
   }
 #endif
-  return FileErrorFromErrno(failure.default_error_condition().value());
+  // A number means something in its own category alone.
+  const std::error_condition condition = failure.default_error_condition();
+  if (condition.category() != std::generic_category()) {
+    return RuntimeError(ErrorNumber::PathFileAccessError);
+  }
+  return FileErrorFromErrno(condition.value());
 }
 
 }  // namespace modAllPurpose

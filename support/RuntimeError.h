@@ -44,7 +44,8 @@ std::string RuntimeErrorTitle(const RuntimeError& error);
 // The error for an errno value that making, opening, writing or renaming a file left behind.
 RuntimeError FileErrorFromErrno(int systemError);
 
-// The same for a code of the standard library or, in the system's category, of the system.
+// The same for a code of the standard library or, in the system's category, of the system. A code
+// of another category, and one that means nothing else, is error 75.
 RuntimeError FileErrorFromCode(const std::error_code& failure);
 
 // Runs `work` and swallows a RuntimeError; returns whether it ran to its end. Other exceptions

@@ -4,13 +4,15 @@
 # Every report of FILE, from a folder with blanks and letters outside ASCII in its name, must have
 # the same characters and exit status from both, its GCD files the same bytes. An output that nobody
 # reads any more must end either quietly. Wildcards, which the shell resolves for the one, the other
-# must resolve itself.
+# must resolve itself. It must also read and write files under the ways in which Windows alone writes
+# a path, a share of another machine among them; for that one it must run under tests/wine.sh.
 set -euo pipefail
+unc=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)/build/wine/dosdevices/unc
 one=$(realpath -- "$1") other=$(realpath -- "$2") trial=$(realpath -- "$3")
 failed=0 compared=0
 
 work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
+trap 'rm -rf "$work" "$unc/vantrel-test"' EXIT
 folder="$work/Grüße, 歩行 an Müller €"
 mkdir "$folder"
 cp -- "$trial" "$folder/Gang 1 ä.c3d"
@@ -86,6 +88,28 @@ same_wildcard() {
   same_output "$1*.c3d"
 }
 
+# same_under PREFIX: two trials of the folder $work/share, which PREFIX is a name of: their GCD files
+# are made, refused to be overwritten, and overwritten, as those of the one tool.
+same_under() {
+  local prefix=$1 step file
+  local files=("$prefix\\walk 1 ä.c3d" "$prefix\\walk 2.c3d")
+  rm -f "$work/share"/*.gcd
+  for step in 'gcd 0' 'gcd 1' 'gcd --overwrite 0'; do
+    local arguments=(${step% *}) status=${step##* }
+    run "$other" other "${arguments[@]}" "${files[@]}"
+    compared=$((compared + 1))
+    [ "$(cat "$work/other.status")" = "$status" ] || complain "exit status, not $status: $step: $1"
+    if [ "$status" = 0 ]; then
+      diff -r "$work/one share" "$work/share" || complain "GCD files: $step: $1"
+      for file in "$work/share"/*.gcd; do echo old >"$file"; done
+    else
+      [ "$(sort -u "$work/share"/*.gcd)" = old ] || complain "overwritten: $step: $1"
+    fi
+  done
+  run "$other" other groups "$prefix\\w*.C3D"
+  [ "$(grep -c '^==> ' "$work/other.out")" = 2 ] || complain "not two files: $1\\w*.C3D"
+}
+
 point=$("$one" labels "$file" | sed -n 's/^001  //p')
 analog=$("$one" --group analog --param labels parameters "$file" |
   sed -n "s/ *txt(1,1,1,1,1,1) *'\(.*\)'/\1/p")
@@ -111,6 +135,19 @@ cp -- "$file" 'Gang 2 ö.c3d'
 same_wildcard ''
 same_wildcard "$folder/"
 same 1 groups '*.d3c'
+mkdir "$work/share" "$work/one share"
+for name in share 'one share'; do
+  cp -- "$trial" "$work/$name/walk 1 ä.c3d"
+  cp -- "$trial" "$work/$name/walk 2.c3d"
+done
+run "$one" one gcd "$work/one share"/*.c3d
+windows_work="Z:${work//\//\\}"
+mkdir -p "$unc/vantrel-test"
+ln -s "$work/share" "$unc/vantrel-test/Freigabe ü"
+same_under '\\vantrel-test\Freigabe ü'
+same_under '\\?\UNC\vantrel-test\Freigabe ü'
+same_under "\\\\?\\$windows_work\\share"
+same_under "$windows_work\\share"
 quiet_when_closed "$one"
 quiet_when_closed "$other"
 

@@ -28,8 +28,12 @@ class Program : public ::testing::Test {
   }
 
   // Runs the program with these arguments and lets its user click these buttons.
-  static Outcome Start(const QStringList& arguments, const char* clicks = "") {
+  static Outcome Start(const QStringList& arguments, const char* clicks = "",
+                       const char* deployment = nullptr) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    if (deployment != nullptr) {
+      environment.insert(QStringLiteral("VANTREL_TEST_DEPLOYMENT"), QLatin1String(deployment));
+    }
     environment.insert(QStringLiteral("VANTREL_TEST_CLICKS"), QString::fromLatin1(clicks));
     QProcess program;
     program.setProcessEnvironment(environment);
@@ -101,6 +105,21 @@ TEST_F(Program, AnErrorInAReportShowsWhatWasWrittenThenItsBoxAndEndsWithStatusOn
       run.Output.ends_with("|  18  0.5000  1  'RHS'|\nwindow: shown\ntitle: Vantrel\n"
                            "text: Run-time error '9':||Subscript out of range\n"))
       << run.Output;
+}
+
+TEST_F(Program, WhoseDeploymentRefusesEndsWithoutAWindowOrAnOpen) {
+  const QStringList file(QString::fromStdString((folder_ / "nowhere.c3d").string()));
+  const Outcome run = Start(file, "", "refuses");
+  EXPECT_EQ(run.Ended, QProcess::NormalExit);
+  EXPECT_EQ(run.ExitCode, 0);
+  EXPECT_EQ(run.Output, "deployment: asked\ntitle: Vantrel\ntext: Error copying program file.\n");
+}
+
+TEST_F(Program, AsksItsDeploymentOnceAndGoesOn) {
+  const QString walk = QString::fromStdString(Write(sample::SampleWalk().Build(), "walk.c3d"));
+  const Outcome run = Start(QStringList(walk), "", "goes on");
+  EXPECT_EQ(run.ExitCode, 0);
+  EXPECT_EQ(run.Output, "deployment: asked\npane: \ncaption: " + walk.toStdString() + "\n");
 }
 
 TEST_F(Program, AnErrorInTheOpenAtStartEndsBeforeTheWindowIsShown) {

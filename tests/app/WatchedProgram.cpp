@@ -27,9 +27,11 @@ app::OutputPane* Pane() {
 }
 
 void AnswerBox(QMessageBox& box) {
-  Report("pane", QString::fromStdString(Pane()->Text()));
-  Report("window",
-         Pane()->window()->isVisible() ? QStringLiteral("shown") : QStringLiteral("hidden"));
+  if (app::OutputPane* pane = Pane()) {
+    Report("pane", QString::fromStdString(pane->Text()));
+    Report("window",
+           pane->window()->isVisible() ? QStringLiteral("shown") : QStringLiteral("hidden"));
+  }
   Report("title", box.windowTitle());
   Report("text", box.text());
   QTest::keyClick(&box, Qt::Key_Return);
@@ -64,8 +66,20 @@ void StartWatching() {
   timer->start(kInterval);
 }
 
-}  // namespace
-
 Q_COREAPP_STARTUP_FUNCTION(StartWatching)
 
-int main(int argc, char* argv[]) { return app::RunVantrel(argc, argv); }
+// Tells that it was asked, shows a message where it refuses, and answers as VANTREL_TEST_DEPLOYMENT
+// says.
+bool AnswerAsTold(const deploy::MessageShower& showMessage) {
+  Report("deployment", QStringLiteral("asked"));
+  const bool goesOn = qEnvironmentVariable("VANTREL_TEST_DEPLOYMENT") == QStringLiteral("goes on");
+  if (!goesOn) showMessage("Error copying program file.");
+  return goesOn;
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  if (!qEnvironmentVariableIsSet("VANTREL_TEST_DEPLOYMENT")) return app::RunVantrel(argc, argv);
+  return app::RunVantrel(argc, argv, AnswerAsTold);
+}

@@ -20,11 +20,11 @@ using testing::ElementsAreArray;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
+using tests::AppendTimes;
 using tests::FakeHost;
 using tests::LibraryNames;
+using tests::Steps;
 using namespace std::chrono_literals;
-
-using Steps = std::vector<std::string>;
 
 const std::string kDeleteOldFixer = R"(delete C:\Gait\vantrel_Fix.exe)";
 
@@ -32,15 +32,11 @@ const std::string kDeleteOldFixer = R"(delete C:\Gait\vantrel_Fix.exe)";
 const Steps kHandOver = {
     R"(copy C:\Gait\vantrel.exe to C:\Gait\vantrel_Fix.exe)",
     "wait 5000 ms",
+    R"(read times C:\Gait\vantrel_Fix.exe)",
     R"(set times C:\Gait\vantrel_Fix.exe)",
     "wait 1000 ms",
     R"(start C:\Gait\vantrel_Fix.exe minimised)",
 };
-
-// Appends `more` to `steps`, `count` times over.
-void AppendTimes(Steps& steps, int count, const Steps& more) {
-  for (int k = 0; k < count; ++k) steps.insert(steps.end(), more.begin(), more.end());
-}
 
 Steps operator+(Steps steps, const Steps& more) {
   AppendTimes(steps, 1, more);
@@ -66,6 +62,10 @@ class FreshProgram : public testing::Test {
         host_.Steps, [](const std::string& step) { return step.starts_with("write "); }));
   }
 
+  Steps LastSteps(std::size_t count) const {
+    return {host_.Steps.end() - static_cast<std::ptrdiff_t>(count), host_.Steps.end()};
+  }
+
   FakeHost host_;
 };
 
@@ -73,15 +73,6 @@ class FreshProgram : public testing::Test {
 class InstalledProgram : public FreshProgram {
  protected:
   InstalledProgram() { FakeHost::PutEverythingInPlace(host_); }
-};
-
-// The fixer beside the main program.
-class Fixer : public InstalledProgram {
- protected:
-  Fixer() {
-    host_.Program = R"(C:\Gait\vantrel_Fix.exe)";
-    host_.Files[host_.Program] = "fixer";
-  }
 };
 
 TEST_F(FreshProgram, WritesTheManifestAndTheLibrariesInOrderAndHandsOver) {
@@ -113,10 +104,19 @@ TEST_F(FreshProgram, MovesOnlyTheFixersLastWriteAHundredthOfADayBack) {
   EXPECT_EQ(host_.Times.at(host_.Program), SomeTimes());
 }
 
-TEST_F(FreshProgram, StartsTheFixerThoughItsTimesCannotBeReached) {
-  host_.TimesFail = true;
+TEST_F(FreshProgram, StartsTheFixerThoughItsTimesCannotBeRead) {
+  host_.ReadingTimesFails = true;
   EXPECT_FALSE(DeployDependencies(host_));
-  EXPECT_EQ(host_.Steps.back(), R"(start C:\Gait\vantrel_Fix.exe minimised)");
+  Steps expected = kHandOver;
+  expected.erase(expected.begin() + 3);
+  EXPECT_EQ(LastSteps(expected.size()), expected);
+}
+
+TEST_F(FreshProgram, StartsTheFixerThoughItsTimesCannotBeSet) {
+  host_.SettingTimesFails = true;
+  EXPECT_FALSE(DeployDependencies(host_));
+  EXPECT_EQ(LastSteps(kHandOver.size()), kHandOver);
+  EXPECT_EQ(host_.Times.at(R"(C:\Gait\vantrel_Fix.exe)"), SomeTimes());
 }
 
 TEST_F(FreshProgram, InTheRootOfADriveWritesBesideItself) {
@@ -136,6 +136,15 @@ TEST_F(FreshProgram, IsKnownByItsNameInLowerCase) {
   EXPECT_FALSE(DeployDependencies(host_));
   EXPECT_THAT(host_.Steps, Contains(R"(write C:\Gait\vantrel.exe.manifest)"));
   EXPECT_THAT(host_.Steps, Contains(R"(copy C:\Gait\VanTrel.EXE to C:\Gait\vantrel_Fix.exe)"));
+}
+
+TEST_F(FreshProgram, IsKnownByItsNameInLowerCaseOutsideAsciiToo) {
+  host_.Program = "C:\\Gait\\\xC3\x84RZTE.EXE";
+  host_.Files[host_.Program] = "program";
+  host_.Times[host_.Program] = SomeTimes();
+  host_.Resources["Manifest/\xC3\xA4rzte.exe.manifest"] = "of a name with an umlaut";
+  EXPECT_FALSE(DeployDependencies(host_));
+  EXPECT_EQ(host_.Files.at("C:\\Gait\\\xC3\xA4rzte.exe.manifest"), "of a name with an umlaut");
 }
 
 TEST_F(FreshProgram, WithoutExeAtItsEndIsKnownByANameWithIt) {
@@ -207,9 +216,7 @@ TEST_F(FreshProgram, ThatCannotCopyItselfTriesTwelveTimesAndEndsWithTheMessage) 
   Steps expected;
   AppendTimes(expected, 11, {kHandOver[0], "wait 5000 ms"});
   expected.insert(expected.end(), {kHandOver[0], "message Error copying program file."});
-  const Steps tail(host_.Steps.end() - static_cast<std::ptrdiff_t>(expected.size()),
-                   host_.Steps.end());
-  EXPECT_EQ(tail, expected);
+  EXPECT_EQ(LastSteps(expected.size()), expected);
 }
 
 TEST_F(FreshProgram, ThatCannotStartTheFixerTriesTwelveTimesAndEndsWithTheMessage) {
@@ -218,9 +225,7 @@ TEST_F(FreshProgram, ThatCannotStartTheFixerTriesTwelveTimesAndEndsWithTheMessag
   Steps expected;
   AppendTimes(expected, 11, {kHandOver.back(), "wait 5000 ms"});
   expected.insert(expected.end(), {kHandOver.back(), "message Error running main program file."});
-  const Steps tail(host_.Steps.end() - static_cast<std::ptrdiff_t>(expected.size()),
-                   host_.Steps.end());
-  EXPECT_EQ(tail, expected);
+  EXPECT_EQ(LastSteps(expected.size()), expected);
 }
 
 TEST_F(InstalledProgram, GoesOnAtOnce) {
@@ -255,6 +260,13 @@ TEST_F(InstalledProgram, WithoutItsManifestWritesItAndHandsOver) {
   EXPECT_THAT(host_.Steps,
               ElementsAreArray(Steps{kDeleteOldFixer, R"(write C:\Gait\vantrel.exe.manifest)"} +
                                kHandOver));
+}
+
+TEST_F(InstalledProgram, WithAFolderInPlaceOfItsManifestGoesOnAndKeepsTheFolder) {
+  host_.Files.erase(R"(C:\Gait\vantrel.exe.manifest)");
+  host_.Folders.insert(R"(C:\Gait\vantrel.exe.manifest)");
+  EXPECT_TRUE(DeployDependencies(host_));
+  EXPECT_THAT(host_.Steps, ElementsAre(kDeleteOldFixer, R"(write C:\Gait\vantrel.exe.manifest)"));
 }
 
 TEST_F(InstalledProgram, WithoutItsFolderMakesItAndWritesEveryLibrary) {
@@ -293,7 +305,14 @@ TEST_P(OneLibrary, ThatCannotBeWrittenIsNotReportedAndLeavesNothing) {
   host_.Files.erase(Path());
   host_.Unwritable = {Path()};
   EXPECT_TRUE(DeployDependencies(host_)) << "nothing was written";
-  EXPECT_THAT(host_.Steps, ElementsAre(kDeleteOldFixer, "write " + Path(), "delete " + Path()));
+  EXPECT_THAT(host_.Steps, ElementsAre(kDeleteOldFixer, "write " + Path()));
+}
+
+TEST_P(OneLibrary, WithAFolderInItsPlaceIsNotReportedAndKeepsTheFolder) {
+  host_.Files.erase(Path());
+  host_.Folders.insert(Path());
+  EXPECT_TRUE(DeployDependencies(host_)) << "nothing was written";
+  EXPECT_THAT(host_.Steps, ElementsAre(kDeleteOldFixer, "write " + Path()));
 }
 
 TEST_P(OneLibrary, ThatTheProgramDoesNotCarryIsNotReported) {
@@ -313,70 +332,6 @@ TEST_F(FreshProgram, OneLibraryThatCannotBeWrittenDoesNotKeepTheOthersOut) {
   EXPECT_FALSE(DeployDependencies(host_));
   EXPECT_FALSE(host_.Files.contains(R"(C:\Gait\Dependencies\comdlg32.ocx)"));
   EXPECT_TRUE(host_.Files.contains(R"(C:\Gait\Dependencies\dao360.dll)"));
-}
-
-const std::string kWriteBack = R"(copy C:\Gait\vantrel_Fix.exe to C:\Gait\vantrel.exe)";
-const std::string kStartAgain = R"(start C:\Gait\vantrel.exe normal)";
-
-TEST_F(Fixer, WaitsTakesThePlaceOfTheProgramAndStartsIt) {
-  EXPECT_FALSE(DeployDependencies(host_));
-  EXPECT_THAT(host_.Steps, ElementsAre("wait 5000 ms", kWriteBack, kStartAgain));
-  EXPECT_EQ(host_.Files.at(R"(C:\Gait\vantrel.exe)"), "fixer");
-}
-
-TEST_F(Fixer, KnowsItselfWhateverTheCaseOfItsName) {
-  host_.Program = R"(C:\Gait\VANTREL_FIX.EXE)";
-  host_.Files[host_.Program] = "fixer";
-  EXPECT_FALSE(DeployDependencies(host_));
-  EXPECT_THAT(host_.Steps,
-              ElementsAre("wait 5000 ms", R"(copy C:\Gait\VANTREL_FIX.EXE to C:\Gait\vantrel.exe)",
-                          kStartAgain));
-}
-
-TEST_F(Fixer, CopiesAgainAfterFiveSecondsUntilTheProgramHasEnded) {
-  host_.FailingCopies = 11;
-  EXPECT_FALSE(DeployDependencies(host_));
-  Steps expected = {"wait 5000 ms"};
-  AppendTimes(expected, 11, {kWriteBack, "wait 5000 ms"});
-  EXPECT_EQ(host_.Steps, expected + Steps({kWriteBack, kStartAgain}));
-}
-
-TEST_F(Fixer, AfterTwelveFailedCopiesSaysSoAndEnds) {
-  host_.FailingCopies = 12;
-  EXPECT_FALSE(DeployDependencies(host_));
-  Steps expected = {"wait 5000 ms"};
-  AppendTimes(expected, 11, {kWriteBack, "wait 5000 ms"});
-  EXPECT_EQ(host_.Steps, expected + Steps({kWriteBack, "message Error copying program file."}));
-}
-
-TEST_F(Fixer, StartsAgainAfterFiveSeconds) {
-  host_.FailingStarts = 11;
-  EXPECT_FALSE(DeployDependencies(host_));
-  Steps expected = {"wait 5000 ms", kWriteBack};
-  AppendTimes(expected, 11, {kStartAgain, "wait 5000 ms"});
-  EXPECT_EQ(host_.Steps, expected + Steps({kStartAgain}));
-}
-
-TEST_F(Fixer, AfterTwelveFailedStartsSaysSoAndEnds) {
-  host_.FailingStarts = 12;
-  EXPECT_FALSE(DeployDependencies(host_));
-  Steps expected = {"wait 5000 ms", kWriteBack};
-  AppendTimes(expected, 11, {kStartAgain, "wait 5000 ms"});
-  EXPECT_EQ(host_.Steps,
-            expected + Steps({kStartAgain, "message Error running main program file."}));
-}
-
-TEST_F(Fixer, WithItsOwnMarkerFileGoesOn) {
-  host_.Files[R"(C:\Gait\vantrel_fix.exe.manifest1)"] = "";
-  EXPECT_TRUE(DeployDependencies(host_));
-  EXPECT_THAT(host_.Steps, IsEmpty());
-}
-
-TEST_F(Fixer, ExtractsNothing) {
-  host_.Files.erase(R"(C:\Gait\vantrel.exe.manifest)");
-  host_.Folders.erase(R"(C:\Gait\Dependencies)");
-  EXPECT_FALSE(DeployDependencies(host_));
-  EXPECT_EQ(Written(), 0U);
 }
 
 }  // namespace

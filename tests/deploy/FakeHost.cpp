@@ -28,6 +28,10 @@ const std::vector<std::string>& LibraryNames() {
   return kNames;
 }
 
+void AppendTimes(Steps& steps, int count, const Steps& more) {
+  for (int k = 0; k < count; ++k) steps.insert(steps.end(), more.begin(), more.end());
+}
+
 void FakeHost::CarryEverything(FakeHost& host) {
   host.Files[host.Program] = "program";
   host.Resources["Manifest/vantrel.exe.manifest"] = "manifest";
@@ -38,6 +42,17 @@ void FakeHost::PutEverythingInPlace(FakeHost& host) {
   host.Files[R"(C:\Gait\vantrel.exe.manifest)"] = "manifest";
   host.Folders.insert(R"(C:\Gait\Dependencies)");
   for (const auto& name : LibraryNames()) host.Files[R"(C:\Gait\Dependencies\)" + name] = name;
+}
+
+std::string FakeHost::LowerCase(const std::string& text) const {
+  std::string lower;
+  for (const char letter : text) {
+    const auto byte = static_cast<unsigned char>(letter);
+    const bool isUmlaut = lower.ends_with('\xC3') && byte >= 0x80 && byte <= 0x9E;
+    const bool isCapital = isUmlaut || (letter >= 'A' && letter <= 'Z');
+    lower += static_cast<char>(isCapital ? letter + ('a' - 'A') : letter);
+  }
+  return lower;
 }
 
 std::span<const std::byte> FakeHost::Resource(const std::string& type,
@@ -85,7 +100,9 @@ void FakeHost::WriteNewFile(const std::string& path, std::span<const std::byte> 
   if (!Folders.contains(WithoutSeparator(path.substr(0, path.rfind('\\') + 1)))) {
     throw RuntimeError(ErrorNumber::PathNotFound);
   }
-  Files[path] = "half";
+  if (Files.contains(path) || Folders.contains(path)) {
+    throw RuntimeError(ErrorNumber::PathFileAccessError);
+  }
   FailIfIn(Unwritable, path);
   std::string content;
   for (const std::byte byte : bytes) content += static_cast<char>(byte);
@@ -93,12 +110,14 @@ void FakeHost::WriteNewFile(const std::string& path, std::span<const std::byte> 
 }
 
 FileTimes FakeHost::ReadTimes(const std::string& path) const {
-  if (TimesFail) throw RuntimeError(ErrorNumber::PathFileAccessError);
+  Step("read times " + path);
+  if (ReadingTimesFails) throw RuntimeError(ErrorNumber::PathFileAccessError);
   return Times.at(path);
 }
 
 void FakeHost::SetTimes(const std::string& path, const FileTimes& times) {
   Step("set times " + path);
+  if (SettingTimesFails) throw RuntimeError(ErrorNumber::PermissionDenied);
   Times[path] = times;
 }
 

@@ -11,7 +11,8 @@
 namespace tests {
 
 // A system in memory. It keeps files, folders and resources in tables, does what it is told to
-// fail, and writes down every step that changes something or takes time; it never waits.
+// fail, and writes down every step that changes something or takes time, and each reading
+// of file times; it never waits.
 class FakeHost : public deploy::Host {
  public:
   // What a test sets up and looks at.
@@ -21,16 +22,17 @@ class FakeHost : public deploy::Host {
   std::set<std::string> Folders = {R"(C:\Gait)"};
   std::map<std::string, std::string> Resources;  // content by "type/name"
   std::map<std::string, modWindowsFileInfo::FileTimes> Times;
-  std::vector<std::string> Steps;
+  mutable std::vector<std::string> Steps;
   mutable std::vector<std::string> Looks;  // every path that was asked about
 
-  // What fails: so many copies and starts from now on, making these files and folders (a file half
-  // way), deleting these files, and all work on file times.
+  // What fails: so many copies and starts from now on, making these files and folders, deleting
+  // these files, reading file times and setting them.
   int FailingCopies = 0;
   int FailingStarts = 0;
   std::set<std::string> Unwritable;
   std::set<std::string> Undeletable;
-  bool TimesFail = false;
+  bool ReadingTimesFails = false;
+  bool SettingTimesFails = false;
 
   // A program file and all the resources that it carries, nothing beside it.
   static void CarryEverything(FakeHost& host);
@@ -38,6 +40,8 @@ class FakeHost : public deploy::Host {
   static void PutEverythingInPlace(FakeHost& host);
 
   char FolderSeparator() const override { return '\\'; }
+  // Of ASCII letters and the German ones.
+  std::string LowerCase(const std::string& text) const override;
   std::string ProgramPath() const override { return Program; }
   bool ErrorIsPending() const override { return Pending; }
   std::span<const std::byte> Resource(const std::string& type,
@@ -55,8 +59,14 @@ class FakeHost : public deploy::Host {
   void ShowMessage(const std::string& text) override;
 
  private:
-  void Step(const std::string& step) { Steps.push_back(step); }
+  void Step(const std::string& step) const { Steps.push_back(step); }
 };
+
+// What a host was asked to do, in order.
+using Steps = std::vector<std::string>;
+
+// Appends `more` to `steps`, `count` times over.
+void AppendTimes(Steps& steps, int count, const Steps& more);
 
 // The file names of the six libraries, in the order in which they are looked for.
 const std::vector<std::string>& LibraryNames();

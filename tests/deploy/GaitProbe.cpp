@@ -25,6 +25,7 @@ class ProbeHost : public tests::OwnSystem {
   void Copy(const std::string& from, const std::string& to) override {
     try {
       OwnSystem::Copy(from, to);
+      Log("copies " + FileName(from) + " to " + FileName(to));
     } catch (const modAllPurpose::RuntimeError&) {
       Log("cannot copy yet");
       throw;

@@ -10,6 +10,7 @@ namespace {
 
 using modResourceFile::ExtractResourceToFile;
 using modResourceFile::Overwrite;
+using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using tests::ErrorNumberOf;
@@ -79,15 +80,24 @@ TEST_F(ExtractingAResource, FailsWhereTheOldFileCannotBeDeleted) {
   EXPECT_EQ(host_.Files.at(R"(C:\Gait\myfile.txt)"), "old");
 }
 
-TEST_F(ExtractingAResource, ThatFailsHalfWayLeavesNoPartOfIt) {
+TEST_F(ExtractingAResource, ThatFailsDeletesNothing) {
   host_.Unwritable = {R"(C:\Gait\myfile.txt)"};
   EXPECT_EQ(ErrorNumberOf([&] {
               ExtractResourceToFile(host_, R"(C:\Gait)", "myfile.txt", "Texts", Overwrite::No);
             }),
             75);
-  EXPECT_THAT(host_.Steps,
-              ElementsAre(R"(write C:\Gait\myfile.txt)", R"(delete C:\Gait\myfile.txt)"));
-  EXPECT_THAT(host_.Files, IsEmpty());
+  EXPECT_THAT(host_.Steps, ElementsAre(R"(write C:\Gait\myfile.txt)"));
+}
+
+TEST_F(ExtractingAResource, FailsWhereAFolderHasItsNameWhetherItOverwritesOrNot) {
+  host_.Folders.insert(R"(C:\Gait\myfile.txt)");
+  for (const Overwrite overwrite : {Overwrite::No, Overwrite::Yes}) {
+    EXPECT_EQ(ErrorNumberOf([&] {
+                ExtractResourceToFile(host_, R"(C:\Gait)", "myfile.txt", "Texts", overwrite);
+              }),
+              75);
+  }
+  EXPECT_THAT(host_.Steps, Each(R"(write C:\Gait\myfile.txt)"));
 }
 
 TEST(FolderExists, IsTrueForAFolderWithOrWithoutItsSeparator) {

@@ -1,6 +1,4 @@
-#include <algorithm>
 #include <chrono>
-#include <ctime>
 #include <filesystem>
 #include <fstream>
 #include <span>
@@ -8,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include "deploy/ResourceFile.h"
 #include "support/FileSystem.h"
 #include "tests/TestTrials.h"
 #include "tests/deploy/OwnSystem.h"
@@ -91,6 +90,25 @@ TEST_F(SystemHost, DeletesAFileAndFailsForOneThatIsNotThere) {
   EXPECT_EQ(ErrorNumberOf([&] { host_.RemoveFile(Path("file")); }), 53);
 }
 
+TEST_F(SystemHost, DeletesNoFolder) {
+  fs::create_directory(folder_ / "folder");
+  EXPECT_NE(ErrorNumberOf([&] { host_.RemoveFile(Path("folder")); }), 0);
+  EXPECT_TRUE(fs::is_directory(folder_ / "folder"));
+}
+
+TEST_F(SystemHost, ExtractsNoResourceOverAFolderAndKeepsIt) {
+  for (const std::string name : {"gaitprobe.exe.manifest", "dao360.dll"}) {
+    fs::create_directory(folder_ / name);
+    const std::string type = name.ends_with(".dll") ? "Dependencies" : "Manifest";
+    EXPECT_EQ(ErrorNumberOf([&] {
+                modResourceFile::ExtractResourceToFile(host_, Path(""), name, type,
+                                                       modResourceFile::Overwrite::No);
+              }),
+              75);
+    EXPECT_TRUE(fs::is_directory(folder_ / name));
+  }
+}
+
 TEST_F(SystemHost, CopiesOverAFileThatIsThere) {
   Write("from", "new");
   Write("to", "old and longer");
@@ -119,7 +137,25 @@ TEST_F(SystemHost, WritesEveryByteOfANewFile) {
 
 TEST_F(SystemHost, FailsToWriteAFileIntoAFolderThatIsNotThere) {
   const std::string path = Path("missing") + host_.FolderSeparator() + "file";
-  EXPECT_EQ(ErrorNumberOf([&] { host_.WriteNewFile(path, {}); }), 53);
+  EXPECT_EQ(ErrorNumberOf([&] { host_.WriteNewFile(path, {}); }), 76);
+}
+
+TEST_F(SystemHost, WritesNoFileInPlaceOfWhatIsThere) {
+  Write("file", "old");
+  fs::create_directory(folder_ / "folder");
+  for (const std::string name : {"file", "folder"}) {
+    EXPECT_EQ(
+        ErrorNumberOf([&] { host_.WriteNewFile(Path(name), std::as_bytes(std::span("new", 3))); }),
+        75)
+        << name;
+  }
+  EXPECT_EQ(Read("file"), "old");
+  EXPECT_TRUE(fs::is_directory(folder_ / "folder"));
+}
+
+TEST_F(SystemHost, KnowsLettersInLowerCase) {
+  EXPECT_EQ(host_.LowerCase("My Vantrel_FIX.EXE"), "my vantrel_fix.exe");
+  EXPECT_EQ(host_.LowerCase(""), "");
 }
 
 TEST_F(SystemHost, NamesFilesInUtf8) {
@@ -130,38 +166,6 @@ TEST_F(SystemHost, NamesFilesInUtf8) {
   EXPECT_NO_THROW(host_.ReadTimes(name));
   host_.RemoveFile(name);
   EXPECT_FALSE(host_.FileExists(name));
-}
-
-// The creation is left aside: some file systems do not let it be set.
-TEST_F(SystemHost, ReadsAndSetsTheTimesOfAFile) {
-  Write("file", "text");
-  FileTimes times = host_.ReadTimes(Path("file"));
-  times.LastAccess -= 48h;
-  times.LastWrite -= 864s;
-  host_.SetTimes(Path("file"), times);
-  const FileTimes now = host_.ReadTimes(Path("file"));
-  EXPECT_EQ(now.LastAccess, times.LastAccess);
-  EXPECT_EQ(now.LastWrite, times.LastWrite);
-}
-
-TEST_F(SystemHost, KeepsTheTimesOfAFileOfTheOtherHalfOfTheYear) {
-  Write("file", "text");
-  FileTimes times = host_.ReadTimes(Path("file"));
-  times.LastWrite -= 183 * 24h;
-  host_.SetTimes(Path("file"), times);
-  EXPECT_EQ(host_.ReadTimes(Path("file")).LastWrite, times.LastWrite);
-}
-
-TEST_F(SystemHost, GivesTheTimesOfTheClockOnTheWall) {
-  Write("file", "text");
-  const auto lastWrite = host_.ReadTimes(Path("file")).LastWrite;
-  const std::time_t now = std::time(nullptr);
-  const std::tm* wall = std::localtime(&now);
-  const auto day = std::chrono::local_days(std::chrono::year(wall->tm_year + 1900) /
-                                           (wall->tm_mon + 1) / wall->tm_mday);
-  const auto time = day + std::chrono::hours(wall->tm_hour) + std::chrono::minutes(wall->tm_min) +
-                    std::chrono::seconds(wall->tm_sec);
-  EXPECT_LT(std::chrono::abs(lastWrite - time), 60s);
 }
 
 TEST_F(SystemHost, FailsForTheTimesOfAFileThatIsNotThere) {

@@ -1,4 +1,9 @@
+#include <cstddef>
+#include <filesystem>
 #include <fstream>
+#include <iterator>
+#include <span>
+#include <string>
 
 #include <gtest/gtest.h>
 
@@ -7,7 +12,15 @@
 
 namespace {
 
+namespace fs = std::filesystem;
 using modAllPurpose::FileExists;
+using modAllPurpose::OneSpelling;
+using modAllPurpose::RemoveFile;
+using modAllPurpose::WriteFileInOneStep;
+using modAllPurpose::WriteNewFile;
+using tests::ErrorNumberOf;
+
+const auto kText = std::as_bytes(std::span("text", 4));
 
 TEST(FileExists, IsTrueForAFileOnly) {
   const tests::TemporaryFolder folder;
@@ -30,6 +43,96 @@ TEST(Utf8Path, IsThePathThatNativePathTook) {
   const std::string path = "folder/M\xC3\xBCller \xE2\x82\xAC.c3d";
   EXPECT_EQ(modAllPurpose::Utf8Path(modAllPurpose::NativePath(path)), path);
   EXPECT_EQ(modAllPurpose::Utf8Path({}), "");
+}
+
+class WritingFiles : public testing::Test {
+ protected:
+  std::string Path(const std::string& name) const {
+    return modAllPurpose::Utf8Path(folder_ / name);
+  }
+
+  void Write(const std::string& name, const std::string& content) const {
+    std::ofstream(folder_ / name, std::ios::binary) << content;
+  }
+
+  std::string Read(const std::string& name) const { return tests::ReadWholeFile(folder_ / name); }
+
+  std::ptrdiff_t FilesInFolder() const {
+    return std::distance(fs::directory_iterator(folder_.Path()), fs::directory_iterator());
+  }
+
+  tests::TemporaryFolder folder_;
+};
+
+TEST_F(WritingFiles, ANewFileHoldsEveryByte) {
+  std::string content;
+  for (int k = 0; k < 256; ++k) content += static_cast<char>(k);
+  WriteNewFile(Path("new"), std::as_bytes(std::span(content)));
+  EXPECT_EQ(Read("new"), content);
+}
+
+TEST_F(WritingFiles, ANewFileMayBeEmpty) {
+  WriteNewFile(Path("new"), {});
+  EXPECT_TRUE(FileExists(Path("new")));
+  EXPECT_EQ(Read("new"), "");
+}
+
+TEST_F(WritingFiles, ANewFileTakesNoOthersPlace) {
+  Write("file", "old");
+  fs::create_directory(folder_ / "folder");
+  for (const std::string name : {"file", "folder"}) {
+    EXPECT_EQ(ErrorNumberOf([&] { WriteNewFile(Path(name), kText); }), 75) << name;
+  }
+  EXPECT_EQ(Read("file"), "old");
+  EXPECT_TRUE(fs::is_directory(folder_ / "folder"));
+}
+
+TEST_F(WritingFiles, ANewFileInAMissingFolderIsPathNotFound) {
+  EXPECT_EQ(ErrorNumberOf([&] { WriteNewFile(Path("missing/new"), kText); }), 76);
+  EXPECT_EQ(FilesInFolder(), 0);
+}
+
+TEST_F(WritingFiles, InOneStepMakesAFileOrReplacesIt) {
+  WriteFileInOneStep(Path("file"), "first and longer");
+  EXPECT_EQ(Read("file"), "first and longer");
+  WriteFileInOneStep(Path("file"), "second");
+  EXPECT_EQ(Read("file"), "second");
+  EXPECT_EQ(FilesInFolder(), 1);
+}
+
+TEST_F(WritingFiles, InOneStepLeavesAFolderOfItsName) {
+  fs::create_directory(folder_ / "folder");
+  EXPECT_NE(ErrorNumberOf([&] { WriteFileInOneStep(Path("folder"), "text"); }), 0);
+  EXPECT_TRUE(fs::is_directory(folder_ / "folder"));
+  EXPECT_EQ(FilesInFolder(), 1);
+}
+
+TEST_F(WritingFiles, InOneStepIntoAMissingFolderIsPathNotFound) {
+  EXPECT_EQ(ErrorNumberOf([&] { WriteFileInOneStep(Path("missing/new"), "text"); }), 76);
+}
+
+TEST_F(WritingFiles, AFileIsRemoved) {
+  Write("file", "text");
+  RemoveFile(Path("file"));
+  EXPECT_EQ(FilesInFolder(), 0);
+}
+
+TEST_F(WritingFiles, RemovingWhatIsNotThereIsFileNotFound) {
+  EXPECT_EQ(ErrorNumberOf([&] { RemoveFile(Path("missing")); }), 53);
+}
+
+TEST_F(WritingFiles, AnEmptyFolderIsNotRemovedAsAFile) {
+  fs::create_directory(folder_ / "folder");
+  EXPECT_EQ(ErrorNumberOf([&] { RemoveFile(Path("folder")); }), 75);
+  EXPECT_TRUE(fs::is_directory(folder_ / "folder"));
+}
+
+TEST_F(WritingFiles, OneFileHasOneSpelling) {
+  Write("file", "text");
+  fs::create_directory(folder_ / "folder");
+  EXPECT_EQ(OneSpelling(Path("folder/../file")), OneSpelling(Path("file")));
+  EXPECT_EQ(OneSpelling(Path("./missing")), OneSpelling(Path("missing")));
+  EXPECT_NE(OneSpelling(Path("missing")), OneSpelling(Path("file")));
 }
 
 }  // namespace

@@ -1,0 +1,56 @@
+#include <cerrno>
+#include <system_error>
+#include <unistd.h>
+
+#include "support/FileSystem.h"
+#include "support/RuntimeError.h"
+#include "support/SystemFiles.h"
+
+namespace modAllPurpose {
+
+namespace fs = std::filesystem;
+
+fs::path NativePath(const std::string& utf8Path) { return utf8Path; }
+
+std::string Utf8Path(const fs::path& nativePath) { return nativePath.string(); }
+
+bool FileExists(const std::string& path) {
+  std::error_code failure;
+  const auto status = fs::status(path, failure);
+  return !failure && fs::exists(status) && !fs::is_directory(status);
+}
+
+std::string OneSpelling(const std::string& path) {
+  std::error_code failure;
+  const fs::path whole = fs::weakly_canonical(path, failure);
+  return failure ? path : whole.string();
+}
+
+void RemoveFile(const std::string& path) {
+  if (::unlink(path.c_str()) != 0) throw FileErrorFromErrno(errno);
+}
+
+namespace systemFiles {
+
+std::FILE* CreateNew(const fs::path& path) { return std::fopen(path.c_str(), "wbx"); }
+
+std::FILE* OpenToChange(const fs::path& path) { return std::fopen(path.c_str(), "r+b"); }
+
+void DeleteIfPossible(const fs::path& path) noexcept { ::unlink(path.c_str()); }
+
+fs::path WithoutLinks(const fs::path& path) {
+  std::error_code failure;
+  if (!fs::is_symlink(path, failure)) return path;
+  fs::path target = fs::canonical(path, failure);
+  if (failure) throw FileErrorFromCode(failure);
+  return target;
+}
+
+void CopyRights(const fs::path& pattern, const fs::path& file) {
+  std::error_code ignored;
+  fs::permissions(file, fs::status(pattern, ignored).permissions(), ignored);
+}
+
+}  // namespace systemFiles
+
+}  // namespace modAllPurpose

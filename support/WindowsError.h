@@ -1,0 +1,10 @@
+#pragma once
+
+#include "support/RuntimeError.h"
+
+namespace modAllPurpose {
+
+// The error for what the last call of the system about a file failed with. On Windows only.
+RuntimeError LastFileError();
+
+}  // namespace modAllPurpose

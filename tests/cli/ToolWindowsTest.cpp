@@ -1,0 +1,98 @@
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <string_view>
+#include <vector>
+#include <windows.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "sample/TrialBuilder.h"
+#include "tests/TestTrials.h"
+#include "tests/cli/ToolRun.h"
+
+// What the tool does on Windows alone.
+namespace {
+
+namespace fs = std::filesystem;
+using testing::ElementsAre;
+using tests::RunTool;
+using tests::ToolResult;
+
+class ToolOnWindows : public testing::Test {
+ protected:
+  void Write(const std::string& name) const {
+    sample::TrialBuilder().Build().WriteTo(folder_ / name);
+  }
+
+  // The heading of each file that a run on `patterns` reported on.
+  std::vector<std::string> FilesOf(std::vector<std::string> patterns) const {
+    patterns.insert(patterns.begin(), "groups");
+    std::vector<std::string> headings = tests::LinesOf(RunTool(patterns, {}, folder_.Path()).Out);
+    std::erase_if(headings, [](const auto& line) { return !line.starts_with("==> "); });
+    return headings;
+  }
+
+  tests::TemporaryFolder folder_;
+};
+
+TEST_F(ToolOnWindows, TakesAWildcardForTheFilesWhoseWholeNamesFit) {
+  for (const char* name :
+       {"walk 2.c3d", "Walk 1.C3D", "walk 10.c3d", "x.c3dbak", "longer name.c3d~"}) {
+    Write(name);
+  }
+  fs::create_directory(folder_ / "folder.c3d");
+  EXPECT_THAT(FilesOf({"*.c3d"}),
+              ElementsAre("==> Walk 1.C3D <==", "==> walk 10.c3d <==", "==> walk 2.c3d <=="));
+  EXPECT_THAT(FilesOf({"WALK ?.c3d"}), ElementsAre("==> Walk 1.C3D <==", "==> walk 2.c3d <=="));
+}
+
+TEST_F(ToolOnWindows, TakesFilesInTheOrderOfTheirPatterns) {
+  for (const char* name : {"a.c3d", "b1.c3d", "b2.c3d"}) Write(name);
+  EXPECT_THAT(FilesOf({"b?.c3d", "a.c3d"}),
+              ElementsAre("==> b1.c3d <==", "==> b2.c3d <==", "==> a.c3d <=="));
+}
+
+TEST_F(ToolOnWindows, TakesAWildcardThatFitsNothingForAFile) {
+  const ToolResult result = RunTool({"groups", "*.c3d"}, {}, folder_.Path());
+  EXPECT_EQ(result.Status, 1);
+  EXPECT_THAT(result.Err, testing::StartsWith("vantrel-report: *.c3d: "));
+}
+
+TEST_F(ToolOnWindows, NamesAWildcardThatTheSystemRefusesAndDoesTheOtherFiles) {
+  Write("walk.c3d");
+  const ToolResult result =
+      RunTool({"groups", R"(walk.c3d\*.c3d)", "walk.c3d"}, {}, folder_.Path());
+  EXPECT_EQ(result.Status, 1);
+  EXPECT_THAT(result.Err,
+              testing::StartsWith(R"(vantrel-report: walk.c3d\*.c3d: Run-time error ')"));
+  EXPECT_EQ(tests::LinesOf(result.Err).size(), 1U) << result.Err;
+  EXPECT_THAT(result.Out, testing::StartsWith("POINT"));
+}
+
+TEST_F(ToolOnWindows, IsReadyForLongPaths) {
+  const HMODULE tool = ::LoadLibraryExW(fs::absolute(VANTREL_REPORT_TOOL).c_str(), nullptr,
+                                        LOAD_LIBRARY_AS_DATAFILE);
+  ASSERT_NE(tool, nullptr);
+  const HRSRC manifest = ::FindResourceW(tool, MAKEINTRESOURCEW(1), MAKEINTRESOURCEW(24));
+  ASSERT_NE(manifest, nullptr);
+  const std::string_view text(
+      static_cast<const char*>(::LockResource(::LoadResource(tool, manifest))),
+      ::SizeofResource(tool, manifest));
+  EXPECT_NE(text.find(">true</longPathAware>"), std::string_view::npos);
+  ::FreeLibrary(tool);
+}
+
+TEST_F(ToolOnWindows, ReadsAFileBehindALongPathWhereTheSystemLetsOneBeMade) {
+  fs::path folder = folder_.Path();
+  for (int k = 0; k < 6; ++k) folder /= std::string(60, 'x');
+  std::error_code failure;
+  fs::create_directories(folder, failure);
+  if (failure) GTEST_SKIP() << "no long paths for this program";
+  sample::TrialBuilder().Build().WriteTo(folder / "walk.c3d");
+  EXPECT_EQ(RunTool({"groups", (folder / "walk.c3d").string()}).Status, 0);
+}
+
+}  // namespace

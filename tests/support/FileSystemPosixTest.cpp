@@ -1,0 +1,77 @@
+#include <csignal>
+#include <filesystem>
+#include <functional>
+#include <span>
+#include <string>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <gtest/gtest.h>
+
+#include "support/FileSystem.h"
+#include "tests/TestTrials.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using tests::ErrorNumberOf;
+
+// The number of the error that `work` ends in where no file may be longer than `bytes`.
+int ErrorUnderLimit(rlim_t bytes, const std::function<void()>& work) {
+  const pid_t child = ::fork();
+  if (child == 0) {
+    std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit limit{bytes, bytes};
+    if (::setrlimit(RLIMIT_FSIZE, &limit) != 0) ::_exit(0);
+    ::_exit(ErrorNumberOf(work));
+  }
+  int status = 0;
+  ::waitpid(child, &status, 0);
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+TEST(WriteNewFile, ThatFailsHalfWayLeavesNoPartOfIt) {
+  const tests::TemporaryFolder folder;
+  const std::string content(100'000, 'x');
+  const std::string path = (folder / "new").string();
+  EXPECT_EQ(
+      ErrorUnderLimit(
+          5000, [&] { modAllPurpose::WriteNewFile(path, std::as_bytes(std::span(content))); }),
+      61);
+  EXPECT_TRUE(fs::is_empty(folder.Path()));
+}
+
+TEST(WriteNewFile, TakesNoPlaceOfALinkThatLeadsNowhere) {
+  const tests::TemporaryFolder folder;
+  fs::create_symlink("nowhere", folder / "link");
+  EXPECT_EQ(ErrorNumberOf([&] { modAllPurpose::WriteNewFile((folder / "link").string(), {}); }),
+            75);
+  EXPECT_FALSE(fs::exists(folder / "nowhere"));
+}
+
+TEST(RemoveFile, TakesALinkAwayAndLeavesItsFolder) {
+  const tests::TemporaryFolder folder;
+  fs::create_directory(folder / "folder");
+  fs::create_symlink("folder", folder / "link");
+  modAllPurpose::RemoveFile((folder / "link").string());
+  EXPECT_FALSE(fs::is_symlink(folder / "link"));
+  EXPECT_TRUE(fs::is_directory(folder / "folder"));
+}
+
+TEST(OneSpelling, IsThatOfTheFileALinkLeadsTo) {
+  const tests::TemporaryFolder folder;
+  modAllPurpose::WriteNewFile((folder / "file").string(), {});
+  fs::create_symlink("file", folder / "link");
+  EXPECT_EQ(modAllPurpose::OneSpelling((folder / "link").string()),
+            modAllPurpose::OneSpelling((folder / "file").string()));
+}
+
+TEST(OneSpelling, IsThePathItselfWhereTheSystemCannotTell) {
+  const tests::TemporaryFolder folder;
+  fs::create_symlink("loop", folder / "loop");
+  const std::string path = (folder / "loop" / "x" / ".." / "y").string();
+  EXPECT_EQ(modAllPurpose::OneSpelling(path), path);
+}
+
+}  // namespace

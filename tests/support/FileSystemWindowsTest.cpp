@@ -1,0 +1,108 @@
+#include <cstdio>
+#include <filesystem>
+#include <span>
+#include <string>
+#include <vector>
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include "support/FileSystem.h"
+#include "tests/TestTrials.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using modAllPurpose::FileExists;
+using modAllPurpose::NativePath;
+using modAllPurpose::Utf8Path;
+using modAllPurpose::WriteFileInOneStep;
+using modAllPurpose::WriteNewFile;
+using tests::ErrorNumberOf;
+using tests::ReadWholeFile;
+
+const auto kText = std::as_bytes(std::span("text", 4));
+
+class WindowsFiles : public testing::Test {
+ protected:
+  // The path of `name` in the form that the system takes as it stands.
+  std::string PathAsItStands(const std::string& name) const {
+    return R"(\\?\)" + Utf8Path((folder_ / name).make_preferred());
+  }
+
+  tests::TemporaryFolder folder_;
+};
+
+TEST_F(WindowsFiles, AreFoundWrittenAndRemovedUnderAPathAsItStands) {
+  const std::string path = PathAsItStands("file");
+  EXPECT_FALSE(FileExists(path));
+  WriteNewFile(path, kText);
+  EXPECT_TRUE(FileExists(path));
+  EXPECT_EQ(ReadWholeFile(folder_ / "file"), "text");
+  modAllPurpose::RemoveFile(path);
+  EXPECT_FALSE(FileExists(path));
+  EXPECT_FALSE(FileExists(PathAsItStands(""))) << "a folder";
+}
+
+TEST_F(WindowsFiles, AreReplacedInOneStepUnderAPathAsItStands) {
+  const std::string path = PathAsItStands("file");
+  WriteFileInOneStep(path, "first");
+  WriteFileInOneStep(path, "second");
+  EXPECT_EQ(ReadWholeFile(folder_ / "file"), "second");
+  fs::remove(folder_ / "file");
+  EXPECT_TRUE(fs::is_empty(folder_.Path()));
+}
+
+TEST_F(WindowsFiles, HaveOneSpellingWhateverTheirCaseAndSeparators) {
+  const std::string path = Utf8Path(folder_.Path());
+  const std::string one = modAllPurpose::OneSpelling(path + "\\Gr\xC3\xBC\xC3\x9F.gcd");
+  EXPECT_EQ(modAllPurpose::OneSpelling(path + "/x/../gR\xC3\x9C\xC3\x9F.GCD"), one);
+  EXPECT_NE(modAllPurpose::OneSpelling(path + "/gr.gcd"), one);
+}
+
+TEST_F(WindowsFiles, OnAShareHaveASpellingEach) {
+  EXPECT_NE(modAllPurpose::OneSpelling(R"(\\server\share\a.gcd)"),
+            modAllPurpose::OneSpelling(R"(\\server\share\b.gcd)"));
+}
+
+TEST_F(WindowsFiles, ThatAreReadOnlyAreRemoved) {
+  const fs::path file = folder_ / "file";
+  WriteNewFile(Utf8Path(file), kText);
+  ASSERT_NE(::SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY), 0);
+  modAllPurpose::RemoveFile(Utf8Path(file));
+  EXPECT_TRUE(fs::is_empty(folder_.Path()));
+}
+
+TEST_F(WindowsFiles, ThatAnotherHasOpenAreDenied) {
+  const fs::path file = folder_ / "file";
+  WriteNewFile(Utf8Path(file), kText);
+  const HANDLE open =
+      ::CreateFileW(file.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+  ASSERT_NE(open, INVALID_HANDLE_VALUE);
+  EXPECT_EQ(ErrorNumberOf([&] { modAllPurpose::RemoveFile(Utf8Path(file)); }), 70);
+  EXPECT_EQ(ErrorNumberOf([&] { WriteFileInOneStep(Utf8Path(file), "new"); }), 70);
+  ::CloseHandle(open);
+  EXPECT_EQ(ReadWholeFile(file), "text");
+}
+
+TEST_F(WindowsFiles, ForWhichNoStreamIsLeftAreNotLeftBehindNorTheirDescriptors) {
+  std::vector<std::FILE*> streams;
+  while (std::FILE* stream = std::fopen("NUL", "rb")) streams.push_back(stream);
+  constexpr int kMoreThanDescriptors = 3000;
+  int failed = 0;
+  for (int k = 0; k < kMoreThanDescriptors; ++k) {
+    if (ErrorNumberOf([&] { WriteNewFile(Utf8Path(folder_ / "file"), kText); }) != 0) ++failed;
+  }
+  for (std::FILE* stream : streams) std::fclose(stream);
+  EXPECT_EQ(failed, kMoreThanDescriptors);
+  EXPECT_TRUE(fs::is_empty(folder_.Path()));
+  EXPECT_EQ(ErrorNumberOf([&] { WriteNewFile(Utf8Path(folder_ / "file"), kText); }), 0);
+}
+
+TEST(WindowsPaths, ThatAreNoUnicodeAreAnAccessError) {
+  EXPECT_EQ(ErrorNumberOf([] { Utf8Path(std::wstring(L"C:\\\xD800.c3d")); }), 75);
+  EXPECT_EQ(ErrorNumberOf([] { NativePath("C:\\\xFF.c3d"); }), 75);
+  EXPECT_FALSE(FileExists("C:\\\xFF.c3d"));
+}
+
+}  // namespace
