@@ -175,15 +175,14 @@ class AnalogReader {
     const auto count = static_cast<std::size_t>(state_.PointFrameCount);
     const auto block = std::make_shared_for_overwrite<float[]>(count * SampleCount());
     const std::span<float> values(block.get(), count * SampleCount());
-    AnalogFrames frames(state_.PointFrameCount);
+    AnalogFrames::Tags tags(state_.PointFrameCount);
     for (std::size_t i = 0; i < count; ++i, ++place.FrameIndex) {
       const std::int32_t next = NextFrame(state_, layout_, place, position);
       ReadSamples(values.subspan(i * SampleCount(), SampleCount()), position);
-      frames[static_cast<std::int32_t>(i) + 1] = {SampleValues(block, i * SampleCount(), samples_),
-                                                  Time(place), next};
+      tags.AsSpan()[i] = {.Time = Time(place), .NextFramePosition = next};
       position = next;
     }
-    return frames;
+    return {block, samples_, std::move(tags)};
   }
 
   float Time(const FramePlace& place) const { return FrameTime(state_, secondsPerFrame_, place); }
@@ -237,12 +236,18 @@ std::int32_t IndexOf(const OneBasedTable<std::string>& labels, std::string_view 
   return 0;
 }
 
+void SetEvent(PointSamples& samples, const EventFrameRecord& event) {
+  PointSample& sample = samples[event.Frame];
+  sample.EventSide = event.Side;
+  sample.EventType = event.Type;
+}
+
+void SetEvent(AnalogFrames& frames, const EventFrameRecord& event) { frames.SetEvent(event); }
+
 template <typename Frames>
 void TagWithEvents(const FileState& state, Frames& frames) {
   for (std::int32_t k = 1; k <= state.StrideEventFrameCount; ++k) {
-    const EventFrameRecord& event = state.StrideEventFrames[k];
-    frames[event.Frame].EventSide = event.Side;
-    frames[event.Frame].EventType = event.Type;
+    SetEvent(frames, state.StrideEventFrames[k]);
   }
 }
 

@@ -17,8 +17,8 @@ class SampleValues {
   SampleValues() = default;
 
   // The `count` samples from `first` on, from 0, of a block that must hold them.
-  SampleValues(std::shared_ptr<float[]> block, std::size_t first, std::int32_t count)
-      : block_(std::move(block)), first_(block_.get() + first), count_(count) {}
+  SampleValues(const std::shared_ptr<float[]>& block, std::size_t first, std::int32_t count)
+      : samples_(block, block.get() + first), count_(count) {}
 
   std::int32_t Count() const { return count_; }
 
@@ -26,15 +26,14 @@ class SampleValues {
     if (index < 1 || index > count_) {
       throw modAllPurpose::RuntimeError(modAllPurpose::ErrorNumber::SubscriptOutOfRange);
     }
-    return first_[index - 1];
+    return samples_.get()[index - 1];
   }
 
-  const float* begin() const { return first_; }
-  const float* end() const { return first_ + count_; }
+  const float* begin() const { return samples_.get(); }
+  const float* end() const { return samples_.get() + count_; }
 
  private:
-  std::shared_ptr<float[]> block_;
-  const float* first_ = nullptr;
+  std::shared_ptr<const float> samples_;  // the first one; keeps the whole block
   std::int32_t count_ = 0;
 };
 
