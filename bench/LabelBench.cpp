@@ -11,6 +11,7 @@
 
 #include "bench/BenchTrial.h"
 #include "bench/Budget.h"
+#include "bench/MemoryPeak.h"
 #include "c3d/FrameData.h"
 #include "sample/TrialBuilder.h"
 
@@ -161,8 +162,14 @@ BENCHMARK(LoopOverLargeFrames)->Repetitions(9)->Unit(benchmark::kMillisecond);
 }  // namespace
 
 int main(int argc, char* argv[]) {
-  return bench::RunWithBudgets(argc, argv,
-                               {{"LabelInSmallFrames", "LoopOverSmallFrames", 1.5},
-                                {"ChannelInSmallFrames", "LoopOverSamples", {}},
-                                {"LabelInLargeFrames", "LoopOverLargeFrames", 1.5}});
+  (void)LargeFrames();
+  const double memory = bench::MemoryRise([] {
+    benchmark::DoNotOptimize(modVantrel::ReadPointDataForIndex(LargeFrames().State(), kLabel));
+  });
+  const int status = bench::RunWithBudgets(argc, argv,
+                                           {{"LabelInSmallFrames", "LoopOverSmallFrames", 1.5},
+                                            {"ChannelInSmallFrames", "LoopOverSamples", 1.5},
+                                            {"LabelInLargeFrames", "LoopOverLargeFrames", 1.5}});
+  constexpr double kMostMegabytes = 50;
+  return bench::PrintRow("Label of 1.9 GB, MB of memory", "", memory, kMostMegabytes) ? status : 1;
 }
