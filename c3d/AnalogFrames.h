@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <utility>
 
 #include "c3d/GaitEvents.h"
@@ -37,7 +36,7 @@ class AnalogFrames {
   AnalogFrames() = default;
 
   // `block` must hold `samplesPerFrame` samples for each of `tags`, frame after frame.
-  AnalogFrames(std::shared_ptr<float[]> block, std::int32_t samplesPerFrame, Tags tags)
+  AnalogFrames(SampleBlock block, std::int32_t samplesPerFrame, Tags tags)
       : block_(std::move(block)), samplesPerFrame_(samplesPerFrame), tags_(std::move(tags)) {}
 
   std::int32_t Count() const { return tags_.Count(); }
@@ -58,7 +57,7 @@ class AnalogFrames {
   }
 
  private:
-  std::shared_ptr<float[]> block_;
+  SampleBlock block_;
   std::int32_t samplesPerFrame_ = 0;
   Tags tags_;
 };

@@ -5,6 +5,8 @@
 #include <memory>
 #include <span>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "c3d/StoredNumbers.h"
 #include "support/Arithmetic.h"
@@ -173,8 +175,8 @@ class AnalogReader {
     FramePlace place = PlaceOf(state_, layout_, position);
     RequireFrames(position);
     const auto count = static_cast<std::size_t>(state_.PointFrameCount);
-    const auto block = std::make_shared_for_overwrite<float[]>(count * SampleCount());
-    const std::span<float> values(block.get(), count * SampleCount());
+    const auto block = std::make_shared<std::vector<float>>(count * SampleCount());
+    const std::span<float> values(*block);
     AnalogFrames::Tags tags(state_.PointFrameCount);
     for (std::size_t i = 0; i < count; ++i, ++place.FrameIndex) {
       const std::int32_t next = NextFrame(state_, layout_, place, position);
@@ -327,8 +329,8 @@ AnalogFrame ReadAnalogFrameAt(const FileState& state, std::int32_t& position) {
   const AnalogReader reader(state);
   const FramePlace place = PlaceOf(state, reader.Layout(), position);
   const std::int32_t next = NextFrame(state, reader.Layout(), place, position);
-  const auto block = std::make_shared_for_overwrite<float[]>(reader.SampleCount());
-  reader.ReadSamples({block.get(), reader.SampleCount()}, position);
+  const auto block = std::make_shared<std::vector<float>>(reader.SampleCount());
+  reader.ReadSamples(*block, position);
   return {SampleValues(block, 0, static_cast<std::int32_t>(reader.SampleCount())),
           reader.Time(place), next};
 }
