@@ -110,7 +110,7 @@ BENCHMARK(ReadAllCopies)->Iterations(1)->Repetitions(5)->UseManualTime();
 
 }  // namespace
 
-int main(int argc, char* argv[]) {
+int main(int argc, char** argv) {
   return bench::RunWithBudgets(argc, argv,
                                {{"MeasuresByOneProcess", "ReadAllCopies", {}, kSeconds},
                                 {"MeasuresByTwoProcesses", "MeasuresByOneProcess", {}, kSeconds},

@@ -45,7 +45,7 @@ bool PrintRow(const std::string& what, const std::string& floor, double figure,
   return kept;
 }
 
-int RunWithBudgets(int argc, char* argv[], const std::vector<Budget>& budgets) {
+int RunWithBudgets(int argc, char** argv, const std::vector<Budget>& budgets) {
   Figures figures;
   if (!RunBenchmarks(argc, argv, figures)) return kWrongCommandLine;
   bool kept = !figures.HasFailures();
@@ -59,7 +59,7 @@ int RunWithBudgets(int argc, char* argv[], const std::vector<Budget>& budgets) {
   return kept ? 0 : kMissed;
 }
 
-int RunWithGrowths(int argc, char* argv[], const std::vector<Growth>& growths) {
+int RunWithGrowths(int argc, char** argv, const std::vector<Growth>& growths) {
   Figures figures;
   if (!RunBenchmarks(argc, argv, figures)) return kWrongCommandLine;
   bool kept = !figures.HasFailures();

@@ -20,7 +20,7 @@ struct Budget {
 // Runs the registered benchmarks, prints one row of a table for each budget, and returns the exit
 // status: 0 where all are kept, 1 where one is missed or a benchmark failed. The fastest repetition
 // of a benchmark counts. Budgets whose benchmarks a filter left out are passed over.
-int RunWithBudgets(int argc, char* argv[], const std::vector<Budget>& budgets);
+int RunWithBudgets(int argc, char** argv, const std::vector<Budget>& budgets);
 
 // A row of that table: what was measured, against what, the figure, its bound and the verdict.
 // Answers with the verdict: false where the bound is missed.
@@ -36,6 +36,6 @@ struct Growth {
 
 // The same for growths. The exponent of a step from one size to ten times of it is the logarithm,
 // to the base of 10, of how many times the cost has become; the larger of both steps counts.
-int RunWithGrowths(int argc, char* argv[], const std::vector<Growth>& growths);
+int RunWithGrowths(int argc, char** argv, const std::vector<Growth>& growths);
 
 }  // namespace bench

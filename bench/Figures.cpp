@@ -38,7 +38,7 @@ void Figures::Keep(const Run& run, const std::string& figure, double value) {
   if (!isNew && value < place->second) place->second = value;
 }
 
-bool RunBenchmarks(int argc, char* argv[], Figures& figures) {
+bool RunBenchmarks(int argc, char** argv, Figures& figures) {
   KeepFreedMemory();
   std::string mixed = "--benchmark_enable_random_interleaving=true";
   std::vector<char*> arguments(argv, argv + argc);

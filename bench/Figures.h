@@ -37,6 +37,6 @@ class Figures : public benchmark::ConsoleReporter {
 // Runs the registered benchmarks in an order that mixes their repetitions, so that a disturbance
 // hits all sides of a ratio, and keeps freed memory with the process, so that a side is not
 // measured by the pages that the system takes and gives again. False for a wrong command line.
-bool RunBenchmarks(int argc, char* argv[], Figures& figures);
+bool RunBenchmarks(int argc, char** argv, Figures& figures);
 
 }  // namespace bench

@@ -78,7 +78,7 @@ BENCHMARK(TwentyStrides)->Repetitions(5)->Unit(benchmark::kMillisecond);
 
 // Two strides have the labels of both feet, so from one stride to several the labels double; from
 // then on nothing more is read.
-int main(int argc, char* argv[]) {
+int main(int argc, char** argv) {
   return bench::RunWithBudgets(argc, argv,
                                {{"FiveStrides", "OneStride", 2.05, kBytesRead},
                                 {"TwentyStrides", "FiveStrides", 1.01, kBytesRead},

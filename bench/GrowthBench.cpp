@@ -11,7 +11,7 @@ constexpr double kAsItsSquare = 2.15;
 
 }  // namespace
 
-int main(int argc, char* argv[]) {
+int main(int argc, char** argv) {
   return bench::RunWithGrowths(argc, argv,
                                {{"OpenByFrames", kNot},
                                 {"PointByFrames", kAsTheWork},

@@ -24,7 +24,7 @@ using modVantrel::FileState;
 constexpr std::int32_t kLabel = 20;
 constexpr std::int32_t kChannel = 3;
 constexpr std::int16_t kSamples = 10;
-constexpr std::size_t kPieceSize = 256 * 1024;
+constexpr std::size_t kPieceSize = std::size_t{256} * 1024;
 constexpr std::size_t kPointSize = 16;
 
 // 32767 frames of that many points and analog values as floats, the data a hole in the file.
@@ -101,7 +101,7 @@ void BareLoopOverSamples(benchmark::State& run, const BenchTrial& trial) {
   const std::size_t step = static_cast<std::size_t>(trial.State().AnalogChannelsCount) * 4;
   const off_t channelOffset = trial.State().SeekPtrForFirstFrameData - 1 +
                               trial.State().Header.PointLabelCount * off_t{kPointSize} +
-                              (kChannel - 1) * 4;
+                              (kChannel - 1) * off_t{4};
   const int file = ::open(trial.File().c_str(), O_RDONLY);
   std::vector<std::byte> piece(framesPerPiece * frameSize);
   while (run.KeepRunning()) {
@@ -161,7 +161,7 @@ BENCHMARK(LoopOverLargeFrames)->Repetitions(9)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 
-int main(int argc, char* argv[]) {
+int main(int argc, char** argv) {
   (void)LargeFrames();
   const double memory = bench::MemoryRise([] {
     benchmark::DoNotOptimize(modVantrel::ReadPointDataForIndex(LargeFrames().State(), kLabel));

@@ -208,7 +208,7 @@ void RequireSameLines() {
 
 }  // namespace
 
-int main(int argc, char* argv[]) {
+int main(int argc, char** argv) {
   RequireSameLines();
   return bench::RunWithBudgets(argc, argv,
                                {{"ListAnalog", "PrintfAnalog", 0.2},

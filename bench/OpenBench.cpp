@@ -80,7 +80,7 @@ BENCHMARK(ReadBlocksOfSampleWalk)->Repetitions(9)->Unit(benchmark::kMicrosecond)
 
 }  // namespace
 
-int main(int argc, char* argv[]) {
+int main(int argc, char** argv) {
   const std::string large = LargeTrial().File().string();
   const double memory = bench::MemoryRise([&large] {
     modVantrel::FileState state;

@@ -1,7 +1,7 @@
 #include <array>
 #include <cstddef>
 #include <cstring>
-#include <memory>
+#include <vector>
 
 #include <benchmark/benchmark.h>
 
@@ -47,10 +47,10 @@ const PointSamples& Samples() {
 
 void CopySamples(benchmark::State& run) {
   const auto count = static_cast<std::size_t>(Samples().Count());
-  const auto copy = std::make_unique<PointSample[]>(count);
+  std::vector<PointSample> copy(count);
   while (run.KeepRunning()) {
-    std::memcpy(copy.get(), &*Samples().begin(), count * sizeof(PointSample));
-    benchmark::DoNotOptimize(copy.get());
+    std::memcpy(copy.data(), &*Samples().begin(), count * sizeof(PointSample));
+    benchmark::DoNotOptimize(copy.data());
     benchmark::ClobberMemory();
   }
 }
@@ -92,7 +92,7 @@ BENCHMARK(NormalizeAnotherStride)->Repetitions(9)->Unit(benchmark::kMicrosecond)
 
 }  // namespace
 
-int main(int argc, char* argv[]) {
+int main(int argc, char** argv) {
   return bench::RunWithBudgets(argc, argv,
                                {{"ReadLabel", "CopySamples", {}},
                                 {"BuildThreeSplines", "CopySamples", {}},

@@ -188,7 +188,7 @@ int MeasureAll() {
 
 Q_COREAPP_STARTUP_FUNCTION(WatchFirstPaint)
 
-int main(int argc, char* argv[]) {
+int main(int argc, char** argv) {
   const QString mode = qEnvironmentVariable("VANTREL_BENCH");
   if (mode == QLatin1String(kFirstPaint)) return app::RunVantrel(argc, argv);
   if (mode == QLatin1String(kListing)) return MeasureListing(argc, argv);
