@@ -1,73 +1,75 @@
 #include "bench/Budget.h"
 
+#include <algorithm>
+#include <cmath>
 #include <iostream>
-#include <limits>
-#include <map>
 
-#include <benchmark/benchmark.h>
 #include <fmt/format.h>
+
+#include "bench/Figures.h"
 
 namespace bench {
 
 namespace {
 
-constexpr const char* kTime = "";
+constexpr int kMissed = 1;
+constexpr int kWrongCommandLine = 2;
 
-// The least of each figure over the repetitions of a benchmark.
-class Figures : public benchmark::ConsoleReporter {
- public:
-  Figures() : ConsoleReporter(OO_None) {}
+std::string Duration(double nanoseconds) {
+  if (nanoseconds < 1e4) return fmt::format("{:.2f} us", nanoseconds / 1e3);
+  return nanoseconds < 1e7 ? fmt::format("{:.1f} us", nanoseconds / 1e3)
+                           : fmt::format("{:.1f} ms", nanoseconds / 1e6);
+}
 
-  void ReportRuns(const std::vector<Run>& runs) override {
-    for (const Run& run : runs) {
-      if (run.run_type != Run::RT_Iteration || run.error_occurred) continue;
-      Keep(run.run_name.function_name, kTime, run.GetAdjustedCPUTime());
-      for (const auto& [name, counter] : run.counters) {
-        Keep(run.run_name.function_name, name, counter.value);
-      }
-    }
-    ConsoleReporter::ReportRuns(runs);
-  }
-
-  // The figure; not a number where it was not measured.
-  double Least(const std::string& benchmark, const std::string& figure) const {
-    const auto found = least_.find({benchmark, figure});
-    return found == least_.end() ? std::numeric_limits<double>::quiet_NaN() : found->second;
-  }
-
- private:
-  void Keep(const std::string& benchmark, const std::string& figure, double value) {
-    const auto [place, isNew] = least_.try_emplace({benchmark, figure}, value);
-    if (!isNew && value < place->second) place->second = value;
-  }
-
-  std::map<std::pair<std::string, std::string>, double> least_;
-};
+// False where the growth is faster than it may be.
+bool PrintGrowth(const Growth& growth, double once, double tenfold, double hundredfold) {
+  const double first = std::log10(tenfold / once);
+  const double second = std::log10(hundredfold / tenfold);
+  const bool kept = std::max(first, second) <= growth.MostExponent;
+  std::cout << fmt::format("| {} | {} | {} | {} | {:.2f} | {:.2f} | {:.2f} | {} |\n", growth.Name,
+                           Duration(once), Duration(tenfold), Duration(hundredfold), first, second,
+                           growth.MostExponent, kept ? "kept" : "MISSED");
+  return kept;
+}
 
 }  // namespace
 
-int RunWithBudgets(int argc, char* argv[], const std::vector<Budget>& budgets) {
-  benchmark::Initialize(&argc, argv);
-  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
-  Figures figures;
-  benchmark::RunSpecifiedBenchmarks(&figures);
+bool PrintRow(const std::string& what, const std::string& floor, double figure,
+              std::optional<double> most) {
+  const bool kept = !most || figure <= *most;
+  std::cout << fmt::format("| {} | {} | {:.2f} | {} | {} |\n", what, floor, figure,
+                           most ? fmt::format("{:.2f}", *most) : "",
+                           !most  ? ""
+                           : kept ? "kept"
+                                  : "MISSED");
+  return kept;
+}
 
-  int status = 0;
+int RunWithBudgets(int argc, char** argv, const std::vector<Budget>& budgets) {
+  Figures figures;
+  if (!RunBenchmarks(argc, argv, figures)) return kWrongCommandLine;
+  bool kept = !figures.HasFailures();
   for (const Budget& budget : budgets) {
-    const double ratio =
-        figures.Least(budget.Name, budget.Counter) / figures.Least(budget.Floor, budget.Counter);
-    if (!(ratio >= 0)) continue;
-    const bool kept = !budget.Most || ratio <= *budget.Most;
-    std::cout << fmt::format("{}: {} takes {:.3f} of {}{}{}{}\n",
-                             !budget.Most ? "seen"
-                             : kept       ? "kept"
-                                          : "MISSED",
-                             budget.Name, ratio, budget.Floor, budget.Counter.empty() ? "" : " in ",
-                             budget.Counter,
-                             budget.Most ? fmt::format(", at most {:.3f}", *budget.Most) : "");
-    if (!kept) status = 1;
+    const double floor = budget.Floor.empty() ? 1 : figures.Least(budget.Floor, budget.Counter);
+    const double figure = figures.Least(budget.Name, budget.Counter) / floor;
+    if (std::isnan(figure)) continue;
+    const std::string in = budget.Counter.empty() ? "" : ", " + budget.Counter;
+    kept &= PrintRow(budget.Name + in, budget.Floor, figure, budget.Most);
   }
-  return status;
+  return kept ? 0 : kMissed;
+}
+
+int RunWithGrowths(int argc, char** argv, const std::vector<Growth>& growths) {
+  Figures figures;
+  if (!RunBenchmarks(argc, argv, figures)) return kWrongCommandLine;
+  bool kept = !figures.HasFailures();
+  for (const Growth& growth : growths) {
+    const double once = figures.Least(growth.Name, kTime, "1");
+    if (std::isnan(once)) continue;
+    kept &= PrintGrowth(growth, once, figures.Least(growth.Name, kTime, "10"),
+                        figures.Least(growth.Name, kTime, "100"));
+  }
+  return kept ? 0 : kMissed;
 }
 
 }  // namespace bench

@@ -11,6 +11,7 @@
 
 #include "bench/BenchTrial.h"
 #include "bench/Budget.h"
+#include "bench/MemoryPeak.h"
 #include "c3d/FrameData.h"
 #include "sample/TrialBuilder.h"
 
@@ -23,7 +24,7 @@ using modVantrel::FileState;
 constexpr std::int32_t kLabel = 20;
 constexpr std::int32_t kChannel = 3;
 constexpr std::int16_t kSamples = 10;
-constexpr std::size_t kPieceSize = 256 * 1024;
+constexpr std::size_t kPieceSize = std::size_t{256} * 1024;
 constexpr std::size_t kPointSize = 16;
 
 // 32767 frames of that many points and analog values as floats, the data a hole in the file.
@@ -100,7 +101,7 @@ void BareLoopOverSamples(benchmark::State& run, const BenchTrial& trial) {
   const std::size_t step = static_cast<std::size_t>(trial.State().AnalogChannelsCount) * 4;
   const off_t channelOffset = trial.State().SeekPtrForFirstFrameData - 1 +
                               trial.State().Header.PointLabelCount * off_t{kPointSize} +
-                              (kChannel - 1) * 4;
+                              (kChannel - 1) * off_t{4};
   const int file = ::open(trial.File().c_str(), O_RDONLY);
   std::vector<std::byte> piece(framesPerPiece * frameSize);
   while (run.KeepRunning()) {
@@ -160,9 +161,15 @@ BENCHMARK(LoopOverLargeFrames)->Repetitions(9)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 
-int main(int argc, char* argv[]) {
-  return bench::RunWithBudgets(argc, argv,
-                               {{"LabelInSmallFrames", "LoopOverSmallFrames", 1.5},
-                                {"ChannelInSmallFrames", "LoopOverSamples", {}},
-                                {"LabelInLargeFrames", "LoopOverLargeFrames", 1.5}});
+int main(int argc, char** argv) {
+  (void)LargeFrames();
+  const double memory = bench::MemoryRise([] {
+    benchmark::DoNotOptimize(modVantrel::ReadPointDataForIndex(LargeFrames().State(), kLabel));
+  });
+  const int status = bench::RunWithBudgets(argc, argv,
+                                           {{"LabelInSmallFrames", "LoopOverSmallFrames", 1.5},
+                                            {"ChannelInSmallFrames", "LoopOverSamples", 1.5},
+                                            {"LabelInLargeFrames", "LoopOverLargeFrames", 1.5}});
+  constexpr double kMostMegabytes = 50;
+  return bench::PrintRow("Label of 1.9 GB, MB of memory", "", memory, kMostMegabytes) ? status : 1;
 }

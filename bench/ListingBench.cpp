@@ -1,7 +1,12 @@
 #include <array>
 #include <cstdio>
+#include <fcntl.h>
+#include <functional>
 #include <stdexcept>
 #include <string>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
 
 #include <benchmark/benchmark.h>
 
@@ -48,27 +53,30 @@ std::string LinesOfListing(const std::string& text) {
   return text.substr(heading, text.size() - heading - 1);
 }
 
-// Takes lines and hands them on in pieces: to `kept` where there is one, else to nobody.
+constexpr std::size_t kPieceSize = std::size_t{256} * 1024;
+
+// Takes lines and hands them on in pieces: to `taker` where there is one, else to nobody.
 class Pieces : public modAllPurpose::ReportOutput {
  public:
-  explicit Pieces(std::string* kept = nullptr) : kept_(kept) {}
+  using Taker = std::function<void(std::string_view piece)>;
+
+  explicit Pieces(Taker taker = nullptr) : taker_(std::move(taker)) {}
 
   void BeginReport() override {}
   void AppendOutput(std::string_view text, bool /*paneOnly*/, bool continueLine) override {
     pending_ += text;
     if (!continueLine) pending_ += '\n';
-    constexpr std::size_t kPieceSize = std::size_t{256} * 1024;
     if (pending_.size() >= kPieceSize) HandOn();
   }
   void HandOn() {
     benchmark::DoNotOptimize(pending_.data());
-    if (kept_ != nullptr) *kept_ += pending_;
+    if (taker_) taker_(pending_);
     pending_.clear();
   }
 
  private:
   std::string pending_;
-  std::string* kept_;
+  Taker taker_;
 };
 
 void AnalogListing(Pieces& output) {
@@ -118,6 +126,46 @@ void PrintfAnalog(benchmark::State& run) {
   while (run.KeepRunning()) AnalogLinesByPrintf(frames, output);
 }
 
+// A file that the pieces of a text go to, as fast as the system takes them.
+class TextFile {
+ public:
+  TextFile()
+      : file_(::open((Trial().Folder() / "listing.txt").c_str(),
+                     O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, S_IRUSR | S_IWUSR)) {}
+  TextFile(const TextFile&) = delete;
+  TextFile& operator=(const TextFile&) = delete;
+  ~TextFile() { ::close(file_); }
+
+  void Write(std::string_view piece) const {
+    if (::write(file_, piece.data(), piece.size()) != static_cast<ssize_t>(piece.size())) {
+      throw std::runtime_error("the text of a listing cannot be written");
+    }
+  }
+
+ private:
+  int file_;
+};
+
+void ListAnalogToFile(benchmark::State& run) {
+  while (run.KeepRunning()) {
+    const TextFile file;
+    Pieces output([&file](std::string_view piece) { file.Write(piece); });
+    AnalogListing(output);
+  }
+}
+
+void WriteFinishedText(benchmark::State& run) {
+  std::string text;
+  Pieces output([&text](std::string_view piece) { text += piece; });
+  AnalogListing(output);
+  while (run.KeepRunning()) {
+    const TextFile file;
+    for (std::size_t i = 0; i < text.size(); i += kPieceSize) {
+      file.Write(std::string_view(text).substr(i, kPieceSize));
+    }
+  }
+}
+
 void ListPoint(benchmark::State& run) {
   Pieces output;
   while (run.KeepRunning()) PointListing(output);
@@ -131,6 +179,8 @@ void PrintfPoint(benchmark::State& run) {
 
 BENCHMARK(ListAnalog)->Repetitions(7)->Unit(benchmark::kMillisecond);
 BENCHMARK(PrintfAnalog)->Repetitions(7)->Unit(benchmark::kMillisecond);
+BENCHMARK(ListAnalogToFile)->Repetitions(7)->Unit(benchmark::kMillisecond);
+BENCHMARK(WriteFinishedText)->Repetitions(7)->Unit(benchmark::kMillisecond);
 BENCHMARK(ListPoint)->Repetitions(7)->Unit(benchmark::kMillisecond);
 BENCHMARK(PrintfPoint)->Repetitions(7)->Unit(benchmark::kMillisecond);
 
@@ -138,7 +188,7 @@ BENCHMARK(PrintfPoint)->Repetitions(7)->Unit(benchmark::kMillisecond);
 template <typename Print>
 std::string TextOf(const Print& print) {
   std::string text;
-  Pieces output(&text);
+  Pieces output([&text](std::string_view piece) { text += piece; });
   print(output);
   return text;
 }
@@ -158,8 +208,10 @@ void RequireSameLines() {
 
 }  // namespace
 
-int main(int argc, char* argv[]) {
+int main(int argc, char** argv) {
   RequireSameLines();
-  return bench::RunWithBudgets(
-      argc, argv, {{"ListAnalog", "PrintfAnalog", 0.2}, {"ListPoint", "PrintfPoint", 0.2}});
+  return bench::RunWithBudgets(argc, argv,
+                               {{"ListAnalog", "PrintfAnalog", 0.2},
+                                {"ListPoint", "PrintfPoint", 0.2},
+                                {"ListAnalogToFile", "WriteFinishedText", {}}});
 }

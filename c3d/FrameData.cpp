@@ -5,6 +5,8 @@
 #include <memory>
 #include <span>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "c3d/StoredNumbers.h"
 #include "support/Arithmetic.h"
@@ -24,8 +26,8 @@ using modAllPurposeNumbers::ToSingle;
 namespace {
 
 // Where the gap to the label's bytes in the next frame is at most this, reading it along is faster
-// than a system call a frame.
-constexpr std::int64_t kWidestGapToReadAlong = 4096;
+// than a system call a frame: about as many bytes are copied in the time of a call.
+constexpr std::int64_t kWidestGapToReadAlong = 8192;
 constexpr std::size_t kManyFrames = std::size_t{256} * 1024;
 
 // Sizes of the frame data in bytes; 0 where the storage is unknown.
@@ -173,17 +175,16 @@ class AnalogReader {
     FramePlace place = PlaceOf(state_, layout_, position);
     RequireFrames(position);
     const auto count = static_cast<std::size_t>(state_.PointFrameCount);
-    const auto block = std::make_shared_for_overwrite<float[]>(count * SampleCount());
-    const std::span<float> values(block.get(), count * SampleCount());
-    AnalogFrames frames(state_.PointFrameCount);
+    const auto block = std::make_shared<std::vector<float>>(count * SampleCount());
+    const std::span<float> values(*block);
+    AnalogFrames::Tags tags(state_.PointFrameCount);
     for (std::size_t i = 0; i < count; ++i, ++place.FrameIndex) {
       const std::int32_t next = NextFrame(state_, layout_, place, position);
       ReadSamples(values.subspan(i * SampleCount(), SampleCount()), position);
-      frames[static_cast<std::int32_t>(i) + 1] = {SampleValues(block, i * SampleCount(), samples_),
-                                                  Time(place), next};
+      tags.AsSpan()[i] = {.Time = Time(place), .NextFramePosition = next};
       position = next;
     }
-    return frames;
+    return {block, samples_, std::move(tags)};
   }
 
   float Time(const FramePlace& place) const { return FrameTime(state_, secondsPerFrame_, place); }
@@ -237,12 +238,18 @@ std::int32_t IndexOf(const OneBasedTable<std::string>& labels, std::string_view 
   return 0;
 }
 
+void SetEvent(PointSamples& samples, const EventFrameRecord& event) {
+  PointSample& sample = samples[event.Frame];
+  sample.EventSide = event.Side;
+  sample.EventType = event.Type;
+}
+
+void SetEvent(AnalogFrames& frames, const EventFrameRecord& event) { frames.SetEvent(event); }
+
 template <typename Frames>
 void TagWithEvents(const FileState& state, Frames& frames) {
   for (std::int32_t k = 1; k <= state.StrideEventFrameCount; ++k) {
-    const EventFrameRecord& event = state.StrideEventFrames[k];
-    frames[event.Frame].EventSide = event.Side;
-    frames[event.Frame].EventType = event.Type;
+    SetEvent(frames, state.StrideEventFrames[k]);
   }
 }
 
@@ -322,8 +329,8 @@ AnalogFrame ReadAnalogFrameAt(const FileState& state, std::int32_t& position) {
   const AnalogReader reader(state);
   const FramePlace place = PlaceOf(state, reader.Layout(), position);
   const std::int32_t next = NextFrame(state, reader.Layout(), place, position);
-  const auto block = std::make_shared_for_overwrite<float[]>(reader.SampleCount());
-  reader.ReadSamples({block.get(), reader.SampleCount()}, position);
+  const auto block = std::make_shared<std::vector<float>>(reader.SampleCount());
+  reader.ReadSamples(*block, position);
   return {SampleValues(block, 0, static_cast<std::int32_t>(reader.SampleCount())),
           reader.Time(place), next};
 }

@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <string_view>
 
+#include "c3d/AnalogFrames.h"
 #include "c3d/FileState.h"
-#include "c3d/SampleValues.h"
 #include "support/OneBasedTable.h"
 
 // One label's values in every frame, read from the open file at each call. Only the bytes around
@@ -24,18 +24,8 @@ struct PointSample {
   std::int32_t EventSide = kSideNone;
 };
 
-// One analog channel in one frame.
-struct AnalogFrame {
-  SampleValues Values;                 // in time order, as stored: no scale, no offset
-  float Time = 0;                      // seconds; of the frame, not of each sample
-  std::int32_t NextFramePosition = 0;  // of the channel's first sample; 0 in the last frame
-  std::int32_t EventType = kTypeOther;
-  std::int32_t EventSide = kSideNone;
-};
-
-// Indexed by frame, 1 to PointFrameCount; empty where there is no such label.
+// Indexed by frame, 1 to PointFrameCount, like AnalogFrames; empty where there is no such label.
 using PointSamples = modAllPurpose::OneBasedTable<PointSample>;
-using AnalogFrames = modAllPurpose::OneBasedTable<AnalogFrame>;
 
 // The index of a label, from 1; 0 where there is none. Case and the blanks around `label` do not
 // count; of several equal labels the first one wins.

@@ -3,11 +3,14 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
-#include <span>
+#include <vector>
 
 #include "support/RuntimeError.h"
 
 namespace modVantrel {
+
+// The samples of many frames, one behind the other.
+using SampleBlock = std::shared_ptr<const std::vector<float>>;
 
 // The samples of one channel in one frame, numbered from 1 in time order. An index outside
 // 1..Count() is error 9. The frames of a channel share one block of memory, which lasts as long as
@@ -17,8 +20,8 @@ class SampleValues {
   SampleValues() = default;
 
   // The `count` samples from `first` on, from 0, of a block that must hold them.
-  SampleValues(std::shared_ptr<float[]> block, std::size_t first, std::int32_t count)
-      : block_(std::move(block)), first_(block_.get() + first), count_(count) {}
+  SampleValues(const SampleBlock& block, std::size_t first, std::int32_t count)
+      : samples_(block, block->data() + first), count_(count) {}
 
   std::int32_t Count() const { return count_; }
 
@@ -26,15 +29,14 @@ class SampleValues {
     if (index < 1 || index > count_) {
       throw modAllPurpose::RuntimeError(modAllPurpose::ErrorNumber::SubscriptOutOfRange);
     }
-    return first_[index - 1];
+    return samples_.get()[index - 1];
   }
 
-  const float* begin() const { return first_; }
-  const float* end() const { return first_ + count_; }
+  const float* begin() const { return samples_.get(); }
+  const float* end() const { return samples_.get() + count_; }
 
  private:
-  std::shared_ptr<float[]> block_;
-  const float* first_ = nullptr;
+  std::shared_ptr<const float> samples_;  // the first one; keeps the whole block
   std::int32_t count_ = 0;
 };
 

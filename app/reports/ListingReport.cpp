@@ -104,7 +104,7 @@ void AnalogLines(const FileState& state, const AnalogFrames& frames, Tags tags,
   EventTag tag;
   std::int32_t sampleCounter = 0;
   for (std::int32_t i = 1; i <= state.PointFrameCount; ++i) {
-    const AnalogFrame& frame = frames[i];
+    const AnalogFrame frame = frames[i];
     if (tags == Tags::With) output.Piece(tag.For(frame.EventType, frame.EventSide));
     printer.FormatAnalogLine(sampleCounter, i, frame, tags);
   }

@@ -225,12 +225,12 @@ TEST(AnalogData, LargeFramesGiveTheValuesOfSmallOnes) {
   OpenedTrial small(Channels(2, 4, Storage::Single));
   TrialBuilder points = Channels(2, 4, Storage::Single);
   points.SetParam("POINT", sample::TextListParam("LABELS", {"Q"}));
-  for (int i = 0; i < 300; ++i) {
+  for (int i = 0; i < 600; ++i) {
     points.AddPoint("Q", [](std::int32_t) { return std::array{1.0F, 2.0F, 3.0F}; });
   }
   OpenedTrial large(points);
   ASSERT_EQ(large.Result(), OpenResult::Success);
-  ASSERT_GT(large.State().Header.PointLabelCount * 16, 4096);
+  ASSERT_GT(large.State().Header.PointLabelCount * 16, 8192 + 16);
   for (std::int32_t channel = 1; channel <= 2; ++channel) {
     const AnalogFrames expected = ReadAnalogDataForIndex(small.State(), channel);
     const AnalogFrames frames = ReadAnalogDataForIndex(large.State(), channel);

@@ -220,7 +220,7 @@ TEST(PointData, LargeFramesGiveTheValuesOfSmallOnes) {
   // 200 channels of 32 samples of 2 bytes: 12800 bytes a frame.
   OpenedTrial large(build(199).SamplesPerFrame(32));
   ASSERT_EQ(large.Result(), OpenResult::Success);
-  ASSERT_GT(large.State().Header.AnalogValuesPerFrame * 2, 4096);
+  ASSERT_GT(large.State().Header.AnalogValuesPerFrame * 2, 8192);
   for (std::int32_t label = 1; label <= 3; ++label) {
     const PointSamples expected = ReadPointDataForIndex(small.State(), label);
     const PointSamples samples = ReadPointDataForIndex(large.State(), label);
