@@ -21,6 +21,7 @@ using tests::OpenedTrial;
 constexpr int kSubscriptOutOfRange = 9;
 constexpr int kDivisionByZero = 11;
 constexpr int kInputPastEndOfFile = 62;
+constexpr int kBadRecordNumber = 63;
 
 // Values that a scale of 0.5 stores as whole numbers, different in every label and frame.
 std::array<float, 3> Coordinates(std::int32_t label, std::int32_t frame) {
@@ -176,6 +177,25 @@ TEST(PointData, FrameSizeOfZeroIsADivisionByZero) {
   OpenedTrial trial(ThreePoints());
   trial.State().Header.AnalogValuesPerFrame = -12;
   EXPECT_EQ(ErrorNumberOf([&] { ReadPointDataForIndex(trial.State(), 1); }), kDivisionByZero);
+}
+
+TEST(PointData, FramesOfANegativeSizeLeadBackThroughTheFile) {
+  OpenedTrial trial(ThreePoints());
+  modVantrel::FileState& state = trial.State();
+  state.Header.AnalogValuesPerFrame = -24;  // 3 points of 4 values less 24 of 2 bytes each
+  const auto samples = ReadPointDataForIndex(state, 1);
+  for (std::int32_t frame = 1; frame < samples.Count(); ++frame) {
+    EXPECT_EQ(samples[frame].NextFramePosition, state.SeekPtrForFirstFrameData - 24 * frame);
+    EXPECT_EQ(samples[frame].X,
+              ReadPointSampleAt(state, state.SeekPtrForFirstFrameData - 24 * (frame - 1)).X);
+  }
+  EXPECT_EQ(samples[samples.Count()].NextFramePosition, 0);
+}
+
+TEST(PointData, FramesThatLeadOutOfTheFileAreABadRecordNumber) {
+  OpenedTrial trial(ThreePoints());
+  trial.State().Header.AnalogValuesPerFrame = -12000;
+  EXPECT_EQ(ErrorNumberOf([&] { ReadPointDataForIndex(trial.State(), 1); }), kBadRecordNumber);
 }
 
 TEST(PointData, CutDataIsAnErrorOnlyForTheLabelsThatAreCut) {
