@@ -124,7 +124,7 @@ class BackwardWriter {
     std::memcpy(characters_.data() + first_, kDigitPairs.data() + 2 * pair, 2);
   }
 
-  std::array<char, kRoom> characters_;
+  std::array<char, kRoom> characters_{};
   std::size_t first_ = kRoom;
 };
 
