@@ -99,12 +99,12 @@ TEST_F(PaneReader, ACharacterIsFoundAtItsPlaceOnTheScreen) {
 // Listens in place of a screen reader.
 class PaneReaderEvents : public PaneReader {
  protected:
-  PaneReaderEvents() {
+  void SetUp() override {
     Activate(true);
     before_ = QAccessible::installUpdateHandler(Note);
     Notes().clear();
   }
-  ~PaneReaderEvents() override {
+  void TearDown() override {
     QAccessible::installUpdateHandler(before_);
     Activate(false);
   }
