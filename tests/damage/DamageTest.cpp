@@ -1,10 +1,10 @@
 #include <array>
 #include <cstdint>
+#include <ctime>
 #include <filesystem>
 #include <random>
 #include <span>
 #include <string>
-#include <time.h>
 #include <vector>
 
 #include <gtest/gtest.h>

@@ -22,7 +22,6 @@ using modWindowsFileInfo::FileTimes;
 using modWindowsFileInfo::LocalTime;
 using modWindowsFileInfo::ReadFileTimes;
 using modWindowsFileInfo::SetFileTimes;
-using tests::ErrorNumberOf;
 using namespace std::chrono_literals;
 
 class FileTimesInAZone : public testing::Test {
@@ -97,7 +96,7 @@ TEST_F(FileTimesInAZone, BeforeTheCalendarOfTheSystemCannotBeSet) {
   const FileTimes before = Read();
   FileTimes times = before;
   times.LastWrite = LocalTime(std::chrono::local_days(1600y / 1 / 1).time_since_epoch());
-  EXPECT_EQ(ErrorNumberOf([&] { Set(times); }), 75);
+  EXPECT_EQ(tests::ErrorNumberOf([&] { Set(times); }), 75);
   EXPECT_EQ(Read(), before);
 }
 #endif
