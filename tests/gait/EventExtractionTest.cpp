@@ -45,7 +45,8 @@ TrialBuilder EventGroup(std::int16_t used, const std::vector<std::string>& conte
 }
 
 std::vector<std::string> Repeated(const std::string& text, std::size_t count) {
-  return std::vector<std::string>(count, text);
+  std::vector<std::string> repeated(count, text);
+  return repeated;
 }
 
 const GaitEventState kNoGaitEvents;

@@ -26,8 +26,10 @@ void AddOfLabel(std::map<std::string, std::string>& texts, const FileState& stat
                 const std::string& name, OfLabel report,
                 const modAllPurpose::OneBasedTable<std::string>& labels) {
   for (const std::string& label : labels) {
-    texts[name + ' ' + label] =
-        TextOf([&](ReportOutput& output) { (void)report(state, label, output); });
+    std::string title = name;
+    title += ' ';
+    title += label;
+    texts[title] = TextOf([&](ReportOutput& output) { (void)report(state, label, output); });
   }
 }
 
