@@ -1,3 +1,4 @@
+#include <array>
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
@@ -73,11 +74,12 @@ TEST(Locale, ReportsDoNotDependOnIt) {
   ASSERT_EQ(stream.str(), "1.234,5") << "the comma of C++ streams is not in force";
   if (EnvironmentNamesALocale()) {
     ASSERT_TRUE(comma.CLocaleIsSet()) << "LC_ALL names a locale that is not there";
-    char digits[8];
-    std::snprintf(digits, sizeof digits, "%.1f", 0.5);
-    ASSERT_STREQ(digits, (std::string("0") + std::localeconv()->decimal_point + "5").c_str());
+    std::array<char, 8> digits{};
+    std::snprintf(digits.data(), digits.size(), "%.1f", 0.5);
+    ASSERT_STREQ(digits.data(),
+                 (std::string("0") + std::localeconv()->decimal_point + "5").c_str());
     if (std::string(std::getenv("LC_ALL")).starts_with("de_")) {
-      ASSERT_STREQ(digits, "0,5");
+      ASSERT_STREQ(digits.data(), "0,5");
     }
   }
   OpenedWalk anew(walk, FindGaitEvents);
