@@ -91,7 +91,7 @@ void FindBar::Find(bool forward) {
   }
   const bool found =
       pane_->Find({wanted.constData(), static_cast<std::size_t>(wanted.size())}, forward);
-  if (!found && isHidden()) Open();  // to say so
+  if (!found) show();  // to say so, of this text: opening would take over the selection
   lblFindResult_->setText(tr("not found"));
   lblFindResult_->setVisible(!found);
   TakePlace();

@@ -247,7 +247,9 @@ TEST_F(Find, F3SaysWhatIsNotThereWhereTheBarIsClosed) {
   QTest::keyClicks(Wanted(), QStringLiteral("zzz"));
   QTest::keyClick(Wanted(), Qt::Key_Escape);
   ASSERT_FALSE(Bar()->isVisible());
+  Pane()->setSelection(0, 0, 0, 4);
   QTest::keyClick(&form_, Qt::Key_F3);
+  EXPECT_EQ(Wanted()->text(), QStringLiteral("zzz"));
   EXPECT_TRUE(Bar()->isVisible());
   EXPECT_TRUE(Control<QLabel>("lblFindResult")->isVisible());
 }
