@@ -5,7 +5,7 @@
 
 #include <QTreeWidget>
 
-#include "app/reports/NavigationTree.h"
+#include "reports/NavigationTree.h"
 
 namespace app {
 

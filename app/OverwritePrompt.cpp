@@ -5,7 +5,7 @@
 #include "app/CursorOverride.h"
 #include "app/FormReport.h"
 #include "app/QtText.h"
-#include "support/modMsgBoxPlus.h"
+#include "app/modMsgBoxPlus.h"
 
 namespace app {
 

@@ -21,9 +21,9 @@
 #include "app/OutputPane.h"
 #include "app/QtText.h"
 #include "app/Screens.h"
-#include "app/reports/NavigationTree.h"
 #include "c3d/OpenC3dFile.h"
 #include "gait/EventExtraction.h"
+#include "reports/NavigationTree.h"
 
 namespace app {
 

@@ -8,13 +8,13 @@
 #include "app/OutputPane.h"
 #include "app/OverwritePrompt.h"
 #include "app/frmVantrel.h"
-#include "app/reports/HeaderReport.h"
-#include "app/reports/ListingReport.h"
-#include "app/reports/ParameterReport.h"
 #include "gait/GcdCommand.h"
-#include "gait/MeasuresReport.h"
-#include "gait/NormalizedReport.h"
-#include "gait/StrikeOffReport.h"
+#include "reports/HeaderReport.h"
+#include "reports/ListingReport.h"
+#include "reports/MeasuresReport.h"
+#include "reports/NormalizedReport.h"
+#include "reports/ParameterReport.h"
+#include "reports/StrikeOffReport.h"
 
 namespace app {
 
@@ -105,16 +105,14 @@ void frmVantrel::cmdShowAnalogDataWithEvents_Click() {
   ShowLabelReport(reports::ShowAnalogDataWithEvents, controls_.txtAnalogLabel);
 }
 
-void frmVantrel::cmdShowStrikeOffEvents_Click() {
-  ShowPlainReport(modVantrel::ShowStrikeOffEvents);
-}
+void frmVantrel::cmdShowStrikeOffEvents_Click() { ShowPlainReport(reports::ShowStrikeOffEvents); }
 
 void frmVantrel::cmdShowSingleValueStrikeOffMeasures_Click() {
-  ShowPlainReport(modVantrel::ShowSingleValueStrikeOffMeasures);
+  ShowPlainReport(reports::ShowSingleValueStrikeOffMeasures);
 }
 
 void frmVantrel::cmdShowNormalized_Click() {
-  ShowLabelReport(modVantrel::ShowNormalized, controls_.txtPointLabel);
+  ShowLabelReport(reports::ShowNormalized, controls_.txtPointLabel);
 }
 
 void frmVantrel::cmdWriteGcdFiles_Click() {

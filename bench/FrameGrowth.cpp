@@ -3,13 +3,13 @@
 
 #include <benchmark/benchmark.h>
 
-#include "app/reports/ListingReport.h"
 #include "bench/DiscardedReport.h"
 #include "bench/SizedTrials.h"
 #include "c3d/FrameData.h"
 #include "gait/CubicSpline.h"
-#include "gait/MeasuresReport.h"
-#include "gait/NormalizedReport.h"
+#include "reports/ListingReport.h"
+#include "reports/MeasuresReport.h"
+#include "reports/NormalizedReport.h"
 #include "sample/TrialBuilder.h"
 
 // How cost grows with the frames: 320, 3200 and 32000 of them, one stride in their first seconds.
@@ -87,13 +87,13 @@ void SplineByFrames(benchmark::State& run) {
 void NormalizedByFrames(benchmark::State& run) {
   const auto& state = Trial(run).State();
   DiscardedReport output;
-  while (run.KeepRunning()) (void)modVantrel::ShowNormalized(state, "LKneeAngles", output);
+  while (run.KeepRunning()) (void)reports::ShowNormalized(state, "LKneeAngles", output);
 }
 
 void MeasuresByFrames(benchmark::State& run) {
   const auto& state = Trial(run).State();
   DiscardedReport output;
-  while (run.KeepRunning()) modVantrel::ShowSingleValueStrikeOffMeasures(state, output);
+  while (run.KeepRunning()) reports::ShowSingleValueStrikeOffMeasures(state, output);
 }
 
 BENCHMARK(OpenByFrames)->Apply(bench::InThreeSizes);

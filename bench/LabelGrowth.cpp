@@ -5,10 +5,10 @@
 #include <benchmark/benchmark.h>
 #include <fmt/format.h>
 
-#include "app/reports/ListingReport.h"
 #include "bench/DiscardedReport.h"
 #include "bench/SizedTrials.h"
 #include "c3d/FrameData.h"
+#include "reports/ListingReport.h"
 #include "sample/TrialBuilder.h"
 
 // How cost grows with the labels: 30, 300 and 3000 points. A parameter holds the names of 255 at

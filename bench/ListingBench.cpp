@@ -10,10 +10,10 @@
 
 #include <benchmark/benchmark.h>
 
-#include "app/reports/ListingReport.h"
 #include "bench/BenchTrial.h"
 #include "bench/Budget.h"
 #include "c3d/FrameData.h"
+#include "reports/ListingReport.h"
 #include "sample/TrialBuilder.h"
 
 // Long listings, reading included, against the same lines by the C library. Both sides hand their

@@ -3,10 +3,10 @@
 #include <benchmark/benchmark.h>
 #include <fmt/format.h>
 
-#include "app/reports/NavigationTree.h"
-#include "app/reports/ParameterReport.h"
 #include "bench/DiscardedReport.h"
 #include "bench/SizedTrials.h"
+#include "reports/NavigationTree.h"
+#include "reports/ParameterReport.h"
 #include "sample/TrialBuilder.h"
 
 // How cost grows with the parameters: 10, 100 and 1000 of them in 1, 10 and 100 groups, of which a

@@ -7,9 +7,9 @@
 #include "bench/SizedTrials.h"
 #include "bench/WalkOfStrides.h"
 #include "gait/GcdCommand.h"
-#include "gait/MeasuresReport.h"
-#include "gait/NormalizedReport.h"
-#include "gait/StrikeOffReport.h"
+#include "reports/MeasuresReport.h"
+#include "reports/NormalizedReport.h"
+#include "reports/StrikeOffReport.h"
 
 // How cost grows with the strides: 1, 10 and 100 in trials of the same frames. A hundred have 204
 // events, an EVENT group holds 255.
@@ -28,19 +28,19 @@ void OpenByStrides(benchmark::State& run) { bench::OpenAgain(run, Trial(run)); }
 void EventsByStrides(benchmark::State& run) {
   const auto& state = Trial(run).State();
   DiscardedReport output;
-  while (run.KeepRunning()) modVantrel::ShowStrikeOffEvents(state, output);
+  while (run.KeepRunning()) reports::ShowStrikeOffEvents(state, output);
 }
 
 void MeasuresByStrides(benchmark::State& run) {
   const auto& state = Trial(run).State();
   DiscardedReport output;
-  while (run.KeepRunning()) modVantrel::ShowSingleValueStrikeOffMeasures(state, output);
+  while (run.KeepRunning()) reports::ShowSingleValueStrikeOffMeasures(state, output);
 }
 
 void NormalizedByStrides(benchmark::State& run) {
   const auto& state = Trial(run).State();
   DiscardedReport output;
-  while (run.KeepRunning()) (void)modVantrel::ShowNormalized(state, "LTOE", output);
+  while (run.KeepRunning()) (void)reports::ShowNormalized(state, "LTOE", output);
 }
 
 void GcdByStrides(benchmark::State& run) {

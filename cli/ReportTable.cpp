@@ -3,14 +3,14 @@
 #include <algorithm>
 #include <array>
 
-#include "app/reports/HeaderReport.h"
-#include "app/reports/ListingReport.h"
-#include "app/reports/NavigationTree.h"
-#include "app/reports/ParameterReport.h"
 #include "cli/GcdReport.h"
-#include "gait/MeasuresReport.h"
-#include "gait/NormalizedReport.h"
-#include "gait/StrikeOffReport.h"
+#include "reports/HeaderReport.h"
+#include "reports/ListingReport.h"
+#include "reports/MeasuresReport.h"
+#include "reports/NavigationTree.h"
+#include "reports/NormalizedReport.h"
+#include "reports/ParameterReport.h"
+#include "reports/StrikeOffReport.h"
 
 namespace cli {
 
@@ -55,7 +55,7 @@ ReportResult Analog(const FileState& state, const Request& request, ReportOutput
 }
 
 ReportResult Normalized(const FileState& state, const Request& request, ReportOutput& output) {
-  return modVantrel::ShowNormalized(state, request.Label, output);
+  return reports::ShowNormalized(state, request.Label, output);
 }
 
 std::string Gcd(const FileState& state, Request& request, ReportOutput& output) {
@@ -70,8 +70,8 @@ constexpr std::array kReports = {
     ReportEntry{"labels", Plain<reports::ShowPointLabels>, false},
     ReportEntry{"point", Refusing<Point>, true},
     ReportEntry{"analog", Refusing<Analog>, true},
-    ReportEntry{"events", Plain<modVantrel::ShowStrikeOffEvents>, false},
-    ReportEntry{"measures", Plain<modVantrel::ShowSingleValueStrikeOffMeasures>, false},
+    ReportEntry{"events", Plain<reports::ShowStrikeOffEvents>, false},
+    ReportEntry{"measures", Plain<reports::ShowSingleValueStrikeOffMeasures>, false},
     ReportEntry{"normalized", Refusing<Normalized>, true},
     ReportEntry{"gcd", Gcd, false},
     ReportEntry{"tree", Plain<reports::ShowTree>, false},

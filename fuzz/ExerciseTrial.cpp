@@ -4,18 +4,18 @@
 #include <functional>
 #include <vector>
 
-#include "app/reports/HeaderReport.h"
-#include "app/reports/ListingReport.h"
-#include "app/reports/NavigationTree.h"
-#include "app/reports/ParameterReport.h"
 #include "c3d/FrameData.h"
 #include "c3d/OpenC3dFile.h"
 #include "gait/EventExtraction.h"
 #include "gait/GcdCalcs.h"
 #include "gait/GcdCommand.h"
-#include "gait/MeasuresReport.h"
-#include "gait/NormalizedReport.h"
-#include "gait/StrikeOffReport.h"
+#include "reports/HeaderReport.h"
+#include "reports/ListingReport.h"
+#include "reports/MeasuresReport.h"
+#include "reports/NavigationTree.h"
+#include "reports/NormalizedReport.h"
+#include "reports/ParameterReport.h"
+#include "reports/StrikeOffReport.h"
 
 namespace fuzz {
 
@@ -73,8 +73,8 @@ void RunPlainReports(const FileState& state) {
   });
   Run([&](ReportOutput& output) { ShowPointLabels(state, output); });
   Run([&](ReportOutput& output) { ShowTree(state, output); });
-  Run([&](ReportOutput& output) { modVantrel::ShowStrikeOffEvents(state, output); });
-  Run([&](ReportOutput& output) { modVantrel::ShowSingleValueStrikeOffMeasures(state, output); });
+  Run([&](ReportOutput& output) { reports::ShowStrikeOffEvents(state, output); });
+  Run([&](ReportOutput& output) { reports::ShowSingleValueStrikeOffMeasures(state, output); });
 }
 
 void RunLabelReports(const FileState& state) {
@@ -82,7 +82,7 @@ void RunLabelReports(const FileState& state) {
   for (const std::string& label : SomeLabels(state.PointLabels)) {
     Run([&](ReportOutput& output) { (void)ShowPointData(state, label, output); });
     Run([&](ReportOutput& output) { (void)ShowPointDataWithEvents(state, label, output); });
-    Run([&](ReportOutput& output) { (void)modVantrel::ShowNormalized(state, label, output); });
+    Run([&](ReportOutput& output) { (void)reports::ShowNormalized(state, label, output); });
   }
   for (const std::string& label : SomeLabels(state.AnalogLabels)) {
     Run([&](ReportOutput& output) { (void)ShowAnalogData(state, label, output); });

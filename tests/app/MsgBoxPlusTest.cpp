@@ -7,7 +7,7 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
-#include "support/modMsgBoxPlus.h"
+#include "app/modMsgBoxPlus.h"
 #include "tests/app/Boxes.h"
 
 namespace {

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "app/reports/NavigationTree.h"
-#include "app/reports/ParameterReport.h"
 #include "c3d/ParamIndex.h"
+#include "reports/NavigationTree.h"
+#include "reports/ParameterReport.h"
 #include "tests/TestTrials.h"
 
 namespace {

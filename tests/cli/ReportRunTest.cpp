@@ -8,10 +8,10 @@
 
 #include <gtest/gtest.h>
 
-#include "app/reports/HeaderReport.h"
-#include "app/reports/ListingReport.h"
-#include "app/reports/NavigationTree.h"
-#include "app/reports/ParameterReport.h"
+#include "reports/HeaderReport.h"
+#include "reports/ListingReport.h"
+#include "reports/NavigationTree.h"
+#include "reports/ParameterReport.h"
 #include "support/FileSystem.h"
 #include "tests/TestTrials.h"
 #include "tests/cli/ToolRun.h"

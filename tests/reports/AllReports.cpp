@@ -2,14 +2,14 @@
 
 #include <functional>
 
-#include "app/reports/HeaderReport.h"
-#include "app/reports/ListingReport.h"
-#include "app/reports/NavigationTree.h"
-#include "app/reports/ParameterReport.h"
 #include "gait/GcdCalcs.h"
-#include "gait/MeasuresReport.h"
-#include "gait/NormalizedReport.h"
-#include "gait/StrikeOffReport.h"
+#include "reports/HeaderReport.h"
+#include "reports/ListingReport.h"
+#include "reports/MeasuresReport.h"
+#include "reports/NavigationTree.h"
+#include "reports/NormalizedReport.h"
+#include "reports/ParameterReport.h"
+#include "reports/StrikeOffReport.h"
 #include "tests/GaitTrials.h"
 
 namespace tests {
@@ -42,15 +42,15 @@ std::map<std::string, std::string> AllReportsOf(const FileState& state) {
       {"parameters", reports::ShowAllGroupsAndAllParams},
       {"tree", reports::ShowTree},
       {"labels", reports::ShowPointLabels},
-      {"events", modVantrel::ShowStrikeOffEvents},
-      {"measures", modVantrel::ShowSingleValueStrikeOffMeasures}};
+      {"events", reports::ShowStrikeOffEvents},
+      {"measures", reports::ShowSingleValueStrikeOffMeasures}};
   for (const auto& [name, report] : plain) {
     texts[name] = TextOf([&, show = report](ReportOutput& output) { show(state, output); });
   }
   AddOfLabel(texts, state, "point", reports::ShowPointData, state.PointLabels);
   AddOfLabel(texts, state, "point with events", reports::ShowPointDataWithEvents,
              state.PointLabels);
-  AddOfLabel(texts, state, "normalized", modVantrel::ShowNormalized, state.PointLabels);
+  AddOfLabel(texts, state, "normalized", reports::ShowNormalized, state.PointLabels);
   AddOfLabel(texts, state, "analog", reports::ShowAnalogData, state.AnalogLabels);
   AddOfLabel(texts, state, "analog with events", reports::ShowAnalogDataWithEvents,
              state.AnalogLabels);

@@ -7,10 +7,10 @@
 
 #include <gtest/gtest.h>
 
-#include "app/reports/HeaderReport.h"
-#include "app/reports/ListingReport.h"
-#include "app/reports/NavigationTree.h"
-#include "app/reports/ParameterReport.h"
+#include "reports/HeaderReport.h"
+#include "reports/ListingReport.h"
+#include "reports/NavigationTree.h"
+#include "reports/ParameterReport.h"
 #include "tests/TestTrials.h"
 
 // Every report on trials that are cut short, very large or stored in another form.

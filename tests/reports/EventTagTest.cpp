@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "app/reports/EventTag.h"
 #include "c3d/GaitEvents.h"
+#include "reports/EventTag.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "app/reports/HeaderReport.h"
+#include "reports/HeaderReport.h"
 #include "tests/TestTrials.h"
 
 namespace {

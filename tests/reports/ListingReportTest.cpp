@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include "app/reports/ListingReport.h"
+#include "reports/ListingReport.h"
 #include "tests/GaitTrials.h"
 
 namespace {

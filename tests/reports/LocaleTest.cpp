@@ -9,8 +9,8 @@
 
 #include <gtest/gtest.h>
 
-#include "app/reports/HeaderReport.h"
 #include "gait/EventExtraction.h"
+#include "reports/HeaderReport.h"
 #include "sample/SampleWalk.h"
 #include "support/NumberForms.h"
 #include "tests/GaitTrials.h"

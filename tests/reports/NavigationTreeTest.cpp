@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "app/reports/NavigationTree.h"
+#include "reports/NavigationTree.h"
 #include "tests/TestTrials.h"
 
 namespace {

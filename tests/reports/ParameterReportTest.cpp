@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "app/reports/ParameterReport.h"
+#include "reports/ParameterReport.h"
 #include "tests/TestTrials.h"
 
 namespace {

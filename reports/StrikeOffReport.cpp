@@ -1,4 +1,4 @@
-#include "gait/StrikeOffReport.h"
+#include "reports/StrikeOffReport.h"
 
 #include <string>
 
@@ -8,13 +8,18 @@
 #include "support/NumberForms.h"
 #include "support/Text.h"
 
-namespace modVantrel {
+namespace reports {
 
 using modAllPurpose::OneBasedTable;
 using modAllPurpose::PadRightToWidth;
 using modAllPurpose::ReportOutput;
 using modAllPurposeNumbers::FormatNumber;
 using modAllPurposeNumbers::NumberPattern;
+using modVantrel::EventRecord;
+using modVantrel::FileState;
+using modVantrel::GaitEventState;
+using modVantrel::SideName;
+using modVantrel::StrideRecord;
 
 namespace {
 
@@ -37,7 +42,8 @@ void EventLines(std::string_view heading, const OneBasedTable<EventRecord>& even
                 ReportOutput& output) {
   output.Line(heading);
   for (const EventRecord& event : events) {
-    const std::string name = fmt::format("{} {}", SideName(event.Side), EventTypeName(event.Type));
+    const std::string name =
+        fmt::format("{} {}", SideName(event.Side), modVantrel::EventTypeName(event.Type));
     output.Line(fmt::format("    {}  {}", PadRightToWidth(name, kEventNameWidth),
                             FormatNumber(kTime, double{event.Time})));
   }
@@ -73,4 +79,4 @@ void ShowStrikeOffEvents(const FileState& state, ReportOutput& output) {
   output.Line("");
 }
 
-}  // namespace modVantrel
+}  // namespace reports

@@ -1,4 +1,4 @@
-#include "app/reports/EventTag.h"
+#include "reports/EventTag.h"
 
 #include "c3d/GaitEvents.h"
 

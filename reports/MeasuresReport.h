@@ -3,10 +3,11 @@
 #include "c3d/FileState.h"
 #include "support/ReportOutput.h"
 
-namespace modVantrel {
+namespace reports {
 
 // The single-value measures of every valid stride; a file without strides gives one empty line.
 // Errors as clsGcdCalcs.
-void ShowSingleValueStrikeOffMeasures(const FileState& state, modAllPurpose::ReportOutput& output);
+void ShowSingleValueStrikeOffMeasures(const modVantrel::FileState& state,
+                                      modAllPurpose::ReportOutput& output);
 
-}  // namespace modVantrel
+}  // namespace reports

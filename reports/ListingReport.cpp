@@ -1,11 +1,11 @@
-#include "app/reports/ListingReport.h"
+#include "reports/ListingReport.h"
 
 #include <string>
 
 #include <fmt/format.h>
 
-#include "app/reports/EventTag.h"
 #include "c3d/FrameData.h"
+#include "reports/EventTag.h"
 #include "support/NumberForms.h"
 #include "support/Text.h"
 

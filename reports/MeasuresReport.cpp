@@ -1,4 +1,4 @@
-#include "gait/MeasuresReport.h"
+#include "reports/MeasuresReport.h"
 
 #include <fmt/format.h>
 
@@ -6,9 +6,12 @@
 #include "gait/GcdCalcs.h"
 #include "support/NumberForms.h"
 
-namespace modVantrel {
+namespace reports {
 
 using modAllPurpose::ReportOutput;
+using modVantrel::FileState;
+using modVantrel::SideName;
+using modVantrel::SingleValueMeasures;
 
 namespace {
 
@@ -37,11 +40,11 @@ void ShowMeasures(const SingleValueMeasures& measures, ReportOutput& output) {
 
 void ShowSingleValueStrikeOffMeasures(const FileState& state, ReportOutput& output) {
   output.BeginReport();
-  clsGcdCalcs calcs(state);
+  modVantrel::clsGcdCalcs calcs(state);
   for (std::int32_t i = 1; i <= state.GaitEvents.ValidStrideCount; ++i) {
     ShowMeasures(calcs.CalcSingleValueMeasures(i), output);
   }
   output.Line("");
 }
 
-}  // namespace modVantrel
+}  // namespace reports

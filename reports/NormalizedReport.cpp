@@ -1,4 +1,4 @@
-#include "gait/NormalizedReport.h"
+#include "reports/NormalizedReport.h"
 
 #include <string>
 
@@ -9,12 +9,17 @@
 #include "gait/GcdCalcs.h"
 #include "support/NumberForms.h"
 
-namespace modVantrel {
+namespace reports {
 
 using modAllPurpose::ReportOutput;
 using modAllPurpose::ReportResult;
 using modAllPurposeNumbers::FormatNumber;
 using modAllPurposeNumbers::NumberPattern;
+using modVantrel::FileState;
+using modVantrel::NormalizedCurve;
+using modVantrel::NormalizedPoint;
+using modVantrel::SideName;
+using modVantrel::StrideRecord;
 
 namespace {
 
@@ -51,12 +56,13 @@ void CurveLines(const NormalizedCurve& curve, ReportOutput& output) {
 }  // namespace
 
 ReportResult ShowNormalized(const FileState& state, std::string_view label, ReportOutput& output) {
-  if (!PointLabelExists(state, label)) return ReportResult::Rejected("point label not found");
+  if (!modVantrel::PointLabelExists(state, label))
+    return ReportResult::Rejected("point label not found");
   if (state.GaitEvents.ValidStrideCount == 0) {
     return ReportResult::Rejected("valid PIG events not found");
   }
   output.BeginReport();
-  clsGcdCalcs calcs(state);
+  modVantrel::clsGcdCalcs calcs(state);
   for (std::int32_t i = 1; i <= state.GaitEvents.ValidStrideCount; ++i) {
     const NormalizedCurve curve = calcs.NormalizeLabelForStride(label, i);
     StrideHeading(label, state.GaitEvents.ValidStrides[i], output);
@@ -67,4 +73,4 @@ ReportResult ShowNormalized(const FileState& state, std::string_view label, Repo
   return ReportResult::Written();
 }
 
-}  // namespace modVantrel
+}  // namespace reports

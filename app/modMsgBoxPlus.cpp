@@ -1,4 +1,4 @@
-#include "support/modMsgBoxPlus.h"
+#include "app/modMsgBoxPlus.h"
 
 #include <array>
 #include <cstddef>

@@ -1,4 +1,4 @@
-#include "app/reports/NavigationTree.h"
+#include "reports/NavigationTree.h"
 
 #include <cstddef>
 #include <utility>

@@ -1,4 +1,4 @@
-#include "app/reports/ParameterReport.h"
+#include "reports/ParameterReport.h"
 
 #include <cstdint>
 #include <iterator>

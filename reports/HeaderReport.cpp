@@ -1,4 +1,4 @@
-#include "app/reports/HeaderReport.h"
+#include "reports/HeaderReport.h"
 
 #include <iterator>
 #include <string_view>

@@ -3,9 +3,9 @@
 #include "c3d/FileState.h"
 #include "support/ReportOutput.h"
 
-namespace modVantrel {
+namespace reports {
 
 // The counts, the three event lists and the valid strides that the open found.
-void ShowStrikeOffEvents(const FileState& state, modAllPurpose::ReportOutput& output);
+void ShowStrikeOffEvents(const modVantrel::FileState& state, modAllPurpose::ReportOutput& output);
 
-}  // namespace modVantrel
+}  // namespace reports

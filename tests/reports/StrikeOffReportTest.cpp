@@ -3,12 +3,13 @@
 #include <gtest/gtest.h>
 
 #include "gait/EventNames.h"
-#include "gait/StrikeOffReport.h"
+#include "reports/StrikeOffReport.h"
 #include "tests/GaitTrials.h"
 
 namespace {
 
 using namespace modVantrel;
+using reports::ShowStrikeOffEvents;
 using tests::StateWithEvents;
 
 std::string EventsReport(const FileState& state) {
