@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Sets up, builds, and opens the window on FILE.c3d, or on the bundled sample walk. Without a display
 # it prints the measures instead and saves a picture of the window.
 #   ./run.sh [FILE.c3d]

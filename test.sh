@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Sets up, builds and runs every test: the optimised build in the plain and in a comma locale, and
 # the core under the sanitizers. Without arguments it does all of that; with the name of a preset
 # (release, debug, asan) only that build; with --windows the Windows build, under Wine, and its tool

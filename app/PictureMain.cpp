@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Saves a picture of the window, for machines without a display and for the manual.
 
 #include <iostream>

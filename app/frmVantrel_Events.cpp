@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // How mouse, keys and drops reach the handlers of the form.
 
 #include <QApplication>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "bench/Budget.h"
 
 // How the cost of each operation grows with 1, 10 and 100 times the frames, labels, strides,

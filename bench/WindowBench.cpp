@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The window must be on the screen soon, and a long listing must be as quick to show as to make.
 // Each measurement runs in a process of its own, so that its start counts and its memory is its
 // own; the program fails where one is over its bound.

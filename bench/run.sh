@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Builds the benchmarks, runs them one after the other and prints their ratios and how cost grows, as
 # the two tables of docs/speed.md; with --page it puts them there instead. Takes about five minutes
 # and 4 GB of room for temporary files, on a machine that does nothing else. What each program

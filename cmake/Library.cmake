@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 # The end of the names of source files that are written for one system only.
 set(VANTREL_SYSTEM Posix)
 if(WIN32)

@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 # Every target is compiled with these warnings, each an error: a silent conversion changes numbers.
 add_library(vantrel_warnings INTERFACE)
 target_compile_options(vantrel_warnings INTERFACE

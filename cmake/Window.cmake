@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 # The toolkit of the window: Qt 6 Widgets, and QScintilla for the output pane.
 find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets)
 

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Makes the Debian package of a build and fails where a desktop would not take it: lintian, the
 # validators of the desktop entry and of the metadata, and the file type of a trial.
 #   check_package.sh BUILD_FOLDER

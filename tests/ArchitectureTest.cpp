@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <map>
 #include <regex>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -96,10 +99,44 @@ TEST(Architecture, OnlyTheWindowUsesQt) {
   }
 }
 
+// The files of the tree, from its root; what was built, and what version control keeps, aside.
+std::vector<std::string> FilesOfTheTree() {
+  std::vector<std::string> files;
+  for (auto entry = fs::recursive_directory_iterator(kRoot); entry != fs::end(entry); ++entry) {
+    const std::string file = fs::relative(entry->path(), kRoot).generic_string();
+    if (file == "build" || file == ".git") {
+      entry.disable_recursion_pending();
+    } else if (entry->is_regular_file()) {
+      files.push_back(file);
+    }
+  }
+  return files;
+}
+
+bool IsSource(const fs::path& file) {
+  static const std::set<std::string> kExtensions = {".cpp", ".h", ".sh", ".bash", ".cmake", ".py"};
+  return kExtensions.contains(file.extension().string()) || file.filename() == "CMakeLists.txt";
+}
+
+TEST(Architecture, EverySourceFileNamesItsLicence) {
+  std::size_t checked = 0;
+  for (const std::string& file : FilesOfTheTree()) {
+    if (!IsSource(file)) continue;
+    ++checked;
+    std::ifstream text(kRoot / file);
+    std::string first;
+    std::string second;
+    std::getline(text, first);
+    std::getline(text, second);
+    const std::string& line = first.starts_with("#!") ? second : first;
+    EXPECT_TRUE(line.ends_with(" SPDX-License-Identifier: GPL-3.0-or-later")) << file;
+  }
+  EXPECT_GT(checked, 0U);
+}
+
 TEST(Architecture, EverySourceFolderOfTheTreeIsKnown) {
-  for (const auto& entry : fs::recursive_directory_iterator(kRoot)) {
-    const std::string file = fs::relative(entry.path(), kRoot).generic_string();
-    if (entry.path().extension() != ".cpp" || file.starts_with("build/")) continue;
+  for (const std::string& file : FilesOfTheTree()) {
+    if (!file.ends_with(".cpp")) continue;
     if (file.starts_with("tests/") || file.starts_with("bench/") || file.starts_with("fuzz/")) {
       continue;
     }

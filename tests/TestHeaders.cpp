@@ -1,1 +1,3 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Has the headers of the test framework compiled.

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # The slow checks, run by hand before a release: a build with Clang, clang-tidy on the sources of this
 # system and on those of Windows, cppcheck, valgrind on the tool, and the line coverage of the core.
 # With an argument, only the check of that name; valgrind takes the trials to be read, the sample

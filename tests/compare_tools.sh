@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Holds two builds of vantrel-report against each other:
 #   tests/compare_tools.sh TOOL WINDOWS-TOOL FILE.c3d
 # Every report of FILE, from a folder with blanks and letters outside ASCII in its name, must have

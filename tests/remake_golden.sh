@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Makes the golden texts of the sample walk anew with the tool of a build:
 #   tests/remake_golden.sh [BUILD_FOLDER]      (build/release unless named)
 # Each line of golden/cases.txt is a file and the arguments that print it; the GCD files are those

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Runs a Windows program under Wine, without a display and in a Wine folder of the build's own:
 #   tests/wine.sh PROGRAM.exe [ARGUMENT...]
 # Wine's own processes stay for ten seconds after the last program, since starting them takes longer

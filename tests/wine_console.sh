@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Runs a Windows program under Wine as tests/wine.sh does, but on a console: Wine's, over a terminal
 # of this script's own. Where the system gives no terminals it says so and ends with status 77.
 #   tests/wine_console.sh PROGRAM.exe

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # The Windows build of vantrel-report as a command of this system:
 #   tests/wine_report.sh [OPTION...] REPORT FILE...
 set -euo pipefail

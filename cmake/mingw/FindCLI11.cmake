@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 # CLI11::CLI11, which is headers alone.
 include(${CMAKE_CURRENT_LIST_DIR}/HostHeaders.cmake)
 if(NOT TARGET CLI11::CLI11)

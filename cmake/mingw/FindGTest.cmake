@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 # GTest::gtest and its relatives, built from the sources of Debian's package googletest.
 if(NOT TARGET GTest::gtest)
   set(INSTALL_GTEST OFF)

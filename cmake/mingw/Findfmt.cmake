@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 # fmt::fmt without a library: its headers hold everything.
 include(${CMAKE_CURRENT_LIST_DIR}/HostHeaders.cmake)
 if(NOT TARGET fmt::fmt)

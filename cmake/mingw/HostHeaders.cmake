@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 # host_headers(FOLDER): makes the header folder /usr/include/FOLDER of this machine, and no other,
 # visible to the cross-compiler, and sets HOST_HEADERS to the directory to include from. For
 # libraries that are headers alone.

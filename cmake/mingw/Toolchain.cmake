@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 # Builds for 64-bit Windows with Debian's MinGW-w64. Programs carry their run-time library in
 # themselves and run during the build, and in tests, under Wine.
 set(CMAKE_SYSTEM_NAME Windows)

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Run-time errors: each ends the program, after what was written is shown and the error named.
 
 #include <fstream>

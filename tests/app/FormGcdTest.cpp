@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The GCD command of the form and its questions.
 
 #include <fstream>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // What the form looks like: its controls, their places and how they follow the form's size.
 
 #include <array>

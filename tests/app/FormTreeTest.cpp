@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The navigation tree: what it holds, and what clicks on its nodes do.
 
 #include <QApplication>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // What a screen reader gets to know of the pane.
 
 #include <QAccessible>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The pane as a reader uses it: keys, selection, search, zoom, colours.
 
 #include <QApplication>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The program as a process: its command line, its message boxes and its exit status.
 
 #include <filesystem>

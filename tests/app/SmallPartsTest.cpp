@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The parts of the form that can be looked at without it.
 
 #include <array>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The whole program with a user at its side, for tests that need a process of its own: clicks the
 // buttons that VANTREL_TEST_CLICKS names, answers every message box with Enter after writing it to
 // standard output, and closes the window at last.

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // A program that does nothing but deploy its stand-ins, with waits a twentieth as long, and writes
 // what it does to the file "log.txt" beside it.
 #include <fstream>

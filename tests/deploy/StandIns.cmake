@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 # embed_stand_ins(TARGET): makes the files of "stand-ins" resources of the program TARGET, those that
 # end ".manifest" of type "Manifest" and the others of type "Dependencies". On Windows a resource
 # script names them, elsewhere a source file holds their bytes.
