@@ -51,7 +51,7 @@ std::string WriteGcdReport(const FileState& state, GcdRequest& request,
   if (!refusal.empty()) return refusal;
   for (const std::string& name : names) request.Written.insert(modAllPurpose::OneSpelling(name));
   AskedBefore question;
-  return std::string(modVantrel::WriteGcdFiles(state, request.Options, question, output).Text());
+  return modVantrel::WriteGcdFiles(state, request.Options, question, output).Text();
 }
 
 }  // namespace cli

@@ -32,7 +32,7 @@ std::string Plain(const FileState& state, Request& /*request*/, ReportOutput& ou
 // A report that may refuse its input.
 template <ReportResult (*Show)(const FileState&, const Request&, ReportOutput&)>
 std::string Refusing(const FileState& state, Request& request, ReportOutput& output) {
-  return std::string(Show(state, request, output).Text());
+  return Show(state, request, output).Text();
 }
 
 ReportResult Parameters(const FileState& state, const Request& request, ReportOutput& output) {

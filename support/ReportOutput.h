@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace modAllPurpose {
 
@@ -11,16 +12,16 @@ namespace modAllPurpose {
 class [[nodiscard]] ReportResult {
  public:
   static ReportResult Written() { return ReportResult({}); }
-  // `text` is one of the program's fixed sentences; it is not copied.
-  static ReportResult Rejected(std::string_view text) { return ReportResult(text); }
+  // `text` must not be empty.
+  static ReportResult Rejected(std::string text) { return ReportResult(std::move(text)); }
 
   bool IsRejected() const { return !text_.empty(); }
-  std::string_view Text() const { return text_; }
+  const std::string& Text() const { return text_; }
 
  private:
-  explicit ReportResult(std::string_view text) : text_(text) {}
+  explicit ReportResult(std::string text) : text_(std::move(text)) {}
 
-  std::string_view text_;
+  std::string text_;
 };
 
 // Where a report writes: the output pane, the tool's standard output, or a text kept in memory.
