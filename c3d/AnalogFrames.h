@@ -16,8 +16,8 @@ struct AnalogFrame {
   SampleValues Values;                 // in time order, as stored: no scale, no offset
   float Time = 0;                      // seconds; of the frame, not of each sample
   std::int32_t NextFramePosition = 0;  // of the channel's first sample; 0 in the last frame
-  std::int32_t EventType = kTypeOther;
-  std::int32_t EventSide = kSideNone;
+  GaitEventType EventType = GaitEventType::Other;
+  GaitSide EventSide = GaitSide::None;
 };
 
 // One analog channel in every frame, 1 to Count(); an index outside is error 9. The samples of all
@@ -29,8 +29,8 @@ class AnalogFrames {
   struct Tag {
     float Time = 0;
     std::int32_t NextFramePosition = 0;
-    std::int32_t EventType = kTypeOther;
-    std::int32_t EventSide = kSideNone;
+    GaitEventType EventType = GaitEventType::Other;
+    GaitSide EventSide = GaitSide::None;
   };
   using Tags = modAllPurpose::OneBasedTable<Tag>;
 

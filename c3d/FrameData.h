@@ -21,8 +21,8 @@ struct PointSample {
   float Time = 0;                      // seconds
   std::int32_t NextFramePosition = 0;  // of the same label; 0 in the last frame
   std::int32_t NextPointPosition = 0;  // of the next label; 0 for the last label
-  std::int32_t EventType = kTypeOther;
-  std::int32_t EventSide = kSideNone;
+  GaitEventType EventType = GaitEventType::Other;
+  GaitSide EventSide = GaitSide::None;
 };
 
 // Indexed by frame, 1 to PointFrameCount, like AnalogFrames; empty where there is no such label.

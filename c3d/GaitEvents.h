@@ -8,17 +8,13 @@
 // The gait events and strides of the open file, as records. What fills them is the gait layer.
 namespace modVantrel {
 
-inline constexpr std::int32_t kSideNone = 0;
-inline constexpr std::int32_t kSideLeft = 1;
-inline constexpr std::int32_t kSideRight = 2;
+enum class GaitSide : std::int32_t { None = 0, Left = 1, Right = 2 };
 
-inline constexpr std::int32_t kTypeOther = 0;
-inline constexpr std::int32_t kTypeFootStrike = 1;
-inline constexpr std::int32_t kTypeFootOff = 2;
+enum class GaitEventType : std::int32_t { Other = 0, FootStrike = 1, FootOff = 2 };
 
 struct EventRecord {
-  std::int32_t Side = kSideNone;
-  std::int32_t Type = kTypeOther;
+  GaitSide Side = GaitSide::None;
+  GaitEventType Type = GaitEventType::Other;
   float Time = 0;  // seconds
 
   friend bool operator==(const EventRecord&, const EventRecord&) = default;
@@ -26,7 +22,7 @@ struct EventRecord {
 
 // The gait cycle of one foot, from its strike to its next strike. Times are seconds.
 struct StrideRecord {
-  std::int32_t Side = kSideNone;
+  GaitSide Side = GaitSide::None;
   std::int32_t Number = 0;  // 1, 2, 3 ... for each side, in time order
   float StartStrikeTime = 0;
   float OppositeFootOffTime = 0;
@@ -39,8 +35,8 @@ struct StrideRecord {
 
 struct EventFrameRecord {
   std::int32_t Frame = 0;  // index of the frame, 1 = the file's first
-  std::int32_t Side = kSideNone;
-  std::int32_t Type = kTypeOther;
+  GaitSide Side = GaitSide::None;
+  GaitEventType Type = GaitEventType::Other;
 
   friend bool operator==(const EventFrameRecord&, const EventFrameRecord&) = default;
 };

@@ -41,16 +41,16 @@ EventParams FindEventParams(const FileState& state) {
           FindGroupAndParam(state, "EVENT", "TIMES").Param};
 }
 
-std::int32_t SideOf(const std::string& context) {
-  if (context == "LEFT") return kSideLeft;
-  if (context == "RIGHT") return kSideRight;
-  return kSideNone;
+GaitSide SideOf(const std::string& context) {
+  if (context == "LEFT") return GaitSide::Left;
+  if (context == "RIGHT") return GaitSide::Right;
+  return GaitSide::None;
 }
 
-std::int32_t TypeOf(const std::string& label) {
-  if (label == "FOOT STRIKE") return kTypeFootStrike;
-  if (label == "FOOT OFF") return kTypeFootOff;
-  return kTypeOther;
+GaitEventType TypeOf(const std::string& label) {
+  if (label == "FOOT STRIKE") return GaitEventType::FootStrike;
+  if (label == "FOOT OFF") return GaitEventType::FootOff;
+  return GaitEventType::Other;
 }
 
 // The list that an event of that side and type belongs to, and its count.
@@ -59,17 +59,17 @@ struct EventList {
   OneBasedTable<EventRecord>& Events;
 };
 
-EventList ListFor(GaitEventState& events, std::int32_t side, std::int32_t type) {
-  if (side == kSideNone) return {events.NonSidedCount, events.NonSidedEvents};
-  if (type == kTypeOther) return {events.SidedGeneralCount, events.SidedGeneralEvents};
+EventList ListFor(GaitEventState& events, GaitSide side, GaitEventType type) {
+  if (side == GaitSide::None) return {events.NonSidedCount, events.NonSidedEvents};
+  if (type == GaitEventType::Other) return {events.SidedGeneralCount, events.SidedGeneralEvents};
   return {events.SidedStrikeOffCount, events.SidedStrikeOffEvents};
 }
 
 void FillEventLists(FileState& state, const EventParams& params) {
   GaitEventState& events = state.GaitEvents;
   for (std::int32_t i = 1; i <= events.TotalCount; ++i) {
-    const std::int32_t side = SideOf(params.Context(i));
-    const std::int32_t type = TypeOf(params.Label(i));
+    const GaitSide side = SideOf(params.Context(i));
+    const GaitEventType type = TypeOf(params.Label(i));
     const EventList list = ListFor(events, side, type);
     list.Events.Append({side, type, ClampToWalk(state, params.Seconds(i))});
     ++list.Count;

@@ -2,19 +2,17 @@
 
 #include "gait/EventNames.h"
 
-#include "c3d/GaitEvents.h"
-
 namespace modVantrel {
 
-std::string_view SideName(std::int32_t side) {
-  if (side == kSideLeft) return "Left";
-  if (side == kSideRight) return "Right";
+std::string_view SideName(GaitSide side) {
+  if (side == GaitSide::Left) return "Left";
+  if (side == GaitSide::Right) return "Right";
   return "None";
 }
 
-std::string_view EventTypeName(std::int32_t type) {
-  if (type == kTypeFootStrike) return "Foot Strike";
-  if (type == kTypeFootOff) return "Foot Off";
+std::string_view EventTypeName(GaitEventType type) {
+  if (type == GaitEventType::FootStrike) return "Foot Strike";
+  if (type == GaitEventType::FootOff) return "Foot Off";
   return "Other";
 }
 

@@ -71,11 +71,11 @@ SingleValueMeasures clsGcdCalcs::CalcSingleValueMeasures(std::int32_t strideInde
 }
 
 void clsGcdCalcs::CalcLengths(const StrideRecord& stride, SingleValueMeasures& measures) {
-  if (stride.Side != kSideLeft && stride.Side != kSideRight) {
+  if (stride.Side != GaitSide::Left && stride.Side != GaitSide::Right) {
     throw modAllPurpose::RuntimeError(modAllPurpose::ErrorNumber::SubscriptOutOfRange);
   }
-  const std::string_view same = stride.Side == kSideLeft ? "LTOE" : "RTOE";
-  const std::string_view opposite = stride.Side == kSideLeft ? "RTOE" : "LTOE";
+  const std::string_view same = stride.Side == GaitSide::Left ? "LTOE" : "RTOE";
+  const std::string_view opposite = stride.Side == GaitSide::Left ? "RTOE" : "LTOE";
   const SplineCurve& sameY = SplineOf(same, Component::Y);
   const SplineCurve& oppositeY = SplineOf(opposite, Component::Y);
   const SplineCurve& sameX = SplineOf(same, Component::X);

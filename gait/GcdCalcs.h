@@ -19,7 +19,7 @@ namespace modVantrel {
 // The measures of one stride. All 0 before they are worked out.
 struct SingleValueMeasures {
   std::int32_t ProgressionAxis = 0;  // 1 = X, 2 = Y, 0 = no toe markers
-  std::int32_t Side = kSideNone;
+  GaitSide Side = GaitSide::None;
   std::int32_t Number = 0;
   float StrideTime = 0;   // seconds
   float Cadence = 0;      // strides per second

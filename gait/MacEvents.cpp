@@ -12,15 +12,15 @@ namespace modVantrel {
 bool AppendMacEvents(FileState& state) {
   struct Kind {
     modAllPurpose::OneBasedTable<std::int32_t> Frames;
-    std::int32_t Side = kSideNone;
-    std::int32_t Type = kTypeOther;
+    GaitSide Side = GaitSide::None;
+    GaitEventType Type = GaitEventType::Other;
   };
   const MacEventLines lines = ReadMacEventLines(state);
   const std::array kinds = {
-      Kind{ParseFrameList(lines.RightToeOff), kSideRight, kTypeFootOff},
-      Kind{ParseFrameList(lines.RightHeelStrike), kSideRight, kTypeFootStrike},
-      Kind{ParseFrameList(lines.LeftToeOff), kSideLeft, kTypeFootOff},
-      Kind{ParseFrameList(lines.LeftHeelStrike), kSideLeft, kTypeFootStrike}};
+      Kind{ParseFrameList(lines.RightToeOff), GaitSide::Right, GaitEventType::FootOff},
+      Kind{ParseFrameList(lines.RightHeelStrike), GaitSide::Right, GaitEventType::FootStrike},
+      Kind{ParseFrameList(lines.LeftToeOff), GaitSide::Left, GaitEventType::FootOff},
+      Kind{ParseFrameList(lines.LeftHeelStrike), GaitSide::Left, GaitEventType::FootStrike}};
 
   GaitEventState& gait = state.GaitEvents;
   for (const Kind& kind : kinds) gait.TotalCount += kind.Frames.Count();

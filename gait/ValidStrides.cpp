@@ -29,17 +29,17 @@ class StrideSearch {
 
   // Whether the five events from `i` on are a stride.
   bool IsStride(std::int32_t i) const {
-    const std::int32_t side = events_[i].Side;
-    return events_[i].Type == kTypeFootStrike && Follows(i + 1, kTypeFootOff) &&
-           events_[i + 1].Side != side && Follows(i + 2, kTypeFootStrike) &&
-           events_[i + 2].Side != side && Follows(i + 3, kTypeFootOff) &&
-           events_[i + 3].Side == side && Follows(i + 4, kTypeFootStrike) &&
+    const GaitSide side = events_[i].Side;
+    return events_[i].Type == GaitEventType::FootStrike && Follows(i + 1, GaitEventType::FootOff) &&
+           events_[i + 1].Side != side && Follows(i + 2, GaitEventType::FootStrike) &&
+           events_[i + 2].Side != side && Follows(i + 3, GaitEventType::FootOff) &&
+           events_[i + 3].Side == side && Follows(i + 4, GaitEventType::FootStrike) &&
            events_[i + 4].Side == side;
   }
 
  private:
   // Whether event `i` is of that type and on a later frame than the one before.
-  bool Follows(std::int32_t i, std::int32_t type) const {
+  bool Follows(std::int32_t i, GaitEventType type) const {
     const float apart = ToSingle(double{events_[i].Time} - events_[i - 1].Time);
     return events_[i].Type == type && apart > leastTimeApart_;
   }
@@ -64,7 +64,7 @@ void FillValidStrides(FileState& state) {
   std::int32_t rightNumber = 0;
   for (std::int32_t i = 1; i <= gait.SidedStrikeOffCount - (kEventsPerStride - 1); ++i) {
     if (!search.IsStride(i)) continue;
-    std::int32_t& number = events[i].Side == kSideLeft ? leftNumber : rightNumber;
+    std::int32_t& number = events[i].Side == GaitSide::Left ? leftNumber : rightNumber;
     gait.ValidStrides.Append(MakeStride(events, i, ++number));
   }
   gait.ValidStrideCount = gait.ValidStrides.Count();
@@ -72,13 +72,13 @@ void FillValidStrides(FileState& state) {
 
 void FillStrideEvents(GaitEventState& gait) {
   for (const StrideRecord& stride : gait.ValidStrides) {
-    const std::int32_t same = stride.Side;
-    const std::int32_t opposite = OppositeSide(same);
-    gait.StrideEvents.Append({same, kTypeFootStrike, stride.StartStrikeTime});
-    gait.StrideEvents.Append({opposite, kTypeFootOff, stride.OppositeFootOffTime});
-    gait.StrideEvents.Append({opposite, kTypeFootStrike, stride.OppositeFootStrikeTime});
-    gait.StrideEvents.Append({same, kTypeFootOff, stride.SameFootOffTime});
-    gait.StrideEvents.Append({same, kTypeFootStrike, stride.StopStrikeTime});
+    const GaitSide same = stride.Side;
+    const GaitSide opposite = OppositeSide(same);
+    gait.StrideEvents.Append({same, GaitEventType::FootStrike, stride.StartStrikeTime});
+    gait.StrideEvents.Append({opposite, GaitEventType::FootOff, stride.OppositeFootOffTime});
+    gait.StrideEvents.Append({opposite, GaitEventType::FootStrike, stride.OppositeFootStrikeTime});
+    gait.StrideEvents.Append({same, GaitEventType::FootOff, stride.SameFootOffTime});
+    gait.StrideEvents.Append({same, GaitEventType::FootStrike, stride.StopStrikeTime});
   }
   RemoveRepeatedEvents(gait.StrideEvents);
   gait.StrideEventCount = gait.StrideEvents.Count();
@@ -107,10 +107,10 @@ void SortEventsByTime(std::int32_t count, OneBasedTable<EventRecord>& events) {
   }
 }
 
-std::int32_t OppositeSide(std::int32_t side) {
-  if (side == kSideLeft) return kSideRight;
-  if (side == kSideRight) return kSideLeft;
-  return kSideNone;
+GaitSide OppositeSide(GaitSide side) {
+  if (side == GaitSide::Left) return GaitSide::Right;
+  if (side == GaitSide::Right) return GaitSide::Left;
+  return GaitSide::None;
 }
 
 void FindValidStrides(FileState& state) {

@@ -14,7 +14,7 @@ namespace modVantrel {
 void SortEventsByTime(std::int32_t count, modAllPurpose::OneBasedTable<EventRecord>& events);
 
 // Left for right, right for left, none for anything else.
-std::int32_t OppositeSide(std::int32_t side);
+GaitSide OppositeSide(GaitSide side);
 
 // Sorts the three event lists, then fills ValidStrides and StrideEvents from the sided strikes and
 // offs. A stride is five consecutive events, each on a later frame than the one before: the foot

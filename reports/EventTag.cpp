@@ -2,19 +2,20 @@
 
 #include "reports/EventTag.h"
 
-#include "c3d/GaitEvents.h"
-
 namespace reports {
 
-std::string_view EventTag::For(std::int32_t eventType, std::int32_t eventSide) {
-  if (eventType == modVantrel::kTypeOther) {
+using modVantrel::GaitEventType;
+using modVantrel::GaitSide;
+
+std::string_view EventTag::For(GaitEventType eventType, GaitSide eventSide) {
+  if (eventType == GaitEventType::Other) {
     tag_ = kNoEventTag;
     return tag_;
   }
-  if (eventSide == modVantrel::kSideLeft) tag_ = "Left  ";
-  if (eventSide == modVantrel::kSideRight) tag_ = "Right ";
-  if (eventType == modVantrel::kTypeFootStrike) tag_ += "Foot Strike";
-  if (eventType == modVantrel::kTypeFootOff) tag_ += "Foot Off   ";
+  if (eventSide == GaitSide::Left) tag_ = "Left  ";
+  if (eventSide == GaitSide::Right) tag_ = "Right ";
+  if (eventType == GaitEventType::FootStrike) tag_ += "Foot Strike";
+  if (eventType == GaitEventType::FootOff) tag_ += "Foot Off   ";
   return tag_;
 }
 

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <cstdint>
 #include <string>
 #include <string_view>
+
+#include "c3d/GaitEvents.h"
 
 namespace reports {
 
@@ -15,7 +16,7 @@ class EventTag {
  public:
   // The tag of the next frame. An event without a side goes on from the tag of the frame before.
   // Valid until the next call.
-  std::string_view For(std::int32_t eventType, std::int32_t eventSide);
+  std::string_view For(modVantrel::GaitEventType eventType, modVantrel::GaitSide eventSide);
 
  private:
   std::string tag_;

@@ -197,7 +197,7 @@ TEST(AnalogData, ChannelAboveAFractionHasALabelButNoData) {
   EXPECT_EQ(trial.State().AnalogLabels.Count(), 2) << "1.75 rounds to 2";
   EXPECT_TRUE(AnalogLabelExists(trial.State(), "C2"));
   EXPECT_TRUE(GetAnalogDataForLabel(trial.State(), "C2").IsEmpty());
-  trial.State().StrideEventFrames.Append({1, kSideLeft, kTypeFootStrike});
+  trial.State().StrideEventFrames.Append({1, GaitSide::Left, GaitEventType::FootStrike});
   trial.State().StrideEventFrameCount = 1;
   EXPECT_EQ(ErrorNumberOf([&] { GetAnalogDataWithEventsForLabel(trial.State(), "C2"); }),
             kSubscriptOutOfRange);

@@ -71,8 +71,8 @@ TEST_P(EveryForm, GivesEachLabelItsOwnValuesInEveryFrame) {
       EXPECT_EQ(samples[frame].X, expected[0]);
       EXPECT_EQ(samples[frame].Y, expected[1]);
       EXPECT_EQ(samples[frame].Z, expected[2]);
-      EXPECT_EQ(samples[frame].EventType, kTypeOther);
-      EXPECT_EQ(samples[frame].EventSide, kSideNone);
+      EXPECT_EQ(samples[frame].EventType, GaitEventType::Other);
+      EXPECT_EQ(samples[frame].EventSide, GaitSide::None);
     }
   }
 }
@@ -308,37 +308,37 @@ TEST(Labels, EmptyLabelIsKnownWhereOneIsStored) {
 TEST(PointDataWithEvents, TagsTheFramesOfTheStrideEvents) {
   OpenedTrial trial(ThreePoints());
   FileState& state = trial.State();
-  state.StrideEventFrames.Append({2, kSideRight, kTypeFootOff});
-  state.StrideEventFrames.Append({4, kSideLeft, kTypeFootStrike});
+  state.StrideEventFrames.Append({2, GaitSide::Right, GaitEventType::FootOff});
+  state.StrideEventFrames.Append({4, GaitSide::Left, GaitEventType::FootStrike});
   state.StrideEventFrameCount = 2;
   const PointSamples samples = GetPointDataWithEventsForLabel(state, "p2");
-  EXPECT_EQ(samples[1].EventType, kTypeOther);
-  EXPECT_EQ(samples[2].EventType, kTypeFootOff);
-  EXPECT_EQ(samples[2].EventSide, kSideRight);
-  EXPECT_EQ(samples[4].EventType, kTypeFootStrike);
-  EXPECT_EQ(samples[4].EventSide, kSideLeft);
+  EXPECT_EQ(samples[1].EventType, GaitEventType::Other);
+  EXPECT_EQ(samples[2].EventType, GaitEventType::FootOff);
+  EXPECT_EQ(samples[2].EventSide, GaitSide::Right);
+  EXPECT_EQ(samples[4].EventType, GaitEventType::FootStrike);
+  EXPECT_EQ(samples[4].EventSide, GaitSide::Left);
   EXPECT_EQ(samples[2].X, Coordinates(2, 2)[0]);
   const AnalogFrames frames = GetAnalogDataWithEventsForLabel(state, "fz");
-  EXPECT_EQ(frames[2].EventSide, kSideRight);
-  EXPECT_EQ(frames[4].EventType, kTypeFootStrike);
-  EXPECT_EQ(frames[3].EventType, kTypeOther);
+  EXPECT_EQ(frames[2].EventSide, GaitSide::Right);
+  EXPECT_EQ(frames[4].EventType, GaitEventType::FootStrike);
+  EXPECT_EQ(frames[3].EventType, GaitEventType::Other);
 }
 
 TEST(PointDataWithEvents, OfSeveralEventsOnAFrameTheLastOneStays) {
   OpenedTrial trial(ThreePoints());
   FileState& state = trial.State();
-  state.StrideEventFrames.Append({3, kSideLeft, kTypeFootStrike});
-  state.StrideEventFrames.Append({3, kSideRight, kTypeFootOff});
+  state.StrideEventFrames.Append({3, GaitSide::Left, GaitEventType::FootStrike});
+  state.StrideEventFrames.Append({3, GaitSide::Right, GaitEventType::FootOff});
   state.StrideEventFrameCount = 2;
-  EXPECT_EQ(GetPointDataWithEventsForLabel(state, "P1")[3].EventSide, kSideRight);
-  EXPECT_EQ(GetPointDataWithEventsForLabel(state, "P1")[3].EventType, kTypeFootOff);
+  EXPECT_EQ(GetPointDataWithEventsForLabel(state, "P1")[3].EventSide, GaitSide::Right);
+  EXPECT_EQ(GetPointDataWithEventsForLabel(state, "P1")[3].EventType, GaitEventType::FootOff);
 }
 
 TEST(PointDataWithEvents, EventOutsideTheFramesIsAnIndexError) {
   for (const std::int32_t frame : {-1, 0, 5, 2147483647}) {
     OpenedTrial trial(ThreePoints());
     FileState& state = trial.State();
-    state.StrideEventFrames.Append({frame, kSideLeft, kTypeFootStrike});
+    state.StrideEventFrames.Append({frame, GaitSide::Left, GaitEventType::FootStrike});
     state.StrideEventFrameCount = 1;
     EXPECT_EQ(ErrorNumberOf([&] { GetPointDataWithEventsForLabel(state, "P1"); }),
               kSubscriptOutOfRange)

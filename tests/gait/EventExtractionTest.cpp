@@ -137,18 +137,21 @@ TEST(ExtractGaitEvents, ClassifiesBySideAndType) {
     std::string Label;
     EventRecord Event;
   };
-  const std::vector<Row> sided = {{"Left", "Foot Strike", {1, 1, 1.0F}},
-                                  {"Left", "Foot Off", {1, 2, 1.0F}},
-                                  {"Right", "Foot Strike", {2, 1, 1.0F}},
-                                  {"Right", "Foot Off", {2, 2, 1.0F}},
-                                  {"left", "FOOT strike", {1, 1, 1.0F}}};
-  const std::vector<Row> general = {{"Left", "Event", {1, 0, 1.0F}},
-                                    {"Right", "Event", {2, 0, 1.0F}},
-                                    {"Right", "FootStrike", {2, 0, 1.0F}}};
-  const std::vector<Row> nonSided = {{"General", "Foot Strike", {0, 1, 1.0F}},
-                                     {"General", "Foot Off", {0, 2, 1.0F}},
-                                     {"", "Event", {0, 0, 1.0F}},
-                                     {"Lefty", "Event", {0, 0, 1.0F}}};
+  const std::vector<Row> sided = {
+      {"Left", "Foot Strike", {GaitSide::Left, GaitEventType::FootStrike, 1.0F}},
+      {"Left", "Foot Off", {GaitSide::Left, GaitEventType::FootOff, 1.0F}},
+      {"Right", "Foot Strike", {GaitSide::Right, GaitEventType::FootStrike, 1.0F}},
+      {"Right", "Foot Off", {GaitSide::Right, GaitEventType::FootOff, 1.0F}},
+      {"left", "FOOT strike", {GaitSide::Left, GaitEventType::FootStrike, 1.0F}}};
+  const std::vector<Row> general = {
+      {"Left", "Event", {GaitSide::Left, GaitEventType::Other, 1.0F}},
+      {"Right", "Event", {GaitSide::Right, GaitEventType::Other, 1.0F}},
+      {"Right", "FootStrike", {GaitSide::Right, GaitEventType::Other, 1.0F}}};
+  const std::vector<Row> nonSided = {
+      {"General", "Foot Strike", {GaitSide::None, GaitEventType::FootStrike, 1.0F}},
+      {"General", "Foot Off", {GaitSide::None, GaitEventType::FootOff, 1.0F}},
+      {"", "Event", {GaitSide::None, GaitEventType::Other, 1.0F}},
+      {"Lefty", "Event", {GaitSide::None, GaitEventType::Other, 1.0F}}};
   const auto check = [](const std::vector<Row>& rows, auto list, auto count) {
     for (const Row& row : rows) {
       const OpenedWalk trial = Open(EventGroup(1, {row.Context}, {row.Label}, 1));
@@ -173,7 +176,8 @@ TEST(ExtractGaitEvents, ContextPaddedWithNulsIsNoSide) {
   const OpenedWalk trial =
       Open(EventGroup(1, {std::string("Left\0\0\0", 7)}, {std::string("Foot Off\0", 9)}, 1));
   EXPECT_EQ(trial.Gait().NonSidedCount, 1);
-  EXPECT_EQ(Entries(trial.Gait().NonSidedEvents), (std::vector{EventRecord{0, 0, 1.0F}}));
+  EXPECT_EQ(Entries(trial.Gait().NonSidedEvents),
+            (std::vector{EventRecord{GaitSide::None, GaitEventType::Other, 1.0F}}));
 }
 
 TEST(ExtractGaitEvents, MinutesAreIgnored) {
@@ -219,11 +223,14 @@ TEST(ExtractGaitEvents, SortsEachListByTime) {
                                     .AddEvent("General", "Start", 1.8F)
                                     .AddEvent("General", "Stop", 0.8F));
   EXPECT_EQ(Entries(trial.Gait().SidedStrikeOffEvents),
-            (std::vector{EventRecord{2, 2, 1.0F}, EventRecord{1, 1, 2.0F}}));
+            (std::vector{EventRecord{GaitSide::Right, GaitEventType::FootOff, 1.0F},
+                         EventRecord{GaitSide::Left, GaitEventType::FootStrike, 2.0F}}));
   EXPECT_EQ(Entries(trial.Gait().SidedGeneralEvents),
-            (std::vector{EventRecord{1, 0, 0.9F}, EventRecord{2, 0, 1.9F}}));
+            (std::vector{EventRecord{GaitSide::Left, GaitEventType::Other, 0.9F},
+                         EventRecord{GaitSide::Right, GaitEventType::Other, 1.9F}}));
   EXPECT_EQ(Entries(trial.Gait().NonSidedEvents),
-            (std::vector{EventRecord{0, 0, 0.8F}, EventRecord{0, 0, 1.8F}}));
+            (std::vector{EventRecord{GaitSide::None, GaitEventType::Other, 0.8F},
+                         EventRecord{GaitSide::None, GaitEventType::Other, 1.8F}}));
   EXPECT_EQ(trial.Gait().TotalCount, 6);
 }
 
@@ -245,9 +252,9 @@ TEST(ExtractGaitEvents, EventAtTheStartOfTheCaptureIsOnFrameOne) {
   OpenedWalk trial = Open(walk);
   ASSERT_EQ(trial.State().StrideEventFrameCount, 5);
   const auto& frames = trial.State().StrideEventFrames;
-  EXPECT_EQ(frames[1], (EventFrameRecord{1, kSideLeft, kTypeFootStrike}));
-  EXPECT_EQ(frames[2], (EventFrameRecord{61, kSideRight, kTypeFootOff}));
-  EXPECT_EQ(frames[5], (EventFrameRecord{151, kSideLeft, kTypeFootStrike}));
+  EXPECT_EQ(frames[1], (EventFrameRecord{1, GaitSide::Left, GaitEventType::FootStrike}));
+  EXPECT_EQ(frames[2], (EventFrameRecord{61, GaitSide::Right, GaitEventType::FootOff}));
+  EXPECT_EQ(frames[5], (EventFrameRecord{151, GaitSide::Left, GaitEventType::FootStrike}));
 }
 
 }  // namespace

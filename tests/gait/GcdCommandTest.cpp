@@ -84,21 +84,22 @@ class GcdFiles : public testing::Test {
 };
 
 TEST(GcdFileName, EndsInSideLetterAndNumber) {
-  EXPECT_EQ(GcdFileName("D:\\gait\\walk03.c3d", {kSideLeft, 2}, ""), "D:\\gait\\walk03-L2.gcd");
-  EXPECT_EQ(GcdFileName("/gait/walk03.C3D", {kSideRight, 1}, ""), "/gait/walk03-R1.gcd");
-  EXPECT_EQ(GcdFileName("walk", {kSideNone, 12}, ""), "-N12.gcd") << "four characters are cut";
+  EXPECT_EQ(GcdFileName("D:\\gait\\walk03.c3d", {GaitSide::Left, 2}, ""),
+            "D:\\gait\\walk03-L2.gcd");
+  EXPECT_EQ(GcdFileName("/gait/walk03.C3D", {GaitSide::Right, 1}, ""), "/gait/walk03-R1.gcd");
+  EXPECT_EQ(GcdFileName("walk", {GaitSide::None, 12}, ""), "-N12.gcd") << "four characters are cut";
 }
 
 TEST(GcdFileName, CutsFourCharactersOfAUtf8Path) {
-  EXPECT_EQ(GcdFileName("/J\xC3\xBCrgen/G\xC3\xB6.c3d", {kSideLeft, 1}, ""),
+  EXPECT_EQ(GcdFileName("/J\xC3\xBCrgen/G\xC3\xB6.c3d", {GaitSide::Left, 1}, ""),
             "/J\xC3\xBCrgen/G\xC3\xB6-L1.gcd");
-  EXPECT_EQ(GcdFileName("/gait/walk.c3\xC3\xA9", {kSideLeft, 1}, ""), "/gait/walk-L1.gcd")
+  EXPECT_EQ(GcdFileName("/gait/walk.c3\xC3\xA9", {GaitSide::Left, 1}, ""), "/gait/walk-L1.gcd")
       << "a character of two bytes counts once";
 }
 
 TEST(GcdFileName, OutputFolderReplacesTheTrialsOwn) {
-  EXPECT_EQ(GcdFileName("/gait/walk03.c3d", {kSideLeft, 1}, "/out"), "/out/walk03-L1.gcd");
-  EXPECT_EQ(GcdFileName("walk03.c3d", {kSideLeft, 1}, "out/"), "out/walk03-L1.gcd");
+  EXPECT_EQ(GcdFileName("/gait/walk03.c3d", {GaitSide::Left, 1}, "/out"), "/out/walk03-L1.gcd");
+  EXPECT_EQ(GcdFileName("walk03.c3d", {GaitSide::Left, 1}, "out/"), "out/walk03-L1.gcd");
 }
 
 TEST_F(GcdFiles, OneForEachStrideIsWrittenBesideTheTrial) {
@@ -201,7 +202,7 @@ TEST_F(GcdFiles, StrideWithoutASideIsWrittenUnderTheLetterN) {
   builder.AddPoint("NKneeAngles", tests::Standing(1, 2, 3))
       .AddPoint("LKneeAngles", tests::Standing(4, 5, 6));
   OpenedWalk walk(builder.Build(), FindGaitEvents, "walk.c3d");
-  walk.State().GaitEvents.ValidStrides[1].Side = kSideNone;
+  walk.State().GaitEvents.ValidStrides[1].Side = GaitSide::None;
   walk.State().GaitEvents.ValidStrides[1].Number = 4;
   ToldAnswers question({});
   modAllPurpose::TextReport output;

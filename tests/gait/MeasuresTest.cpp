@@ -53,9 +53,9 @@ SingleValueMeasures MeasuresOfToes(const std::array<float, 3>& step,
 }
 
 TEST(Measures, TimingOfAStrideOfTwelveTenthsOfASecond) {
-  const SingleValueMeasures measures =
-      MeasuresOf(StateWithStride({kSideLeft, 3, 0, 0.12F * 1.2F, 0.5F * 1.2F, 0.62F * 1.2F, 1.2F}));
-  EXPECT_EQ(measures.Side, kSideLeft);
+  const SingleValueMeasures measures = MeasuresOf(
+      StateWithStride({GaitSide::Left, 3, 0, 0.12F * 1.2F, 0.5F * 1.2F, 0.62F * 1.2F, 1.2F}));
+  EXPECT_EQ(measures.Side, GaitSide::Left);
   EXPECT_EQ(measures.Number, 3);
   EXPECT_EQ(GeneralForm(measures.StrideTime), "1.2");
   EXPECT_EQ(GeneralForm(measures.Cadence), "0.8333333") << "strides per second";
@@ -70,7 +70,7 @@ TEST(Measures, TimingOfAStrideOfTwelveTenthsOfASecond) {
 
 TEST(Measures, StepTimeIsFromTheOppositeStrikeToTheClosingStrike) {
   const SingleValueMeasures measures =
-      MeasuresOf(StateWithStride({kSideRight, 1, 1, 1.125F, 1.75F, 1.875F, 2}));
+      MeasuresOf(StateWithStride({GaitSide::Right, 1, 1, 1.125F, 1.75F, 1.875F, 2}));
   EXPECT_EQ(measures.StepTimePct, 25.0F);
   EXPECT_EQ(measures.OppositeFootStrikePct, 75.0F);
 }
@@ -111,7 +111,7 @@ TEST(Measures, RightStrideStepsFromTheRightToeToTheLeft) {
   builder.AddPoint("LTOE", Standing(500, 0, 0)).AddPoint("RTOE", Moving({0, 0, 0}, {10, 0, 0}));
   OpenedWalk walk(builder.Build(), FindGaitEvents);
   const SingleValueMeasures measures = MeasuresOf(walk.State());
-  EXPECT_EQ(measures.Side, kSideRight);
+  EXPECT_EQ(measures.Side, GaitSide::Right);
   EXPECT_EQ(measures.StrideLength, static_cast<float>(500 * kCalibration));
   EXPECT_EQ(measures.StepLength, static_cast<float>(330 * kCalibration));
 }
@@ -149,14 +149,14 @@ TEST(Measures, HeightOfTheToesPlaysNoPart) {
 
 TEST(Measures, StrideOfNoDurationIsADivisionByZero) {
   EXPECT_EQ(ErrorNumberOf([] {
-              MeasuresOf(StateWithStride({kSideLeft, 1, 1, 1, 1, 1, 1}));
+              MeasuresOf(StateWithStride({GaitSide::Left, 1, 1, 1, 1, 1, 1}));
             }),
             kDivisionByZero);
 }
 
 TEST(Measures, CadenceBeyondAFloatIsAnOverflow) {
   EXPECT_EQ(ErrorNumberOf([] {
-              MeasuresOf(StateWithStride({kSideLeft, 1, 0, 0, 0, 0, 1e-40F}));
+              MeasuresOf(StateWithStride({GaitSide::Left, 1, 0, 0, 0, 0, 1e-40F}));
             }),
             kOverflow);
 }
@@ -166,19 +166,19 @@ TEST(Measures, StrideWithoutASideIsAnIndexErrorWhereThereAreToes) {
   builder.AddPoint("LTOE", Standing(0, 0, 0)).AddPoint("RTOE", Standing(0, 0, 0));
   OpenedWalk walk(builder.Build(), FindGaitEvents);
   for (const std::int32_t side : {-1, 0, 3}) {
-    walk.State().GaitEvents.ValidStrides[1].Side = side;
+    walk.State().GaitEvents.ValidStrides[1].Side = static_cast<GaitSide>(side);
     EXPECT_EQ(ErrorNumberOf([&] { MeasuresOf(walk.State()); }), kSubscriptOutOfRange) << side;
   }
 }
 
 TEST(Measures, StrideWithoutASideHasItsTimingWhereThereAreNoToes) {
   const SingleValueMeasures measures =
-      MeasuresOf(StateWithStride({kSideNone, 1, 0, 0.1F, 0.5F, 0.6F, 1}));
+      MeasuresOf(StateWithStride({GaitSide::None, 1, 0, 0.1F, 0.5F, 0.6F, 1}));
   EXPECT_EQ(measures.Cadence, 1.0F);
 }
 
 TEST(Measures, StrideOutsideTheListIsAnIndexError) {
-  const FileState state = StateWithStride({kSideLeft, 1, 0, 0.1F, 0.5F, 0.6F, 1});
+  const FileState state = StateWithStride({GaitSide::Left, 1, 0, 0.1F, 0.5F, 0.6F, 1});
   clsGcdCalcs calcs(state);
   for (const std::int32_t index : {-1, 0, 2}) {
     EXPECT_EQ(ErrorNumberOf([&] { calcs.CalcSingleValueMeasures(index); }), kSubscriptOutOfRange);

@@ -92,7 +92,7 @@ TEST(Normalized, CutTrialIsAnError) {
 
 TEST(Normalized, TrialOfOneFrameIsAnIndexError) {
   OpenedWalk walk = Open(sample::TrialBuilder().Frames(1, 1));
-  walk.State().GaitEvents.ValidStrides.Append({kSideLeft, 1, 0, 0, 0, 0, 1});
+  walk.State().GaitEvents.ValidStrides.Append({GaitSide::Left, 1, 0, 0, 0, 0, 1});
   EXPECT_EQ(ErrorNumberOf([&] { clsGcdCalcs(walk.State()).NormalizeLabelForStride("LTOE", 1); }),
             kSubscriptOutOfRange);
 }
@@ -101,7 +101,7 @@ TEST(Normalized, FramesTooShortForAFloatsTimeAreADivisionByZero) {
   OpenedWalk walk = Open(sample::TrialBuilder().Frames(1, 10).Rate(100));
   walk.State().Header.PointFrameRate = 1e9F;
   walk.State().WalkStartTime = 100;
-  walk.State().GaitEvents.ValidStrides.Append({kSideLeft, 1, 0, 0, 0, 0, 1});
+  walk.State().GaitEvents.ValidStrides.Append({GaitSide::Left, 1, 0, 0, 0, 0, 1});
   EXPECT_EQ(ErrorNumberOf([&] { clsGcdCalcs(walk.State()).NormalizeLabelForStride("LTOE", 1); }),
             kDivisionByZero);
 }

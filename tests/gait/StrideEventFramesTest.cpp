@@ -17,7 +17,7 @@ constexpr int kOverflow = 6;
 std::int32_t FrameOf(float seconds, std::int16_t firstFrame = 1) {
   FileState state = tests::StateWithEvents({}, 64);
   state.Header.FirstPointFrameNumber = firstFrame;
-  state.GaitEvents.StrideEvents.Append({kSideLeft, kTypeFootStrike, seconds});
+  state.GaitEvents.StrideEvents.Append({GaitSide::Left, GaitEventType::FootStrike, seconds});
   state.GaitEvents.StrideEventCount = 1;
   TagStrideEventFrames(state);
   return state.StrideEventFrames[1].Frame;
@@ -41,7 +41,7 @@ TEST(TagStrideEventFrames, QuotientIsRoundedToAFloatFirst) {
   // and is 12.5 as a float, which rounds to 12.
   FileState state = tests::StateWithEvents({}, 100);
   ASSERT_GT(0.125 / state.TimeBetweenFrames, 12.5);
-  state.GaitEvents.StrideEvents.Append({kSideLeft, kTypeFootStrike, 0.125F});
+  state.GaitEvents.StrideEvents.Append({GaitSide::Left, GaitEventType::FootStrike, 0.125F});
   state.GaitEvents.StrideEventCount = 1;
   TagStrideEventFrames(state);
   EXPECT_EQ(state.StrideEventFrames[1].Frame, 13);
@@ -49,10 +49,11 @@ TEST(TagStrideEventFrames, QuotientIsRoundedToAFloatFirst) {
 
 TEST(TagStrideEventFrames, CopiesSideAndType) {
   FileState state = tests::StateWithEvents({}, 64);
-  state.GaitEvents.StrideEvents.Append({kSideRight, kTypeFootOff, 1});
+  state.GaitEvents.StrideEvents.Append({GaitSide::Right, GaitEventType::FootOff, 1});
   state.GaitEvents.StrideEventCount = 1;
   TagStrideEventFrames(state);
-  EXPECT_EQ(state.StrideEventFrames[1], (EventFrameRecord{65, kSideRight, kTypeFootOff}));
+  EXPECT_EQ(state.StrideEventFrames[1],
+            (EventFrameRecord{65, GaitSide::Right, GaitEventType::FootOff}));
 }
 
 TEST(TagStrideEventFrames, FrameOutsideTheFileIsKept) {

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include "gait/EventNames.h"
 #include "gait/ValidStrides.h"
 #include "tests/GaitTrials.h"
 
@@ -19,14 +20,14 @@ using tests::StateWithEvents;
 
 using Events = std::vector<EventRecord>;
 
-constexpr std::int32_t kStrike = kTypeFootStrike;
-constexpr std::int32_t kOff = kTypeFootOff;
+constexpr GaitEventType kStrike = GaitEventType::FootStrike;
+constexpr GaitEventType kOff = GaitEventType::FootOff;
 
-const Events kGoodPattern = {{kSideLeft, kStrike, 1.00F},
-                             {kSideRight, kOff, 1.10F},
-                             {kSideRight, kStrike, 1.50F},
-                             {kSideLeft, kOff, 1.60F},
-                             {kSideLeft, kStrike, 2.00F}};
+const Events kGoodPattern = {{GaitSide::Left, kStrike, 1.00F},
+                             {GaitSide::Right, kOff, 1.10F},
+                             {GaitSide::Right, kStrike, 1.50F},
+                             {GaitSide::Left, kOff, 1.60F},
+                             {GaitSide::Left, kStrike, 2.00F}};
 
 GaitEventState Search(const Events& events, float rate = 100.0F) {
   FileState state = StateWithEvents(events, rate);
@@ -37,10 +38,10 @@ GaitEventState Search(const Events& events, float rate = 100.0F) {
 // Two full cycles of both feet.
 Events TwoCycles() {
   Events events = kGoodPattern;
-  for (const EventRecord& event : Events{{kSideRight, kOff, 2.10F},
-                                         {kSideRight, kStrike, 2.50F},
-                                         {kSideLeft, kOff, 2.60F},
-                                         {kSideLeft, kStrike, 3.00F}}) {
+  for (const EventRecord& event : Events{{GaitSide::Right, kOff, 2.10F},
+                                         {GaitSide::Right, kStrike, 2.50F},
+                                         {GaitSide::Left, kOff, 2.60F},
+                                         {GaitSide::Left, kStrike, 3.00F}}) {
     events.push_back(event);
   }
   return events;
@@ -49,16 +50,17 @@ Events TwoCycles() {
 TEST(FindValidStrides, FiveEventsOfThePatternAreAStride) {
   const GaitEventState gait = Search(kGoodPattern);
   ASSERT_EQ(gait.ValidStrideCount, 1);
-  EXPECT_EQ(gait.ValidStrides[1], (StrideRecord{kSideLeft, 1, 1.00F, 1.10F, 1.50F, 1.60F, 2.00F}));
+  EXPECT_EQ(gait.ValidStrides[1],
+            (StrideRecord{GaitSide::Left, 1, 1.00F, 1.10F, 1.50F, 1.60F, 2.00F}));
   EXPECT_EQ(gait.StrideEventCount, 5);
   EXPECT_EQ(Entries(gait.StrideEvents), kGoodPattern);
 }
 
 TEST(FindValidStrides, OfAllSequencesOfFiveEventsOnlyTheTwoPatternsAreStrides) {
-  const Events kinds = {{kSideLeft, kStrike, 0},
-                        {kSideLeft, kOff, 0},
-                        {kSideRight, kStrike, 0},
-                        {kSideRight, kOff, 0}};
+  const Events kinds = {{GaitSide::Left, kStrike, 0},
+                        {GaitSide::Left, kOff, 0},
+                        {GaitSide::Right, kStrike, 0},
+                        {GaitSide::Right, kOff, 0}};
   std::vector<StrideRecord> found;
   for (unsigned sequence = 0; sequence < 1024; ++sequence) {
     Events events;
@@ -69,7 +71,7 @@ TEST(FindValidStrides, OfAllSequencesOfFiveEventsOnlyTheTwoPatternsAreStrides) {
     for (const StrideRecord& stride : Search(events).ValidStrides) found.push_back(stride);
   }
   ASSERT_EQ(found.size(), 2U);
-  EXPECT_EQ(found[0].Side + found[1].Side, kSideLeft + kSideRight);
+  EXPECT_NE(found[0].Side, found[1].Side);
   for (const StrideRecord& stride : found) EXPECT_EQ(stride.Number, 1);
 }
 
@@ -116,14 +118,14 @@ TEST(FindValidStrides, EventWithinAFrameOfTheOneBeforeAtAnyPlaceMakesNoStride) {
 
 TEST(FindValidStrides, ExtraSidedEventAtAnyPlaceBreaksTheStride) {
   for (std::size_t i = 1; i < 5; ++i) {
-    for (const std::int32_t side : {kSideLeft, kSideRight}) {
-      for (const std::int32_t type : {kStrike, kOff}) {
+    for (const GaitSide side : {GaitSide::Left, GaitSide::Right}) {
+      for (const GaitEventType type : {kStrike, kOff}) {
         Events events = kGoodPattern;
         events.push_back({side, type, 0.5F * (events[i - 1].Time + events[i].Time)});
         // Another stride may begin or end with the extra event, this one is gone.
         for (const StrideRecord& stride : Search(events).ValidStrides) {
           EXPECT_FALSE(stride.StartStrikeTime == 1.00F && stride.StopStrikeTime == 2.00F)
-              << i << ' ' << side << ' ' << type;
+              << i << ' ' << SideName(side) << ' ' << EventTypeName(type);
         }
       }
     }
@@ -132,15 +134,15 @@ TEST(FindValidStrides, ExtraSidedEventAtAnyPlaceBreaksTheStride) {
 
 TEST(FindValidStrides, RightStrikeWithinTheStrideMakesNoStride) {
   Events events = kGoodPattern;
-  events.push_back({kSideRight, kStrike, 1.30F});
+  events.push_back({GaitSide::Right, kStrike, 1.30F});
   EXPECT_EQ(Search(events).ValidStrideCount, 0);
 }
 
 TEST(FindValidStrides, EventsOfTheOtherListsPlayNoPart) {
   FileState state = StateWithEvents(kGoodPattern);
-  state.GaitEvents.SidedGeneralEvents.Append({kSideLeft, kTypeOther, 1.3F});
+  state.GaitEvents.SidedGeneralEvents.Append({GaitSide::Left, GaitEventType::Other, 1.3F});
   state.GaitEvents.SidedGeneralCount = 1;
-  state.GaitEvents.NonSidedEvents.Append({kSideNone, kStrike, 1.4F});
+  state.GaitEvents.NonSidedEvents.Append({GaitSide::None, kStrike, 1.4F});
   state.GaitEvents.NonSidedCount = 1;
   FindValidStrides(state);
   EXPECT_EQ(state.GaitEvents.ValidStrideCount, 1);
@@ -157,9 +159,12 @@ TEST(FindValidStrides, FourEventsOrNoneMakeNoStride) {
 TEST(FindValidStrides, NumbersEachSideByItselfInTheOrderOfTheStarts) {
   const GaitEventState gait = Search(TwoCycles());
   ASSERT_EQ(gait.ValidStrideCount, 3);
-  EXPECT_EQ(gait.ValidStrides[1], (StrideRecord{kSideLeft, 1, 1.00F, 1.10F, 1.50F, 1.60F, 2.00F}));
-  EXPECT_EQ(gait.ValidStrides[2], (StrideRecord{kSideRight, 1, 1.50F, 1.60F, 2.00F, 2.10F, 2.50F}));
-  EXPECT_EQ(gait.ValidStrides[3], (StrideRecord{kSideLeft, 2, 2.00F, 2.10F, 2.50F, 2.60F, 3.00F}));
+  EXPECT_EQ(gait.ValidStrides[1],
+            (StrideRecord{GaitSide::Left, 1, 1.00F, 1.10F, 1.50F, 1.60F, 2.00F}));
+  EXPECT_EQ(gait.ValidStrides[2],
+            (StrideRecord{GaitSide::Right, 1, 1.50F, 1.60F, 2.00F, 2.10F, 2.50F}));
+  EXPECT_EQ(gait.ValidStrides[3],
+            (StrideRecord{GaitSide::Left, 2, 2.00F, 2.10F, 2.50F, 2.60F, 3.00F}));
 }
 
 TEST(FindValidStrides, StrideEventsOfOverlappingStridesStandOnceEachInTimeOrder) {
@@ -176,7 +181,7 @@ TEST(FindValidStrides, NumberingGoesOnAcrossABreak) {
   }
   const GaitEventState gait = Search(events);
   ASSERT_EQ(gait.ValidStrideCount, 4);
-  EXPECT_EQ(gait.ValidStrides[4].Side, kSideLeft);
+  EXPECT_EQ(gait.ValidStrides[4].Side, GaitSide::Left);
   EXPECT_EQ(gait.ValidStrides[4].Number, 3);
 }
 
@@ -191,7 +196,8 @@ TEST(FindValidStrides, StrideOfTheRightFootMirrorsThatOfTheLeft) {
   for (EventRecord& event : events) event.Side = OppositeSide(event.Side);
   const GaitEventState gait = Search(events);
   ASSERT_EQ(gait.ValidStrideCount, 1);
-  EXPECT_EQ(gait.ValidStrides[1], (StrideRecord{kSideRight, 1, 1.00F, 1.10F, 1.50F, 1.60F, 2.00F}));
+  EXPECT_EQ(gait.ValidStrides[1],
+            (StrideRecord{GaitSide::Right, 1, 1.00F, 1.10F, 1.50F, 1.60F, 2.00F}));
   EXPECT_EQ(Entries(gait.StrideEvents), events);
 }
 
@@ -203,11 +209,11 @@ float LeastApart(float rate) {
 
 // The good pattern from time 0 on, its second event at `gap`.
 std::int32_t StridesWithFirstGap(float start, float gap, float rate) {
-  return Search({{kSideLeft, kStrike, start},
-                 {kSideRight, kOff, gap},
-                 {kSideRight, kStrike, 1.5F},
-                 {kSideLeft, kOff, 1.6F},
-                 {kSideLeft, kStrike, 2.0F}},
+  return Search({{GaitSide::Left, kStrike, start},
+                 {GaitSide::Right, kOff, gap},
+                 {GaitSide::Right, kStrike, 1.5F},
+                 {GaitSide::Left, kOff, 1.6F},
+                 {GaitSide::Left, kStrike, 2.0F}},
                 rate)
       .ValidStrideCount;
 }
@@ -248,36 +254,44 @@ modAllPurpose::OneBasedTable<EventRecord> TableOf(const Events& events) {
 }
 
 TEST(SortEventsByTime, ExchangeMovesOneOfTwoEqualTimesPastTheOther) {
-  auto events = TableOf({{kSideLeft, kStrike, 2}, {kSideRight, kOff, 2}, {kSideLeft, kOff, 1}});
+  auto events = TableOf(
+      {{GaitSide::Left, kStrike, 2}, {GaitSide::Right, kOff, 2}, {GaitSide::Left, kOff, 1}});
   SortEventsByTime(3, events);
-  EXPECT_EQ(Entries(events),
-            (Events{{kSideLeft, kOff, 1}, {kSideRight, kOff, 2}, {kSideLeft, kStrike, 2}}))
+  EXPECT_EQ(
+      Entries(events),
+      (Events{{GaitSide::Left, kOff, 1}, {GaitSide::Right, kOff, 2}, {GaitSide::Left, kStrike, 2}}))
       << "a stable sort would keep the strike before the off";
 }
 
 TEST(SortEventsByTime, EqualTimesAreNeverExchangedThemselves) {
-  auto events = TableOf({{kSideLeft, kStrike, 1}, {kSideRight, kOff, 2}, {kSideLeft, kOff, 2}});
+  auto events = TableOf(
+      {{GaitSide::Left, kStrike, 1}, {GaitSide::Right, kOff, 2}, {GaitSide::Left, kOff, 2}});
   const auto before = events;
   SortEventsByTime(3, events);
   EXPECT_EQ(events, before);
 }
 
 TEST(SortEventsByTime, TouchesOnlyAsManyAsCounted) {
-  auto events = TableOf({{1, 1, 3}, {1, 1, 2}, {1, 1, 1}});
+  auto events = TableOf(
+      {{GaitSide::Left, kStrike, 3}, {GaitSide::Left, kStrike, 2}, {GaitSide::Left, kStrike, 1}});
   SortEventsByTime(2, events);
-  EXPECT_EQ(Entries(events), (Events{{1, 1, 2}, {1, 1, 3}, {1, 1, 1}}));
+  EXPECT_EQ(Entries(events), (Events{{GaitSide::Left, kStrike, 2},
+                                     {GaitSide::Left, kStrike, 3},
+                                     {GaitSide::Left, kStrike, 1}}));
   SortEventsByTime(1, events);
   SortEventsByTime(0, events);
   SortEventsByTime(-4, events);
-  EXPECT_EQ(Entries(events), (Events{{1, 1, 2}, {1, 1, 3}, {1, 1, 1}}));
+  EXPECT_EQ(Entries(events), (Events{{GaitSide::Left, kStrike, 2},
+                                     {GaitSide::Left, kStrike, 3},
+                                     {GaitSide::Left, kStrike, 1}}));
 }
 
 TEST(OppositeSide, IsTheOtherFootOrNone) {
-  EXPECT_EQ(OppositeSide(kSideLeft), kSideRight);
-  EXPECT_EQ(OppositeSide(kSideRight), kSideLeft);
-  EXPECT_EQ(OppositeSide(kSideNone), kSideNone);
-  EXPECT_EQ(OppositeSide(3), kSideNone);
-  EXPECT_EQ(OppositeSide(-1), kSideNone);
+  EXPECT_EQ(OppositeSide(GaitSide::Left), GaitSide::Right);
+  EXPECT_EQ(OppositeSide(GaitSide::Right), GaitSide::Left);
+  EXPECT_EQ(OppositeSide(GaitSide::None), GaitSide::None);
+  EXPECT_EQ(OppositeSide(static_cast<GaitSide>(3)), GaitSide::None);
+  EXPECT_EQ(OppositeSide(static_cast<GaitSide>(-1)), GaitSide::None);
 }
 
 Events WithoutRepeats(const Events& events) {
@@ -287,9 +301,9 @@ Events WithoutRepeats(const Events& events) {
 }
 
 TEST(RemoveRepeatedEvents, DropsTheRecordBehindNotTheRepeat) {
-  const EventRecord a{kSideLeft, kStrike, 1};
-  const EventRecord b{kSideRight, kOff, 2};
-  const EventRecord c{kSideRight, kStrike, 3};
+  const EventRecord a{GaitSide::Left, kStrike, 1};
+  const EventRecord b{GaitSide::Right, kOff, 2};
+  const EventRecord c{GaitSide::Right, kStrike, 3};
   EXPECT_EQ(WithoutRepeats({a, a, b}), (Events{a, b}));
   EXPECT_EQ(WithoutRepeats({a, b, a}), (Events{a})) << "b goes on the way to the repeat";
   EXPECT_EQ(WithoutRepeats({a, b, c, a, b}), (Events{a, b})) << "b and c go, then the repeat";
@@ -297,19 +311,22 @@ TEST(RemoveRepeatedEvents, DropsTheRecordBehindNotTheRepeat) {
 }
 
 TEST(RemoveRepeatedEvents, KeepsWhatDiffersInSideTypeOrTime) {
-  const Events events = {{kSideLeft, kStrike, 1},
-                         {kSideRight, kStrike, 1},
-                         {kSideLeft, kOff, 1},
-                         {kSideLeft, kStrike, std::nextafter(1.0F, 2.0F)}};
+  const Events events = {{GaitSide::Left, kStrike, 1},
+                         {GaitSide::Right, kStrike, 1},
+                         {GaitSide::Left, kOff, 1},
+                         {GaitSide::Left, kStrike, std::nextafter(1.0F, 2.0F)}};
   EXPECT_EQ(WithoutRepeats(events), events);
   EXPECT_TRUE(WithoutRepeats({}).empty());
   EXPECT_EQ(WithoutRepeats({events[0]}), Events{events[0]});
 }
 
 TEST(RemoveRepeatedEvents, TimesAreEqualWhenTheirBitsAre) {
-  EXPECT_EQ(WithoutRepeats({{1, 1, 0.0F}, {1, 1, -0.0F}}).size(), 2U);
+  EXPECT_EQ(
+      WithoutRepeats({{GaitSide::Left, kStrike, 0.0F}, {GaitSide::Left, kStrike, -0.0F}}).size(),
+      2U);
   const float nan = std::numeric_limits<float>::quiet_NaN();
-  EXPECT_EQ(WithoutRepeats({{1, 1, nan}, {1, 1, nan}}).size(), 1U);
+  EXPECT_EQ(WithoutRepeats({{GaitSide::Left, kStrike, nan}, {GaitSide::Left, kStrike, nan}}).size(),
+            1U);
 }
 
 }  // namespace

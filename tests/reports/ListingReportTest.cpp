@@ -125,8 +125,8 @@ TEST(PointListing, MissingSampleAndLargeValuesPrint) {
 
 TEST(PointListingWithEvents, TagsStandInFrontOfTheirFrames) {
   OpenedTrial trial(OnePoint(1, 3));
-  AddEventOnFrame(trial.State(), {2, kSideLeft, kTypeFootStrike});
-  AddEventOnFrame(trial.State(), {3, kSideRight, kTypeFootOff});
+  AddEventOnFrame(trial.State(), {2, GaitSide::Left, GaitEventType::FootStrike});
+  AddEventOnFrame(trial.State(), {3, GaitSide::Right, GaitEventType::FootOff});
   EXPECT_EQ(Text(reports::ShowPointDataWithEvents, trial.State(), "LTOE"),
             "Label: 'LTOE'\n" + std::string(kPointHeadingWithEvents) +
                 "                   001  00.00000  0123.4567  -0012.0000  0987.6543\n"
@@ -137,8 +137,8 @@ TEST(PointListingWithEvents, TagsStandInFrontOfTheirFrames) {
 
 TEST(PointListingWithEvents, EventWithoutASideCarriesTheTagOfTheFrameBefore) {
   OpenedTrial trial(OnePoint(1, 3));
-  AddEventOnFrame(trial.State(), {1, kSideLeft, kTypeFootOff});
-  AddEventOnFrame(trial.State(), {2, kSideNone, kTypeFootStrike});
+  AddEventOnFrame(trial.State(), {1, GaitSide::Left, GaitEventType::FootOff});
+  AddEventOnFrame(trial.State(), {2, GaitSide::None, GaitEventType::FootStrike});
   const auto lines = LinesOf(reports::ShowPointDataWithEvents, trial.State(), "LTOE");
   EXPECT_TRUE(lines[3].starts_with("Left  Foot Off   Foot Strike  002")) << lines[3];
   EXPECT_TRUE(lines[4].starts_with("                   003")) << lines[4];
@@ -166,7 +166,7 @@ TEST(AnalogListing, SampleNumberGrowsBeyondFourDigits) {
 
 TEST(AnalogListing, LabelAndTagLinesWithEvents) {
   OpenedTrial trial(OneChannel(2, 2));
-  AddEventOnFrame(trial.State(), {2, kSideRight, kTypeFootStrike});
+  AddEventOnFrame(trial.State(), {2, GaitSide::Right, GaitEventType::FootStrike});
   EXPECT_EQ(Text(reports::ShowAnalogDataWithEvents, trial.State(), " Fz"),
             "Label: 'Fz'\n" + std::string(kAnalogHeading) +
                 "                   001  0001  00.00000  -0.50000000\n"
@@ -226,7 +226,7 @@ TEST(Listings, EmptyLabelIsListedWhereOneIsStored) {
 
 TEST(Listings, EventOutsideTheFramesIsAnIndexError) {
   OpenedTrial trial(OneChannel(2, 2));
-  AddEventOnFrame(trial.State(), {3, kSideRight, kTypeFootStrike});
+  AddEventOnFrame(trial.State(), {3, GaitSide::Right, GaitEventType::FootStrike});
   for (const Request& request : {Request{reports::ShowPointDataWithEvents, "LTOE"},
                                  Request{reports::ShowAnalogDataWithEvents, "Fz"}}) {
     modAllPurpose::TextReport output;

@@ -58,8 +58,8 @@ TEST(MeasuresReport, PrintsEachStride) {
 TEST(MeasuresReport, KeepsWhatItHadWrittenBeforeAnError) {
   FileState state;
   state.Header.PointFrameRate = 120;
-  state.GaitEvents.ValidStrides.Append({kSideLeft, 1, 0, 0.1F, 0.5F, 0.6F, 1});
-  state.GaitEvents.ValidStrides.Append({kSideLeft, 2, 1, 1, 1, 1, 1});
+  state.GaitEvents.ValidStrides.Append({GaitSide::Left, 1, 0, 0.1F, 0.5F, 0.6F, 1});
+  state.GaitEvents.ValidStrides.Append({GaitSide::Left, 2, 1, 1, 1, 1, 1});
   state.GaitEvents.ValidStrideCount = 2;
   modAllPurpose::TextReport output;
   EXPECT_EQ(ErrorNumberOf([&] { ShowSingleValueStrikeOffMeasures(state, output); }),

@@ -73,7 +73,7 @@ TEST(NormalizedReport, StrideOfOneSecondFromTwoSecondsOn) {
 TEST(NormalizedReport, EachStrideHasItsBlockAndAnEmptyLine) {
   OpenedWalk walk = OpenKneeTrial();
   StrideRecord right = walk.Gait().ValidStrides[1];
-  right.Side = kSideRight;
+  right.Side = GaitSide::Right;
   right.Number = 7;
   walk.State().GaitEvents.ValidStrides.Append(right);
   walk.State().GaitEvents.ValidStrideCount = 2;

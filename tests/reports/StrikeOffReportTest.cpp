@@ -27,15 +27,17 @@ std::string LineWith(const std::string& report, const std::string& part) {
 }
 
 TEST(SideName, IsNoneForAnyOtherCode) {
-  EXPECT_EQ(SideName(1), "Left");
-  EXPECT_EQ(SideName(2), "Right");
-  for (const std::int32_t side : {0, 3, -1}) EXPECT_EQ(SideName(side), "None");
+  EXPECT_EQ(SideName(GaitSide::Left), "Left");
+  EXPECT_EQ(SideName(GaitSide::Right), "Right");
+  for (const std::int32_t side : {0, 3, -1})
+    EXPECT_EQ(SideName(static_cast<GaitSide>(side)), "None");
 }
 
 TEST(EventTypeName, IsOtherForAnyOtherCode) {
-  EXPECT_EQ(EventTypeName(1), "Foot Strike");
-  EXPECT_EQ(EventTypeName(2), "Foot Off");
-  for (const std::int32_t type : {0, 3, -1}) EXPECT_EQ(EventTypeName(type), "Other");
+  EXPECT_EQ(EventTypeName(GaitEventType::FootStrike), "Foot Strike");
+  EXPECT_EQ(EventTypeName(GaitEventType::FootOff), "Foot Off");
+  for (const std::int32_t type : {0, 3, -1})
+    EXPECT_EQ(EventTypeName(static_cast<GaitEventType>(type)), "Other");
 }
 
 TEST(StrikeOffReport, TrialWithoutEventsPrintsZerosAndHeadings) {
@@ -60,15 +62,15 @@ TEST(StrikeOffReport, TrialWithoutEventsPrintsZerosAndHeadings) {
 }
 
 TEST(StrikeOffReport, PrintsCountsListsAndStrides) {
-  FileState state = StateWithEvents({{kSideLeft, kTypeFootStrike, 1.1F}});
+  FileState state = StateWithEvents({{GaitSide::Left, GaitEventType::FootStrike, 1.1F}});
   state.GaitEvents.TotalCount = 4;
   state.GaitEvents.SidedGeneralCount = 1;
-  state.GaitEvents.SidedGeneralEvents.Append({kSideRight, kTypeOther, 2});
+  state.GaitEvents.SidedGeneralEvents.Append({GaitSide::Right, GaitEventType::Other, 2});
   state.GaitEvents.NonSidedCount = 2;
-  state.GaitEvents.NonSidedEvents.Append({kSideNone, kTypeOther, 12.345F});
-  state.GaitEvents.NonSidedEvents.Append({kSideNone, kTypeFootOff, 3});
+  state.GaitEvents.NonSidedEvents.Append({GaitSide::None, GaitEventType::Other, 12.345F});
+  state.GaitEvents.NonSidedEvents.Append({GaitSide::None, GaitEventType::FootOff, 3});
   state.GaitEvents.ValidStrideCount = 1;
-  state.GaitEvents.ValidStrides.Append({kSideLeft, 1, 1.0F, 1.1F, 1.5F, 1.6F, 2.0F});
+  state.GaitEvents.ValidStrides.Append({GaitSide::Left, 1, 1.0F, 1.1F, 1.5F, 1.6F, 2.0F});
   EXPECT_EQ(EventsReport(state),
             "TotalCount:            4\n"
             "SidedStrikeOffCount:   1\n"
@@ -101,9 +103,9 @@ TEST(StrikeOffReport, NegativeTotalCountPrintsAsItIs) {
 }
 
 TEST(StrikeOffReport, TimesRoundAndGrow) {
-  const FileState state = StateWithEvents({{kSideLeft, kTypeFootStrike, 0.000004F},
-                                           {kSideRight, kTypeFootStrike, 9.999996F},
-                                           {kSideRight, kTypeFootOff, 123.456F}});
+  const FileState state = StateWithEvents({{GaitSide::Left, GaitEventType::FootStrike, 0.000004F},
+                                           {GaitSide::Right, GaitEventType::FootStrike, 9.999996F},
+                                           {GaitSide::Right, GaitEventType::FootOff, 123.456F}});
   const std::string report = EventsReport(state);
   EXPECT_EQ(LineWith(report, "Left Foot Strike"), "    Left Foot Strike      00.00000");
   EXPECT_EQ(LineWith(report, "Right Foot Strike"), "    Right Foot Strike     10.00000");
@@ -113,8 +115,8 @@ TEST(StrikeOffReport, TimesRoundAndGrow) {
 TEST(StrikeOffReport, StrideNumberOfThreeDigitsMakesTheLineLonger) {
   FileState state;
   state.GaitEvents.ValidStrideCount = 2;
-  state.GaitEvents.ValidStrides.Append({kSideRight, 123, 1, 1, 1, 1, 1});
-  state.GaitEvents.ValidStrides.Append({kSideNone, 9, 1, 1, 1, 1, 1});
+  state.GaitEvents.ValidStrides.Append({GaitSide::Right, 123, 1, 1, 1, 1, 1});
+  state.GaitEvents.ValidStrides.Append({GaitSide::None, 9, 1, 1, 1, 1, 1});
   const std::string report = EventsReport(state);
   EXPECT_EQ(LineWith(report, "    Right"),
             "    Right  123  01.00000  01.00000  01.00000  01.00000  01.00000");
