@@ -2,14 +2,14 @@
 
 #include "c3d/LabelTables.h"
 
+#include <utility>
+
 #include "c3d/ParameterSection.h"
 #include "support/Arithmetic.h"
-#include "support/RuntimeError.h"
 #include "support/Text.h"
 
 namespace modVantrel {
 
-using modAllPurpose::IgnoringErrors;
 using modAllPurpose::OneBasedTable;
 using modAllPurpose::UpperCase;
 
@@ -28,10 +28,10 @@ void FillFrom(const ParamRecord& param, std::string_view prefix,
 
 void ReadLabelPrefix(FileState& state) {
   const GroupAndParam uses = FindGroupAndParam(state, "SUBJECTS", "USES_PREFIXES");
-  IgnoringErrors([&] { state.UsesPrefixes = uses.Param.IntegerValues.At(FirstElement()) != 0; });
+  if (const auto used = uses.Param.IntegerValues.First()) state.UsesPrefixes = *used != 0;
   if (!state.UsesPrefixes) return;
   const GroupAndParam prefixes = FindGroupAndParam(state, "SUBJECTS", "LABEL_PREFIXES");
-  IgnoringErrors([&] { state.LabelPrefix = prefixes.Param.TextValues.At(FirstElement()); });
+  if (auto prefix = prefixes.Param.TextValues.First()) state.LabelPrefix = std::move(*prefix);
 }
 
 std::string WithoutPrefix(std::string_view label, std::string_view prefix) {

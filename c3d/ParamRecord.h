@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -47,6 +48,12 @@ class ValueArray {
 
   Number At(const ElementIndices& indices) const { return values_[shape_.Offset(indices)]; }
 
+  // The first element; nothing where the array holds none, as in a parameter that was not found or
+  // that is of another type.
+  std::optional<Number> First() const {
+    return values_.empty() ? std::nullopt : std::optional<Number>(values_.front());
+  }
+
  private:
   ArrayShape shape_;
   std::vector<Number> values_;
@@ -63,6 +70,11 @@ class TextArray {
 
   // The element as UTF-8, trimmed; error 9 where there is none.
   std::string At(const ElementIndices& indices) const;
+
+  // The same for the first element; nothing where the array holds none.
+  std::optional<std::string> First() const {
+    return Count() == 0 ? std::nullopt : std::optional<std::string>(InFileOrder(0));
+  }
 
   bool Holds(const ElementIndices& indices) const { return shape_.Holds(indices); }
 

@@ -79,7 +79,7 @@ void FillEventLists(FileState& state, const EventParams& params) {
 [[maybe_unused]] void ExtractFromParams(FileState& state) {
   const EventParams params = FindEventParams(state);
   GaitEventState& events = state.GaitEvents;
-  IgnoringErrors([&] { events.TotalCount = params.Used.IntegerValues.At(FirstElement()); });
+  events.TotalCount = params.Used.IntegerValues.First().value_or(0);
   if (events.TotalCount == 0) return;
   const bool complete = IgnoringErrors([&] {
     FillEventLists(state, params);
