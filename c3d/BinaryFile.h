@@ -63,6 +63,22 @@ class BinaryFile {
   // Forgets the buffered bytes, so that the next read sees the file as it is now.
   void ForgetBuffer();
 
+  // A look at the file as it is now: begins by forgetting what is buffered, and all looks taken
+  // while it lives are parts of it and share its bytes. A walk of the parameters is one, and so are
+  // the many walks of an open.
+  class Look {
+   public:
+    explicit Look(BinaryFile& file) : file_(file) {
+      if (file_.looks_++ == 0) file_.ForgetBuffer();
+    }
+    Look(const Look&) = delete;
+    Look& operator=(const Look&) = delete;
+    ~Look() { --file_.looks_; }
+
+   private:
+    BinaryFile& file_;
+  };
+
   // Sets the read-ahead of a file for the lifetime of this object.
   class ReadAhead {
    public:
@@ -92,6 +108,7 @@ class BinaryFile {
   std::uint64_t bufferOffset_ = 0;
   std::size_t bufferedBytes_ = 0;
   std::size_t readAhead_ = kDefaultReadAhead;
+  int looks_ = 0;  // that live now
 };
 
 }  // namespace modVantrel

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cmath>
+#include <optional>
 
 #include "c3d/LabelTables.h"
 #include "c3d/MacSideFiles.h"
@@ -73,26 +74,24 @@ OpenResult DeriveFromHeader(FileState& state) {
 }
 
 OpenResult TakeCameraRate(FileState& state) {
-  const GroupAndParam rate = FindGroupAndParam(state, "TRIAL", "CAMERA_RATE");
-  IgnoringErrors([&] { state.Header.PointFrameRate = rate.Param.SingleValues.At(FirstElement()); });
+  const GroupAndParam camera = FindGroupAndParam(state, "TRIAL", "CAMERA_RATE");
+  if (const auto rate = camera.Param.SingleValues.First()) state.Header.PointFrameRate = *rate;
   // A rate that is not a number is not set either.
   return state.Header.PointFrameRate >= 1.0F ? OpenResult::Success : OpenResult::FrameRateNotSet;
 }
 
 OpenResult CheckSubjects(FileState& state) {
   const GroupAndParam used = FindGroupAndParam(state, "SUBJECTS", "USED");
-  std::int16_t subjects = 0;
-  IgnoringErrors([&] { subjects = used.Param.IntegerValues.At(FirstElement()); });
-  return subjects > 1 ? OpenResult::MoreThanOneSubject : OpenResult::Success;
+  return used.Param.IntegerValues.First().value_or(0) > 1 ? OpenResult::MoreThanOneSubject
+                                                          : OpenResult::Success;
 }
 
 OpenResult CheckScaleFactor(FileState& state) {
   const GroupAndParam scale = FindGroupAndParam(state, "POINT", "SCALE");
-  float value = 0;
-  const bool read = IgnoringErrors([&] { value = scale.Param.SingleValues.At(FirstElement()); });
+  const std::optional<float> value = scale.Param.SingleValues.First();
   float& scaleFactor = state.Header.ScaleFactor;
   // Equality of the stored floats is the rule; a scale that is not a number equals nothing.
-  if (!read || value != scaleFactor || value == 0.0F) return OpenResult::ScaleFactorCorrupt;
+  if (!value || *value != scaleFactor || *value == 0.0F) return OpenResult::ScaleFactorCorrupt;
 
   state.DataStoredAsIntegerOrSingle = scaleFactor < 0 ? kStoredAsSingle : kStoredAsInteger;
   scaleFactor = std::fabs(scaleFactor);
@@ -177,6 +176,7 @@ OpenResult OpenC3dFile(FileState& state, const std::string& fileSpec,
   state.EvtFileSpec = sideFiles.Evt;
   state.DataFileSpec = sideFiles.Data;
   try {
+    const BinaryFile::Look look(state.C3dFileNumber);
     const OpenResult result = RunSteps(state);
     if (result != OpenResult::Success) {
       CloseC3dFile(state);

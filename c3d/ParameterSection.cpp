@@ -182,6 +182,7 @@ ParamRecord FindGroup(const FileState& state, std::string_view groupName) {
 
 GroupAndParam FindGroupAndParam(const FileState& state, std::string_view groupName,
                                 std::string_view paramName) {
+  const BinaryFile::Look look(state.C3dFileNumber);
   GroupAndParam found;
   found.Group = FindGroup(state, groupName);
   if (!found.GroupFound()) return found;
@@ -198,7 +199,7 @@ GroupAndParam FindGroupAndParam(const FileState& state, std::string_view groupNa
 
 ParamBlockHeader ReadParamBlockHeader(const FileState& state) {
   BinaryFile& file = state.C3dFileNumber;
-  file.ForgetBuffer();
+  const BinaryFile::Look look(file);
   file.Seek((state.Header.ParamBlockPointer - 1) * kBlockSize + 1);
   ParamBlockHeader header;
   header.ParamBlockPointer = file.ReadByte();

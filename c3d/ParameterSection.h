@@ -23,9 +23,11 @@ ParamRecord ReadParamRecord(const FileState& state, std::int32_t position, bool 
                             bool& isLast, Values values = Values::Read);
 
 // Calls `visit(record, position)` for each record of the chain, in file order and without its
-// values, until `visit` answers true or the chain ends. Errors as ReadParamRecord.
+// values, until `visit` answers true or the chain ends. The walk begins with what the file holds
+// now. Errors as ReadParamRecord.
 template <typename Visit>
 void WalkParamChain(const FileState& state, Visit&& visit) {
+  const BinaryFile::Look look(state.C3dFileNumber);
   bool isLast = false;
   std::int32_t position = state.SeekPtrForFirstC3dParam;
   while (position != 0) {

@@ -39,11 +39,8 @@ template <typename Take>
 void TryParams(const FileState& state, std::span<const char* const> names, Take take) {
   for (const char* group : kGroups) {
     for (const char* name : names) {
-      const ParamRecord param = FindGroupAndParam(state, group, name).Param;
-      if (param.TextValues.Holds(FirstElement()) &&
-          take(StripAtNul(param.TextValues.At(FirstElement())))) {
-        return;
-      }
+      const auto text = FindGroupAndParam(state, group, name).Param.TextValues.First();
+      if (text && take(StripAtNul(*text))) return;
     }
   }
 }
@@ -119,6 +116,7 @@ std::optional<int> DigitsOnly(std::string_view digits) {
 }  // namespace
 
 SubjectRecord FindSubject(const FileState& state, const SubjectOptions& options) {
+  const BinaryFile::Look look(state.C3dFileNumber);
   const std::string file = SubjectFileText(state);
   return {FindGender(state, options.Gender, IniValue(file, "GENDER")),
           FindDate(state, options.DateOfBirth, kBirthParams, IniValue(file, "DOB")),
