@@ -81,8 +81,8 @@ void ChannelListingByFrames(benchmark::State& run) {
 void SplineByFrames(benchmark::State& run) {
   const auto samples = modVantrel::GetPointDataForLabel(Trial(run).State(), "RTOE");
   while (run.KeepRunning()) {
-    benchmark::DoNotOptimize(modCubicSpline::BuildComponentSpline(samples, samples.Count(),
-                                                                  modCubicSpline::Component::X));
+    benchmark::DoNotOptimize(
+        modCubicSpline::BuildComponentSpline(samples, samples.Count(), modVantrel::Component::X));
   }
 }
 

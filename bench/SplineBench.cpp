@@ -19,7 +19,7 @@
 namespace {
 
 using bench::BenchTrial;
-using modCubicSpline::Component;
+using modVantrel::Component;
 using modVantrel::PointSample;
 using modVantrel::PointSamples;
 

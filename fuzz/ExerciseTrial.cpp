@@ -11,6 +11,7 @@
 #include "gait/EventExtraction.h"
 #include "gait/GcdCalcs.h"
 #include "gait/GcdCommand.h"
+#include "gait/GcdText.h"
 #include "reports/HeaderReport.h"
 #include "reports/ListingReport.h"
 #include "reports/MeasuresReport.h"
@@ -98,7 +99,7 @@ void RunGcdTexts(const FileState& state) {
   for (std::int32_t i = 1; i <= strides; ++i) {
     Run([&](ReportOutput& output) {
       const auto subject = modVantrel::FindSubject(state, {});
-      output.Line(calcs.GcdText(i, "!Left", "L", subject, false, false));
+      output.Line(GcdText(calcs, i, subject));
     });
   }
 }

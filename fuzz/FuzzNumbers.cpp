@@ -85,8 +85,8 @@ void CheckSpline(Input& input) {
     samples.Append(sample);
   }
   try {
-    const SplineCurve curve = modCubicSpline::BuildComponentSpline(samples, samples.Count(),
-                                                                   modCubicSpline::Component::X);
+    const SplineCurve curve =
+        modCubicSpline::BuildComponentSpline(samples, samples.Count(), modVantrel::Component::X);
     for (const auto& sample : samples) {
       Require(std::isfinite(modCubicSpline::SplineValueAt(sample.Time, curve)), "finite at a knot");
       Require(std::isfinite(modCubicSpline::SplineValueAt(sample.Time * 0.5F, curve)), "finite");

@@ -9,21 +9,9 @@ namespace modCubicSpline {
 
 using modAllPurposeNumbers::Divide;
 using modAllPurposeNumbers::ToSingle;
-using modVantrel::PointSample;
+using modVantrel::Component;
 
 namespace {
-
-float Ordinate(const PointSample& sample, Component component) {
-  switch (component) {
-    case Component::X:
-      return sample.X;
-    case Component::Y:
-      return sample.Y;
-    case Component::Z:
-      return sample.Z;
-  }
-  return 0;
-}
 
 // The knot that opens the interval around `t`: the last one not behind `t`, but never the last of
 // all, and the first where `t` lies before every knot.
@@ -71,7 +59,7 @@ SplineCurve BuildComponentSpline(const modVantrel::PointSamples& samples, std::i
   curve.Ordinates = SingleTable(count);
   for (std::int32_t i = 1; i <= count; ++i) {
     curve.Abscissae[i] = samples[i].Time;
-    curve.Ordinates[i] = Ordinate(samples[i], component);
+    curve.Ordinates[i] = ComponentOf(samples[i], component);
   }
   curve.SecondDerivatives = SplineSecondDerivatives(curve.Abscissae, curve.Ordinates, count);
   return curve;

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "c3d/Component.h"
 #include "c3d/FrameData.h"
 #include "support/OneBasedTable.h"
 
@@ -19,8 +20,6 @@ struct SplineCurve {
   SingleTable SecondDerivatives;
 };
 
-enum class Component : std::int32_t { X = 1, Y = 2, Z = 3 };
-
 // The second derivatives at the knots 1 to `n` of the natural spline (0 at both ends) through
 // (x, y), by elimination of its tridiagonal system. Error 11 where two neighbouring knots coincide,
 // error 9 for fewer than two knots or tables shorter than `n`.
@@ -29,7 +28,7 @@ SingleTable SplineSecondDerivatives(const SingleTable& x, const SingleTable& y, 
 // The spline through `component` of the first `count` samples. Error 9 where there are fewer
 // samples, otherwise as SplineSecondDerivatives.
 SplineCurve BuildComponentSpline(const modVantrel::PointSamples& samples, std::int32_t count,
-                                 Component component);
+                                 modVantrel::Component component);
 
 // The curve's value at `t` seconds; outside the knots the end interval's cubic goes on. Error 9 for
 // fewer than two knots.

@@ -3,6 +3,7 @@
 #include "gait/GcdCalcs.h"
 
 #include <cmath>
+#include <string>
 #include <utility>
 
 #include "c3d/FrameData.h"
@@ -14,7 +15,6 @@ namespace modVantrel {
 using modAllPurposeNumbers::Divide;
 using modAllPurposeNumbers::ToSingle;
 using modCubicSpline::BuildComponentSpline;
-using modCubicSpline::Component;
 using modCubicSpline::SplineCurve;
 using modCubicSpline::SplineValueAt;
 
@@ -22,9 +22,6 @@ namespace {
 
 // Lengths are enlarged by half a percent, a calibration of this program.
 constexpr double kLengthCalibration = 1.0049999952316284;
-
-constexpr std::int32_t kProgressionX = 1;
-constexpr std::int32_t kProgressionY = 2;
 
 float Percentage(double seconds, float strideTime) {
   return ToSingle(Divide(seconds, strideTime) * 100.0);
@@ -89,7 +86,7 @@ void clsGcdCalcs::CalcLengths(const StrideRecord& stride, SingleValueMeasures& m
   const float strideX = Distance(SplineValueAt(stride.StopStrikeTime, sameX), startX);
   measures.StrideLength = CalibratedLength(strideX, strideY);
   measures.StepLength = CalibratedLength(stepX, stepY);
-  measures.ProgressionAxis = strideY <= strideX ? kProgressionX : kProgressionY;
+  measures.ProgressionAxis = strideY <= strideX ? WalkAxis::X : WalkAxis::Y;
   measures.Speed = ToSingle(Divide(measures.StrideLength, measures.StrideTime));
 }
 
@@ -108,6 +105,26 @@ NormalizedCurve clsGcdCalcs::NormalizeLabelForStride(std::string_view label,
     curve[k] = {SplineValueAt(t, x), SplineValueAt(t, y), SplineValueAt(t, z), t};
   }
   return curve;
+}
+
+std::vector<StrideCurve> clsGcdCalcs::CurvesOfLabel(std::string_view label,
+                                                    std::int32_t strideIndex) {
+  const NormalizedCurve points = NormalizeLabelForStride(label, strideIndex);
+  if (points.IsEmpty()) return {};
+  const StrideRecord& stride = state_.GaitEvents.ValidStrides[strideIndex];
+  const std::string& name = state_.PointLabels[GetPointLabelIndex(state_, label)];
+  std::vector<StrideCurve> curves;
+  for (const Component part : kComponents) {
+    StrideCurve curve{name, part, stride.Side, stride.Number, Kinds().UnitOf(name), {}};
+    for (const NormalizedPoint& point : points) curve.Values.Append(ComponentOf(point, part));
+    curves.push_back(std::move(curve));
+  }
+  return curves;
+}
+
+const PointKinds& clsGcdCalcs::Kinds() {
+  if (!kinds_) kinds_.emplace(state_);
+  return *kinds_;
 }
 
 const SplineCurve& clsGcdCalcs::SplineOf(std::string_view label, Component component) {

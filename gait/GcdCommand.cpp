@@ -9,6 +9,7 @@
 
 #include "gait/EventNames.h"
 #include "gait/GcdCalcs.h"
+#include "gait/GcdText.h"
 #include "support/FileSystem.h"
 #include "support/Text.h"
 
@@ -32,10 +33,9 @@ class GcdWriter {
   // Writes the file of a stride and returns its name; empty where the user cancelled.
   std::string WriteGcdFileForStride(std::int32_t strideIndex) {
     const StrideRecord& stride = state_.GaitEvents.ValidStrides[strideIndex];
-    const std::string_view side = SideName(stride.Side);
     std::string name = GcdFileName(state_.OpenC3dFileSpec, stride, outputFolder_);
     if (!MayWrite(name)) return {};
-    WriteGcdFile(name, strideIndex, fmt::format("!{}", side), side.substr(0, 1));
+    WriteGcdFile(name, strideIndex);
     return name;
   }
 
@@ -47,10 +47,8 @@ class GcdWriter {
     return answer != OverwriteAnswer::Cancel;
   }
 
-  void WriteGcdFile(const std::string& name, std::int32_t strideIndex,
-                    const std::string& valuePrefix, std::string_view labelLetter) {
-    modAllPurpose::WriteFileInOneStep(
-        name, calcs_.GcdText(strideIndex, valuePrefix, labelLetter, subject_, false, false));
+  void WriteGcdFile(const std::string& name, std::int32_t strideIndex) {
+    modAllPurpose::WriteFileInOneStep(name, GcdText(calcs_, strideIndex, subject_));
   }
 
   const FileState& state_;

@@ -1,14 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include <iterator>
+#include "gait/GcdText.h"
+
+#include <optional>
+#include <string_view>
+#include <vector>
 
 #include <fmt/format.h>
 
 #include "c3d/FrameData.h"
-#include "gait/GcdCalcs.h"
+#include "gait/EventNames.h"
 #include "gait/GcdCurveTable.h"
 #include "support/Arithmetic.h"
 #include "support/NumberForms.h"
+#include "support/OneBasedTable.h"
 
 namespace modVantrel {
 
@@ -21,22 +26,6 @@ namespace {
 constexpr NumberPattern kAge("#0.00");
 constexpr NumberPattern kValue("0.0###########");
 constexpr std::string_view kLineEnd = "\r\n";
-
-constexpr std::int32_t kAxialComponent = 3;
-
-// The coordinate of that number, 1 to 3; 0 for any other.
-float ComponentOf(const NormalizedPoint& point, std::int32_t component) {
-  switch (component) {
-    case 1:
-      return point.X;
-    case 2:
-      return point.Y;
-    case 3:
-      return point.Z;
-    default:
-      return 0;
-  }
-}
 
 void AppendLine(std::string& text, std::string_view line) {
   text += line;
@@ -60,66 +49,90 @@ std::string HeaderText(const SubjectRecord& subject) {
 
 std::string MeasuresText(const SingleValueMeasures& measures, std::string_view valuePrefix) {
   std::string text;
-  const auto add = [&](std::string_view name, float value) {
-    AppendLine(text, fmt::format("{}{}", valuePrefix, name));
-    AppendValue(text, value);
-  };
-  add("StrideTime", measures.StrideTime);
-  add("Cadence", measures.Cadence);
-  add("StePTime", measures.StepTimePct);
-  add("OppositeFootOff", measures.OppositeFootOffPct);
-  add("OppositeFootContact", measures.OppositeFootStrikePct);
-  add("FootOff", measures.SameFootOffPct);
-  add("SingleSupport", measures.SingleSupportPct);
-  add("DoubleSupport", measures.DoubleSupportPct);
-  add("StrideLength", measures.StrideLength);
-  add("StePLength", measures.StepLength);
-  add("Speed", measures.Speed);
+  for (const MeasureSpec& measure : MeasureTable()) {
+    if (measure.GcdName.empty()) continue;
+    AppendLine(text, fmt::format("{}{}", valuePrefix, measure.GcdName));
+    AppendValue(text, measure.ValueOf(measures));
+  }
   return text;
 }
 
-void AppendCurve(std::string& text, std::string_view name, const NormalizedCurve& curve,
-                 std::int32_t component, float scale) {
-  AppendLine(text, name);
-  for (const NormalizedPoint& point : curve) {
-    const double value = ComponentOf(point, component);
-    AppendValue(text, modAllPurposeNumbers::ToSingle(value * scale));
+// Which components of a label are written under its sagittal, coronal and axial names; a missing
+// one is written as 0.
+struct Planes {
+  std::optional<Component> Sagittal;
+  Component Coronal;
+  Component Axial;
+};
+
+Planes PlanesAlong(WalkAxis axis) {
+  switch (axis) {
+    case WalkAxis::X:
+      return {Component::X, Component::Y, Component::Z};
+    case WalkAxis::Y:
+      return {Component::Y, Component::X, Component::Z};
+    case WalkAxis::None:
+      break;
   }
+  return {std::nullopt, Component::X, Component::Z};
+}
+
+using CurveValues = modAllPurpose::OneBasedTable<float>;
+
+CurveValues ValuesOf(const std::vector<StrideCurve>& curves, std::optional<Component> component) {
+  if (!component) return CurveValues(kNormalizedPoints);
+  return curves.at(static_cast<std::size_t>(*component) - 1).Values;
+}
+
+void AppendCurve(std::string& text, std::string_view name, const CurveValues& values, float scale) {
+  AppendLine(text, name);
+  for (const float value : values) {
+    AppendValue(text, modAllPurposeNumbers::ToSingle(double{value} * scale));
+  }
+}
+
+// The label of a table's row that the file holds; empty where it has neither.
+std::string LabelOfRow(const FileState& state, std::string_view labelLetter,
+                       const GcdCurveSpec& row) {
+  for (const std::string_view name : {row.Label, row.Alternative}) {
+    std::string label = fmt::format("{}{}", labelLetter, name);
+    if (PointLabelExists(state, label)) return label;
+  }
+  return {};
+}
+
+void AppendRow(std::string& text, const std::vector<StrideCurve>& curves, const Planes& planes,
+               std::string_view valuePrefix, const GcdCurveSpec& row) {
+  const auto add = [&](std::string_view name, std::optional<Component> component) {
+    if (name.empty()) return;
+    AppendCurve(text, fmt::format("{}{}", valuePrefix, name), ValuesOf(curves, component),
+                row.Scale);
+  };
+  add(row.Sagittal, planes.Sagittal);
+  add(row.Coronal, planes.Coronal);
+  add(row.Axial, planes.Axial);
 }
 
 }  // namespace
 
-std::string clsGcdCalcs::GcdText(std::int32_t strideIndex, std::string_view valuePrefix,
-                                 std::string_view labelLetter, const SubjectRecord& subject,
-                                 bool appendMode, bool suppressVideoRate) {
-  std::string text = appendMode ? std::string() : HeaderText(subject);
-  const SingleValueMeasures measures = CalcSingleValueMeasures(strideIndex);
+std::string GcdText(clsGcdCalcs& calcs, std::int32_t strideIndex, const SubjectRecord& subject,
+                    const GcdTextOptions& options) {
+  const SingleValueMeasures measures = calcs.CalcSingleValueMeasures(strideIndex);
+  const std::string_view side = SideName(measures.Side);
+  const std::string valuePrefix = fmt::format("!{}", side);
+  std::string text = options.AppendMode ? std::string() : HeaderText(subject);
   text += MeasuresText(measures, valuePrefix);
-  if (!suppressVideoRate) {
+  if (!options.SuppressVideoRate) {
     AppendLine(text, "!VideoRate");
     AppendValue(text, measures.VideoRate);
   }
+  const Planes planes = PlanesAlong(measures.ProgressionAxis);
   for (const GcdCurveSpec& row : GcdCurveTable()) {
-    AppendLabelCurves(text, strideIndex, valuePrefix, labelLetter, measures.ProgressionAxis, row);
+    const std::string label = LabelOfRow(calcs.State(), side.substr(0, 1), row);
+    if (label.empty()) continue;
+    AppendRow(text, calcs.CurvesOfLabel(label, strideIndex), planes, valuePrefix, row);
   }
   return text;
-}
-
-void clsGcdCalcs::AppendLabelCurves(std::string& text, std::int32_t strideIndex,
-                                    std::string_view valuePrefix, std::string_view labelLetter,
-                                    std::int32_t progressionAxis, const GcdCurveSpec& row) {
-  std::string label = fmt::format("{}{}", labelLetter, row.Label);
-  if (!PointLabelExists(state_, label)) label = fmt::format("{}{}", labelLetter, row.Alternative);
-  if (!PointLabelExists(state_, label)) return;
-
-  const NormalizedCurve curve = NormalizeLabelForStride(label, strideIndex);
-  const auto add = [&](std::string_view name, std::int32_t component) {
-    if (name.empty()) return;
-    AppendCurve(text, fmt::format("{}{}", valuePrefix, name), curve, component, row.Scale);
-  };
-  add(row.Sagittal, progressionAxis);
-  add(row.Coronal, progressionAxis % 2 + 1);
-  add(row.Axial, kAxialComponent);
 }
 
 }  // namespace modVantrel

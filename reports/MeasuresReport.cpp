@@ -12,29 +12,19 @@ namespace reports {
 
 using modAllPurpose::ReportOutput;
 using modVantrel::FileState;
+using modVantrel::MeasureSpec;
 using modVantrel::SideName;
 using modVantrel::SingleValueMeasures;
 
 namespace {
 
-void Measure(ReportOutput& output, std::string_view name, float value) {
-  output.Line(fmt::format("    {:<25}{}", name, modAllPurposeNumbers::GeneralForm(value)));
-}
-
 void ShowMeasures(const SingleValueMeasures& measures, ReportOutput& output) {
   output.Line(fmt::format("{} Side #{}", SideName(measures.Side), measures.Number));
-  Measure(output, "Stridetime:", measures.StrideTime);
-  Measure(output, "Cadence:", measures.Cadence);
-  Measure(output, "StepTimePct:", measures.StepTimePct);
-  Measure(output, "OppositeFootOffPct:", measures.OppositeFootOffPct);
-  Measure(output, "OppositeFootStrikePct:", measures.OppositeFootStrikePct);
-  Measure(output, "SameFootOffPct:", measures.SameFootOffPct);
-  Measure(output, "SingleSupportPct:", measures.SingleSupportPct);
-  Measure(output, "DoubleSupportPct:", measures.DoubleSupportPct);
-  Measure(output, "StrideLength:", measures.StrideLength);
-  Measure(output, "StepLength:", measures.StepLength);
-  Measure(output, "Speed:", measures.Speed);
-  Measure(output, "VideoRate:", measures.VideoRate);
+  for (const MeasureSpec& measure : modVantrel::MeasureTable()) {
+    if (measure.ReportName.empty()) continue;
+    output.Line(fmt::format("    {:<25}{}", fmt::format("{}:", measure.ReportName),
+                            modAllPurposeNumbers::GeneralForm(measure.ValueOf(measures))));
+  }
   output.Line("");
 }
 

@@ -17,6 +17,7 @@
 namespace {
 
 using namespace modCubicSpline;
+using modVantrel::Component;
 using modVantrel::PointSamples;
 using tests::ErrorNumberOf;
 

@@ -11,6 +11,7 @@
 #include "gait/EventExtraction.h"
 #include "gait/GcdCalcs.h"
 #include "gait/GcdCommand.h"
+#include "gait/GcdText.h"
 #include "support/FileSystem.h"
 #include "tests/GaitTrials.h"
 
@@ -108,9 +109,9 @@ TEST_F(GcdFiles, OneForEachStrideIsWrittenBesideTheTrial) {
   EXPECT_EQ(NamesIn(walk_.Folder().Path()),
             (std::vector<std::string>{"walk-L1.gcd", "walk-L2.gcd", "walk-R1.gcd", "walk.c3d"}));
   clsGcdCalcs calcs(walk_.State());
-  EXPECT_EQ(Read("walk-L1.gcd"), calcs.GcdText(1, "!Left", "L", {}, false, false));
-  EXPECT_EQ(Read("walk-R1.gcd"), calcs.GcdText(2, "!Right", "R", {}, false, false));
-  EXPECT_EQ(Read("walk-L2.gcd"), calcs.GcdText(3, "!Left", "L", {}, false, false));
+  EXPECT_EQ(Read("walk-L1.gcd"), GcdText(calcs, 1, {}));
+  EXPECT_EQ(Read("walk-R1.gcd"), GcdText(calcs, 2, {}));
+  EXPECT_EQ(Read("walk-L2.gcd"), GcdText(calcs, 3, {}));
 }
 
 TEST_F(GcdFiles, LinesStayOutOfTheDesktopCopy) {

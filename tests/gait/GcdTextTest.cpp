@@ -10,6 +10,7 @@
 #include "gait/EventExtraction.h"
 #include "gait/GcdCalcs.h"
 #include "gait/GcdCurveTable.h"
+#include "gait/GcdText.h"
 #include "support/NumberForms.h"
 #include "tests/GaitTrials.h"
 
@@ -33,7 +34,8 @@ OpenedWalk Open(const sample::TrialBuilder& builder) { return {builder.Build(), 
 
 std::string Text(const FileState& state, const SubjectRecord& subject = {}, bool append = false,
                  bool suppressVideoRate = false) {
-  return clsGcdCalcs(state).GcdText(1, "!Left", "L", subject, append, suppressVideoRate);
+  clsGcdCalcs calcs(state);
+  return GcdText(calcs, 1, subject, {append, suppressVideoRate});
 }
 
 Lines TextLinesOf(const sample::TrialBuilder& builder) {

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <string>
+#include <string_view>
 
 #include <gtest/gtest.h>
 
@@ -91,16 +93,16 @@ TEST(Measures, DirectionOfWalkingDoesNotMatter) {
 }
 
 TEST(Measures, ProgressionAxisIsTheOneOfTheLargerDisplacement) {
-  EXPECT_EQ(MeasuresOfToes({16, 12, 0}, {}).ProgressionAxis, 1);
-  EXPECT_EQ(MeasuresOfToes({12, 16, 0}, {}).ProgressionAxis, 2);
-  EXPECT_EQ(MeasuresOfToes({-12, 16, 100}, {}).ProgressionAxis, 2);
-  EXPECT_EQ(MeasuresOfToes({3, -4, 0}, {}).ProgressionAxis, 2);
+  EXPECT_EQ(MeasuresOfToes({16, 12, 0}, {}).ProgressionAxis, WalkAxis::X);
+  EXPECT_EQ(MeasuresOfToes({12, 16, 0}, {}).ProgressionAxis, WalkAxis::Y);
+  EXPECT_EQ(MeasuresOfToes({-12, 16, 100}, {}).ProgressionAxis, WalkAxis::Y);
+  EXPECT_EQ(MeasuresOfToes({3, -4, 0}, {}).ProgressionAxis, WalkAxis::Y);
 }
 
 TEST(Measures, EqualDisplacementsCountAsX) {
-  EXPECT_EQ(MeasuresOfToes({16, 16, 0}, {}).ProgressionAxis, 1);
-  EXPECT_EQ(MeasuresOfToes({16, -16, 0}, {}).ProgressionAxis, 1);
-  EXPECT_EQ(MeasuresOfToes({0, 0, 9}, {}).ProgressionAxis, 1);
+  EXPECT_EQ(MeasuresOfToes({16, 16, 0}, {}).ProgressionAxis, WalkAxis::X);
+  EXPECT_EQ(MeasuresOfToes({16, -16, 0}, {}).ProgressionAxis, WalkAxis::X);
+  EXPECT_EQ(MeasuresOfToes({0, 0, 9}, {}).ProgressionAxis, WalkAxis::X);
 }
 
 TEST(Measures, RightStrideStepsFromTheRightToeToTheLeft) {
@@ -125,7 +127,7 @@ TEST(Measures, OneToeMarkerAloneGivesNoLengths) {
     EXPECT_EQ(measures.StrideLength, 0.0F) << toe;
     EXPECT_EQ(measures.StepLength, 0.0F);
     EXPECT_EQ(measures.Speed, 0.0F);
-    EXPECT_EQ(measures.ProgressionAxis, 0);
+    EXPECT_EQ(measures.ProgressionAxis, WalkAxis::None);
     EXPECT_EQ(measures.StrideTime, 0.78125F) << "the timing is there";
   }
 }
@@ -183,6 +185,35 @@ TEST(Measures, StrideOutsideTheListIsAnIndexError) {
   for (const std::int32_t index : {-1, 0, 2}) {
     EXPECT_EQ(ErrorNumberOf([&] { calcs.CalcSingleValueMeasures(index); }), kSubscriptOutOfRange);
   }
+}
+
+const MeasureSpec& MeasureNamed(std::string_view name) {
+  return *std::ranges::find(MeasureTable(), name, &MeasureSpec::Name);
+}
+
+TEST(MeasureTable, TakesEachValueFromItsField) {
+  SingleValueMeasures measures;
+  measures.ProgressionAxis = WalkAxis::Y;
+  measures.StrideTime = 1.25F;
+  measures.StepLength = 600;
+  measures.Speed = 1200;
+  EXPECT_EQ(MeasureTable().size(), 13U);
+  EXPECT_EQ(MeasureNamed("StrideTime").ValueOf(measures), 1.25F);
+  EXPECT_EQ(MeasureNamed("StepLength").ValueOf(measures), 600.0F);
+  EXPECT_EQ(MeasureNamed("Speed").ValueOf(measures), 1200.0F);
+  EXPECT_EQ(MeasureNamed("ProgressionAxis").ValueOf(measures), 2.0F);
+}
+
+TEST(MeasureTable, NamesTheUnitsOfTheTrial) {
+  const auto unit = [](std::string_view name) { return UnitText(MeasureNamed(name).Unit, "cm"); };
+  EXPECT_EQ(unit("StrideTime"), "s");
+  EXPECT_EQ(unit("Cadence"), "1/s");
+  EXPECT_EQ(unit("DoubleSupportPct"), "%");
+  EXPECT_EQ(unit("StrideLength"), "cm");
+  EXPECT_EQ(unit("Speed"), "cm/s");
+  EXPECT_EQ(unit("VideoRate"), "Hz");
+  EXPECT_EQ(unit("ProgressionAxis"), "");
+  EXPECT_EQ(UnitText(MeasureUnit::LengthPerSecond, ""), "") << "the trial names no unit";
 }
 
 }  // namespace

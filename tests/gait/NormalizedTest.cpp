@@ -3,6 +3,7 @@
 #include <cmath>
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -104,6 +105,31 @@ TEST(Normalized, FramesTooShortForAFloatsTimeAreADivisionByZero) {
   walk.State().GaitEvents.ValidStrides.Append({GaitSide::Left, 1, 0, 0, 0, 0, 1});
   EXPECT_EQ(ErrorNumberOf([&] { clsGcdCalcs(walk.State()).NormalizeLabelForStride("LTOE", 1); }),
             kDivisionByZero);
+}
+
+TEST(CurvesOfLabel, AreThreeNamedValuesOfTheStride) {
+  OpenedWalk walk = Open(KneeTrial());
+  clsGcdCalcs calcs(walk.State());
+  const NormalizedCurve points = calcs.NormalizeLabelForStride("LKneeAngles", 1);
+  const std::vector<StrideCurve> curves = calcs.CurvesOfLabel("lkneeangles", 1);
+  ASSERT_EQ(curves.size(), 3U);
+  for (const StrideCurve& curve : curves) {
+    EXPECT_EQ(curve.Label, "LKneeAngles") << "as the file spells it";
+    EXPECT_EQ(curve.Side, GaitSide::Left);
+    EXPECT_EQ(curve.Stride, 1);
+    ASSERT_EQ(curve.Values.Count(), kNormalizedPoints);
+    for (std::int32_t k = 1; k <= kNormalizedPoints; ++k) {
+      EXPECT_EQ(curve.Values[k], ComponentOf(points[k], curve.Part));
+    }
+  }
+  EXPECT_EQ(curves[0].Part, Component::X);
+  EXPECT_EQ(curves[1].Part, Component::Y);
+  EXPECT_EQ(curves[2].Part, Component::Z);
+}
+
+TEST(CurvesOfLabel, AreNoneWithoutTheLabel) {
+  OpenedWalk walk = Open(KneeTrial());
+  EXPECT_TRUE(clsGcdCalcs(walk.State()).CurvesOfLabel("LHipAngles", 1).empty());
 }
 
 }  // namespace

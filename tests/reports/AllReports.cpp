@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "gait/GcdCalcs.h"
+#include "gait/GcdText.h"
 #include "reports/HeaderReport.h"
 #include "reports/ListingReport.h"
 #include "reports/MeasuresReport.h"
@@ -58,7 +59,7 @@ std::map<std::string, std::string> AllReportsOf(const FileState& state) {
              state.AnalogLabels);
   modVantrel::clsGcdCalcs calcs(state);
   for (std::int32_t i = 1; i <= state.GaitEvents.ValidStrideCount; ++i) {
-    texts[Numbered("gcd ", i)] = calcs.GcdText(i, "!Left", "L", {}, false, false);
+    texts[Numbered("gcd ", i)] = GcdText(calcs, i, {});
   }
   return texts;
 }

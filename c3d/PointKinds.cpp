@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "c3d/PointKinds.h"
+
+#include <array>
+#include <cstddef>
+
+#include "c3d/LabelTables.h"
+#include "c3d/ParameterSection.h"
+#include "support/RuntimeError.h"
+#include "support/Text.h"
+
+namespace modVantrel {
+
+using modAllPurpose::SearchKey;
+
+namespace {
+
+// The parameters of the group POINT that list the labels of a kind and name its unit.
+struct KindParams {
+  PointKind Kind;
+  std::string_view List;
+  std::string_view Unit;
+};
+
+constexpr std::array kKindParams = {
+    KindParams{PointKind::Angle, "ANGLES", "ANGLE_UNITS"},
+    KindParams{PointKind::Force, "FORCES", "FORCE_UNITS"},
+    KindParams{PointKind::Moment, "MOMENTS", "MOMENT_UNITS"},
+    KindParams{PointKind::Power, "POWERS", "POWER_UNITS"},
+    KindParams{PointKind::Scalar, "SCALARS", "SCALAR_UNITS"},
+};
+
+TextArray PointTexts(const FileState& state, std::string_view param) {
+  return FindGroupAndParam(state, "POINT", param).Param.TextValues;
+}
+
+}  // namespace
+
+PointKinds::PointKinds(const FileState& state) {
+  modAllPurpose::IgnoringErrors([&] {
+    const BinaryFile::Look look(state.C3dFileNumber);
+    units_[PointKind::Marker] = PointTexts(state, "UNITS").First().value_or("");
+    for (const KindParams& params : kKindParams) {
+      const TextArray labels = PointTexts(state, params.List);
+      for (std::size_t i = 0; i < labels.Count(); ++i) {
+        kinds_.emplace(SearchKey(WithoutPrefix(labels.InFileOrder(i), state.LabelPrefix)),
+                       params.Kind);
+      }
+      units_[params.Kind] = PointTexts(state, params.Unit).First().value_or("");
+    }
+  });
+}
+
+PointKind PointKinds::KindOf(std::string_view label) const {
+  const auto found = kinds_.find(SearchKey(label));
+  return found == kinds_.end() ? PointKind::Marker : found->second;
+}
+
+const std::string& PointKinds::UnitOf(std::string_view label) const {
+  static const std::string kNone;
+  const auto unit = units_.find(KindOf(label));
+  return unit == units_.end() ? kNone : unit->second;
+}
+
+}  // namespace modVantrel
