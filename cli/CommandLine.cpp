@@ -3,15 +3,12 @@
 #include "cli/CommandLine.h"
 
 #include <algorithm>
-#include <iostream>
 #include <sstream>
 
 #include <CLI/CLI.hpp>
 
 #include "Version.h"
 #include "cli/ReportTable.h"
-#include "cli/StandardOutput.h"
-#include "support/RuntimeError.h"
 
 namespace cli {
 
@@ -88,34 +85,23 @@ void AddOptions(CLI::App& app, Request& request) {
   TakeShieldsAway(app);
 }
 
-void CheckRequest(CLI::App& app, Request& request) {
-  request.HasGroup = app.count("--group") > 0;
-  request.HasParam = app.count("--param") > 0;
-  if (request.HasParam && !request.HasGroup) throw CLI::RequiresError("--param", "--group");
+void CheckRequest(const CLI::App& app, const Request& request) {
+  if (request.Param && !request.Group) throw CLI::RequiresError("--param", "--group");
   if (FindReport(request.Report)->NeedsLabel && app.count("--label") == 0) {
     throw CLI::RequiresError("the report '" + request.Report + "'", "--label");
   }
 }
 
-// Prints what was asked for in place of a report, and returns the exit status.
-int PrintText(std::string text) {
-  if (!text.ends_with('\n')) text += '\n';
-  StandardOutput output({});
-  try {
-    output.Piece(text);
-    output.Flush();
-  } catch (const OutputClosed&) {
-    // Whoever asked has seen enough.
-  } catch (const modAllPurpose::RuntimeError& error) {
-    std::cerr << "vantrel-report: " << RuntimeErrorTitle(error) << ' ' << error.what() << '\n';
-    return kSomeFailed;
-  }
-  return kAllWell;
+AskedText TextOf(const CLI::App& app, const CLI::Success& asked) {
+  std::ostringstream text;
+  app.exit(asked, text, text);
+  if (!text.str().ends_with('\n')) text << '\n';
+  return {text.str()};
 }
 
 }  // namespace
 
-std::variant<Request, int> ParseCommandLine(std::vector<std::string> arguments) {
+std::variant<Request, AskedText> ParseCommandLine(const std::vector<std::string>& arguments) {
   CLI::App app(kDescription, "vantrel-report");
   app.footer(kFooter);
   app.allow_windows_style_options(false);
@@ -123,20 +109,16 @@ std::variant<Request, int> ParseCommandLine(std::vector<std::string> arguments) 
   Request request;
   AddOptions(app, request);
   try {
-    arguments = SplitEmptyValues(arguments);
-    ShieldBrackets(arguments);
-    std::ranges::reverse(arguments);  // the order in which the parser takes them
-    app.parse(std::move(arguments));
+    std::vector<std::string> words = SplitEmptyValues(arguments);
+    ShieldBrackets(words);
+    std::ranges::reverse(words);  // the order in which the parser takes them
+    app.parse(std::move(words));
     CheckRequest(app, request);
     return request;
-  } catch (const CLI::Success& done) {
-    std::ostringstream text;
-    app.exit(done, text, std::cerr);
-    return PrintText(text.str());
+  } catch (const CLI::Success& asked) {
+    return TextOf(app, asked);
   } catch (const CLI::ParseError& error) {
-    std::cerr << "vantrel-report: " << error.what()
-              << "\nTry 'vantrel-report --help' for more information.\n";
-    return kUsageError;
+    throw UsageError(error.what());
   }
 }
 

@@ -36,12 +36,11 @@ std::string Refusing(const FileState& state, Request& request, ReportOutput& out
 }
 
 ReportResult Parameters(const FileState& state, const Request& request, ReportOutput& output) {
-  if (request.HasParam) {
-    return reports::ShowMatchingGroupAndMatchingParam(state, request.Group, request.Param, output);
+  if (request.Group && request.Param) {
+    return reports::ShowMatchingGroupAndMatchingParam(state, *request.Group, *request.Param,
+                                                      output);
   }
-  if (request.HasGroup) {
-    return reports::ShowMatchingGroupAndAllParams(state, request.Group, output);
-  }
+  if (request.Group) return reports::ShowMatchingGroupAndAllParams(state, *request.Group, output);
   reports::ShowAllGroupsAndAllParams(state, output);
   return ReportResult::Written();
 }

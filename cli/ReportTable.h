@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "c3d/FileState.h"
-#include "cli/CommandLine.h"
+#include "cli/Request.h"
 #include "support/ReportOutput.h"
 
 namespace cli {

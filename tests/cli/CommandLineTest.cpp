@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "cli/CommandLine.h"
+
+// What a command line asks for.
+namespace {
+
+using cli::AskedText;
+using cli::ParseCommandLine;
+using cli::Request;
+using cli::UsageError;
+using testing::ElementsAre;
+
+Request Parsed(const std::vector<std::string>& arguments) {
+  return std::get<Request>(ParseCommandLine(arguments));
+}
+
+// The sentence that refuses `arguments`.
+std::string WhyRefused(const std::vector<std::string>& arguments) {
+  try {
+    ParseCommandLine(arguments);
+  } catch (const UsageError& error) {
+    return error.what();
+  }
+  return "not refused";
+}
+
+TEST(CommandLine, WithoutOptionsLeavesThemAllOpen) {
+  const Request request = Parsed({"groups", "a.c3d", "b.c3d"});
+  EXPECT_EQ(request.Report, "groups");
+  EXPECT_THAT(request.Files, ElementsAre("a.c3d", "b.c3d"));
+  EXPECT_EQ(request.Label, "");
+  EXPECT_EQ(request.Group, std::nullopt);
+  EXPECT_EQ(request.Param, std::nullopt);
+  EXPECT_FALSE(request.Events);
+  EXPECT_FALSE(request.Gcd.Overwrite);
+  EXPECT_EQ(request.Gcd.Options.OutputFolder, "");
+}
+
+TEST(CommandLine, TakesOptionsOnEitherSideOfTheReportAndItsFiles) {
+  const Request request = Parsed({"--label", "LTOE", "--events", "point", "a.c3d", "--group=G",
+                                  "--param", "P", "--overwrite", "--output-dir", "out"});
+  EXPECT_EQ(request.Label, "LTOE");
+  EXPECT_TRUE(request.Events);
+  EXPECT_EQ(request.Group, "G");
+  EXPECT_EQ(request.Param, "P");
+  EXPECT_TRUE(request.Gcd.Overwrite);
+  EXPECT_EQ(request.Gcd.Options.OutputFolder, "out");
+  EXPECT_THAT(request.Files, ElementsAre("a.c3d"));
+}
+
+TEST(CommandLine, TakesTheSubjectOfGcdFiles) {
+  const auto subject = Parsed({"--gender", "f", "--date-of-birth", "2014-03-02", "--visit-date",
+                               "2026-05-11", "gcd", "a.c3d"})
+                           .Gcd.Options.Subject;
+  EXPECT_EQ(subject.Gender, "f");
+  EXPECT_EQ(subject.DateOfBirth, "2014-03-02");
+  EXPECT_EQ(subject.VisitDate, "2026-05-11");
+}
+
+TEST(CommandLine, TellsAnEmptyGroupFromNone) {
+  EXPECT_EQ(Parsed({"--group", "", "parameters", "a.c3d"}).Group, "");
+  EXPECT_EQ(Parsed({"--group=", "parameters", "a.c3d"}).Group, "");
+}
+
+TEST(CommandLine, OfHelpOrVersionAsksForItsText) {
+  EXPECT_EQ(std::get<AskedText>(ParseCommandLine({"--version"})).Text,
+            "vantrel-report " VANTREL_VERSION "\n");
+  EXPECT_THAT(std::get<AskedText>(ParseCommandLine({"-h"})).Text, testing::EndsWith("\n"));
+}
+
+TEST(CommandLine, WithoutAReportIsRefusedInASentence) {
+  EXPECT_EQ(WhyRefused({}), "REPORT is required");
+  EXPECT_EQ(WhyRefused({"point", "a.c3d"}), "the report 'point' requires --label");
+}
+
+}  // namespace
