@@ -4,11 +4,13 @@
 
 #include <algorithm>
 #include <sstream>
+#include <string_view>
 
 #include <CLI/CLI.hpp>
+#include <fmt/format.h>
 
 #include "Version.h"
-#include "cli/ReportTable.h"
+#include "reports/ReportList.h"
 
 namespace cli {
 
@@ -17,9 +19,34 @@ namespace {
 constexpr const char* kDescription =
     "Prints reports of C3D motion-capture files on standard output, for scripts and batches.";
 
-constexpr const char* kFooter =
-    "\nExit status: 0 all well, 1 a file failed or its report was refused (the others are still "
+constexpr const char* kExitStatus =
+    "Exit status: 0 all well, 1 a file failed or its report was refused (the others are still "
     "printed), 2 wrong usage.";
+
+std::string ReportNames() {
+  std::vector<std::string_view> names;
+  for (const auto& report : reports::kReports) names.push_back(report.Name);
+  return fmt::format("{}", fmt::join(names, ", "));
+}
+
+// The options that a report asks for or takes, as a remark behind its description.
+std::string RemarkOf(const reports::ReportInfo& report) {
+  std::vector<std::string_view> remarks;
+  if (report.NeedsLabel) remarks.emplace_back("needs --label");
+  if (report.TakesEvents) remarks.emplace_back("takes --events");
+  if (report.TakesGroup) remarks.emplace_back("takes --group and --param");
+  if (report.WritesGcdFiles) remarks.emplace_back("takes --output-dir and --overwrite");
+  return remarks.empty() ? std::string() : fmt::format(" ({})", fmt::join(remarks, ", "));
+}
+
+// What help says behind the options: the reports, one a line, and the exit status.
+std::string Footer() {
+  std::string text = "\nReports:\n";
+  for (const auto& report : reports::kReports) {
+    text += fmt::format("  {:<27} {}{}\n", report.Name, report.Description, RemarkOf(report));
+  }
+  return text + '\n' + kExitStatus;
+}
 
 // The parser takes an argument such as "[a,b]" for a list and splits it. With a NUL in front, which
 // no argument of a process can hold, it stays one text; the options take it away again.
@@ -72,13 +99,13 @@ void AddOptions(CLI::App& app, Request& request) {
                  "Date of birth (YYYY-MM-DD) for the age in GCD files");
   app.add_option("--visit-date", request.Gcd.Options.Subject.VisitDate,
                  "Date of the visit (YYYY-MM-DD) for the age in GCD files");
-  app.add_option("REPORT", request.Report, "What to print: " + ReportNames(", "))
+  app.add_option("REPORT", request.Report, "What to print, one of the reports below")
       ->required()
       ->check(CLI::Validator(
           [](const std::string& name) {
-            return FindReport(name) != nullptr
+            return reports::FindReport(name) != nullptr
                        ? std::string()
-                       : "there is no report '" + name + "'; there are: " + ReportNames(", ");
+                       : fmt::format("there is no report '{}'; there are: {}", name, ReportNames());
           },
           ""));
   app.add_option("FILE", request.Files, "C3D files")->required();
@@ -87,7 +114,7 @@ void AddOptions(CLI::App& app, Request& request) {
 
 void CheckRequest(const CLI::App& app, const Request& request) {
   if (request.Param && !request.Group) throw CLI::RequiresError("--param", "--group");
-  if (FindReport(request.Report)->NeedsLabel && app.count("--label") == 0) {
+  if (reports::FindReport(request.Report)->NeedsLabel && app.count("--label") == 0) {
     throw CLI::RequiresError("the report '" + request.Report + "'", "--label");
   }
 }
@@ -103,7 +130,7 @@ AskedText TextOf(const CLI::App& app, const CLI::Success& asked) {
 
 std::variant<Request, AskedText> ParseCommandLine(const std::vector<std::string>& arguments) {
   CLI::App app(kDescription, "vantrel-report");
-  app.footer(kFooter);
+  app.footer(Footer());
   app.allow_windows_style_options(false);
   app.set_version_flag("--version", std::string("vantrel-report ") + kVersion);
   Request request;

@@ -72,7 +72,7 @@ std::string OpenAndReport(const std::string& file, Request& request, ReportOutpu
   if (opened != modVantrel::OpenResult::Success) {
     return std::string(modVantrel::OpenFailureMessage(opened));
   }
-  return FindReport(request.Report)->Run(state, request, output);
+  return FunctionOf(request.Report)(state, request, output);
 }
 
 // The same on the output stream. What a report had written before an error is printed; where it

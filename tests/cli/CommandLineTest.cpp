@@ -33,7 +33,7 @@ std::string WhyRefused(const std::vector<std::string>& arguments) {
   return "not refused";
 }
 
-TEST(CommandLine, WithoutOptionsLeavesThemAllOpen) {
+TEST(ToolCommandLine, WithoutOptionsLeavesThemAllOpen) {
   const Request request = Parsed({"groups", "a.c3d", "b.c3d"});
   EXPECT_EQ(request.Report, "groups");
   EXPECT_THAT(request.Files, ElementsAre("a.c3d", "b.c3d"));
@@ -45,7 +45,7 @@ TEST(CommandLine, WithoutOptionsLeavesThemAllOpen) {
   EXPECT_EQ(request.Gcd.Options.OutputFolder, "");
 }
 
-TEST(CommandLine, TakesOptionsOnEitherSideOfTheReportAndItsFiles) {
+TEST(ToolCommandLine, TakesOptionsOnEitherSideOfTheReportAndItsFiles) {
   const Request request = Parsed({"--label", "LTOE", "--events", "point", "a.c3d", "--group=G",
                                   "--param", "P", "--overwrite", "--output-dir", "out"});
   EXPECT_EQ(request.Label, "LTOE");
@@ -57,7 +57,7 @@ TEST(CommandLine, TakesOptionsOnEitherSideOfTheReportAndItsFiles) {
   EXPECT_THAT(request.Files, ElementsAre("a.c3d"));
 }
 
-TEST(CommandLine, TakesTheSubjectOfGcdFiles) {
+TEST(ToolCommandLine, TakesTheSubjectOfGcdFiles) {
   const auto subject = Parsed({"--gender", "f", "--date-of-birth", "2014-03-02", "--visit-date",
                                "2026-05-11", "gcd", "a.c3d"})
                            .Gcd.Options.Subject;
@@ -66,18 +66,18 @@ TEST(CommandLine, TakesTheSubjectOfGcdFiles) {
   EXPECT_EQ(subject.VisitDate, "2026-05-11");
 }
 
-TEST(CommandLine, TellsAnEmptyGroupFromNone) {
+TEST(ToolCommandLine, TellsAnEmptyGroupFromNone) {
   EXPECT_EQ(Parsed({"--group", "", "parameters", "a.c3d"}).Group, "");
   EXPECT_EQ(Parsed({"--group=", "parameters", "a.c3d"}).Group, "");
 }
 
-TEST(CommandLine, OfHelpOrVersionAsksForItsText) {
+TEST(ToolCommandLine, OfHelpOrVersionAsksForItsText) {
   EXPECT_EQ(std::get<AskedText>(ParseCommandLine({"--version"})).Text,
             "vantrel-report " VANTREL_VERSION "\n");
   EXPECT_THAT(std::get<AskedText>(ParseCommandLine({"-h"})).Text, testing::EndsWith("\n"));
 }
 
-TEST(CommandLine, WithoutAReportIsRefusedInASentence) {
+TEST(ToolCommandLine, WithoutAReportIsRefusedInASentence) {
   EXPECT_EQ(WhyRefused({}), "REPORT is required");
   EXPECT_EQ(WhyRefused({"point", "a.c3d"}), "the report 'point' requires --label");
 }
