@@ -10,6 +10,7 @@
 #include <fmt/format.h>
 
 #include "Version.h"
+#include "cli/ParserWords.h"
 #include "reports/ReportList.h"
 
 namespace cli {
@@ -48,43 +49,6 @@ std::string Footer() {
   return text + '\n' + kExitStatus;
 }
 
-// The parser takes an argument such as "[a,b]" for a list and splits it. With a NUL in front, which
-// no argument of a process can hold, it stays one text; the options take it away again.
-constexpr char kShield = '\0';
-
-void ShieldBrackets(std::vector<std::string>& arguments) {
-  for (std::string& argument : arguments) {
-    if (argument.starts_with('[')) argument.insert(0, 1, kShield);
-  }
-}
-
-// "--name=" as "--name" and an empty argument, so that the empty value does not take the argument
-// behind it.
-std::vector<std::string> SplitEmptyValues(const std::vector<std::string>& arguments) {
-  std::vector<std::string> split;
-  bool onlyFilesFollow = false;
-  for (const std::string& argument : arguments) {
-    onlyFilesFollow = onlyFilesFollow || argument == "--";
-    if (onlyFilesFollow || !argument.starts_with("--") || !argument.ends_with('=')) {
-      split.push_back(argument);
-    } else {
-      split.push_back(argument.substr(0, argument.size() - 1));
-      split.emplace_back();
-    }
-  }
-  return split;
-}
-
-void TakeShieldsAway(CLI::App& app) {
-  const CLI::Validator unshield(
-      [](std::string& value) {
-        if (value.starts_with(kShield)) value.erase(0, 1);
-        return std::string();
-      },
-      "");
-  for (CLI::Option* option : app.get_options()) option->transform(unshield);
-}
-
 void AddOptions(CLI::App& app, Request& request) {
   app.add_option("--label", request.Label, "Point or analog label, in any case");
   app.add_option("--group", request.Group, "Group of the parameter section");
@@ -109,7 +73,7 @@ void AddOptions(CLI::App& app, Request& request) {
           },
           ""));
   app.add_option("FILE", request.Files, "C3D files")->required();
-  TakeShieldsAway(app);
+  TakeValuesOutOfWords(app);
 }
 
 void CheckRequest(const CLI::App& app, const Request& request) {
@@ -135,18 +99,22 @@ std::variant<Request, AskedText> ParseCommandLine(const std::vector<std::string>
   app.set_version_flag("--version", std::string("vantrel-report ") + kVersion);
   Request request;
   AddOptions(app, request);
+  ParserWords words = WordsOf(arguments, app);
+  std::string refusal;
   try {
-    std::vector<std::string> words = SplitEmptyValues(arguments);
-    ShieldBrackets(words);
-    std::ranges::reverse(words);  // the order in which the parser takes them
-    app.parse(std::move(words));
+    std::ranges::reverse(words.Words);  // the order in which the parser takes them
+    app.parse(std::move(words.Words));
     CheckRequest(app, request);
-    return request;
   } catch (const CLI::Success& asked) {
     return TextOf(app, asked);
   } catch (const CLI::ParseError& error) {
-    throw UsageError(error.what());
+    refusal = error.what();
   }
+  if (!words.UnknownOption.empty()) {
+    refusal = fmt::format("there is no option '{}'", words.UnknownOption);
+  }
+  if (!refusal.empty()) throw UsageError(refusal);
+  return request;
 }
 
 }  // namespace cli

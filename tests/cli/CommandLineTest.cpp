@@ -66,6 +66,45 @@ TEST(ToolCommandLine, TakesTheSubjectOfGcdFiles) {
   EXPECT_EQ(subject.VisitDate, "2026-05-11");
 }
 
+TEST(ToolCommandLine, TakesAValueAsItStands) {
+  for (const std::string label : {"A=", "=", "A=B", "==", "[a,b]", "[a]", "", "--", "--events",
+                                  "--group=", "-x", "a b", "\"a\""}) {
+    EXPECT_EQ(Parsed({"--label", label, "point", "a.c3d"}).Label, label);
+    EXPECT_EQ(Parsed({"--label=" + label, "point", "a.c3d"}).Label, label);
+    EXPECT_EQ(Parsed({"point", "a.c3d", "--label=" + label}).Label, label);
+  }
+}
+
+TEST(ToolCommandLine, TakesWhatStandsBehindTwoDashesForFiles) {
+  EXPECT_THAT(Parsed({"groups", "--", "--events", "-x", "--label=", "[a,b]", "--"}).Files,
+              ElementsAre("--events", "-x", "--label=", "[a,b]", "--"));
+  EXPECT_THAT(Parsed({"groups", "-"}).Files, ElementsAre("-"));
+}
+
+TEST(ToolCommandLine, NamesAnUnknownOptionBeforeAnythingElse) {
+  const std::string refusal = "there is no option '--all'";
+  EXPECT_EQ(WhyRefused({"--all"}), refusal);
+  EXPECT_EQ(WhyRefused({"--all", "groups", "a.c3d"}), refusal);
+  EXPECT_EQ(WhyRefused({"groups", "a.c3d", "--all=3"}), refusal);
+  EXPECT_EQ(WhyRefused({"--all", "nothing", "a.c3d"}), refusal) << "no such report";
+  EXPECT_EQ(WhyRefused({"--all", "x", "groups", "a.c3d"}), refusal) << "nor report x";
+  EXPECT_EQ(WhyRefused({"point", "--all"}), refusal) << "no file, no label";
+  EXPECT_EQ(WhyRefused({"--all", "groups", "a.c3d", "--label"}), refusal) << "a value is missing";
+  EXPECT_EQ(WhyRefused({"--all", "--more", "groups", "a.c3d"}), refusal) << "the first of two";
+}
+
+TEST(ToolCommandLine, TakesWhateverBeginsWithADashForAnOption) {
+  for (const std::string name : {"-x", "-5", "-label", "--labe", "--Label", "--!", "- x"}) {
+    EXPECT_EQ(WhyRefused({name, "groups", "a.c3d"}), "there is no option '" + name + "'");
+    EXPECT_EQ(WhyRefused({"groups", "a.c3d", name}), "there is no option '" + name + "'");
+  }
+}
+
+TEST(ToolCommandLine, AsksForHelpBesideAnUnknownOptionToo) {
+  EXPECT_TRUE(std::holds_alternative<AskedText>(ParseCommandLine({"--all", "--help"})));
+  EXPECT_TRUE(std::holds_alternative<AskedText>(ParseCommandLine({"--version", "--all"})));
+}
+
 TEST(ToolCommandLine, TellsAnEmptyGroupFromNone) {
   EXPECT_EQ(Parsed({"--group", "", "parameters", "a.c3d"}).Group, "");
   EXPECT_EQ(Parsed({"--group=", "parameters", "a.c3d"}).Group, "");

@@ -36,7 +36,9 @@ TEST(Usage, AnUnknownReportIsRefusedWithTheNamesThereAre) {
   ExpectUsageError({"", "x.c3d"}, "there is no report ''");
 }
 
-TEST(Usage, AnUnknownOptionIsRefused) { ExpectUsageError({"--all", "header", "x.c3d"}, "--all"); }
+TEST(Usage, AnUnknownOptionIsRefused) {
+  ExpectUsageError({"--all", "headers", "x.c3d"}, "there is no option '--all'");
+}
 
 TEST(Usage, AnOptionWithoutItsValueIsRefused) {
   ExpectUsageError({"parameters", "x.c3d", "--group"}, "--group");
