@@ -11,6 +11,7 @@
 
 #include "Version.h"
 #include "cli/ParserWords.h"
+#include "gait/SubjectRecord.h"
 #include "reports/ReportList.h"
 
 namespace cli {
@@ -49,20 +50,38 @@ std::string Footer() {
   return text + '\n' + kExitStatus;
 }
 
+CLI::Validator Date() {
+  return CLI::Validator(
+      [](const std::string& text) {
+        return modVantrel::ParseIsoDate(text)
+                   ? std::string()
+                   : fmt::format("'{}' is no date of the form YYYY-MM-DD", text);
+      },
+      "");
+}
+
+CLI::Validator NotEmpty(const char* refusal) {
+  return CLI::Validator(
+      [refusal](const std::string& text) { return text.empty() ? refusal : std::string(); }, "");
+}
+
 void AddOptions(CLI::App& app, Request& request) {
   app.add_option("--label", request.Label, "Point or analog label, in any case");
   app.add_option("--group", request.Group, "Group of the parameter section");
   app.add_option("--param", request.Param, "Parameter of that group");
   app.add_flag("--events", request.Events, "Name the stride events in a point or analog listing");
   app.add_option("--output-dir", request.Gcd.Options.OutputFolder,
-                 "Folder for GCD files, instead of the trial's own");
+                 "Folder for GCD files, instead of the trial's own")
+      ->check(NotEmpty("the name of the folder is empty"));
   app.add_flag("--overwrite", request.Gcd.Overwrite, "Let gcd replace existing files");
   app.add_option("--gender", request.Gcd.Options.Subject.Gender,
                  "Gender in the header of GCD files");
   app.add_option("--date-of-birth", request.Gcd.Options.Subject.DateOfBirth,
-                 "Date of birth (YYYY-MM-DD) for the age in GCD files");
+                 "Date of birth (YYYY-MM-DD) for the age in GCD files")
+      ->check(Date());
   app.add_option("--visit-date", request.Gcd.Options.Subject.VisitDate,
-                 "Date of the visit (YYYY-MM-DD) for the age in GCD files");
+                 "Date of the visit (YYYY-MM-DD) for the age in GCD files")
+      ->check(Date());
   app.add_option("REPORT", request.Report, "What to print, one of the reports below")
       ->required()
       ->check(CLI::Validator(

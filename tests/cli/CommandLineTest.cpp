@@ -116,6 +116,22 @@ TEST(ToolCommandLine, OfHelpOrVersionAsksForItsText) {
   EXPECT_THAT(std::get<AskedText>(ParseCommandLine({"-h"})).Text, testing::EndsWith("\n"));
 }
 
+TEST(ToolCommandLine, RefusesADateThatIsNone) {
+  for (const std::string option : {"--date-of-birth", "--visit-date"}) {
+    for (const std::string text : {"2026-02-30", "20.11.2026", "2026-11-20T08:00", "today", ""}) {
+      EXPECT_EQ(WhyRefused({option, text, "gcd", "a.c3d"}),
+                option + ": '" + text + "' is no date of the form YYYY-MM-DD");
+    }
+  }
+  EXPECT_EQ(Parsed({"--visit-date", " 2024-02-29", "gcd", "a.c3d"}).Report, "gcd");
+}
+
+TEST(ToolCommandLine, RefusesAnEmptyOutputFolder) {
+  const std::string refusal = "--output-dir: the name of the folder is empty";
+  EXPECT_EQ(WhyRefused({"--output-dir", "", "gcd", "a.c3d"}), refusal);
+  EXPECT_EQ(WhyRefused({"--output-dir=", "gcd", "a.c3d"}), refusal);
+}
+
 TEST(ToolCommandLine, WithoutAReportIsRefusedInASentence) {
   EXPECT_EQ(WhyRefused({}), "REPORT is required");
   EXPECT_EQ(WhyRefused({"point", "a.c3d"}), "the report 'point' requires --label");

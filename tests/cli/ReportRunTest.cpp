@@ -98,6 +98,21 @@ TEST_F(ReportRunTest, AMissingGroupIsRefusedOnStandardError) {
                 "vantrel-report: " + file + ": neither group nor param found\n");
 }
 
+TEST_F(ReportRunTest, AnEmptyLabelIsLookedForLikeAnyOther) {
+  const auto labelled = [this](const std::string& label) {
+    return Write("trial.c3d", TrialBuilder().AddPoint(label, [](std::int32_t /*frame*/) {
+      return std::array<float, 3>{};
+    }));
+  };
+  std::string file = labelled("A");
+  ExpectFailure({"--label", "", "point", file}, "",
+                "vantrel-report: " + file + ": point label not found\n");
+  file = labelled(" ");
+  const ToolResult result = RunTool({"--label=", "point", file});
+  EXPECT_EQ(result.Status, 0) << result.Err;
+  EXPECT_TRUE(result.Out.starts_with("Label: ''\n")) << result.Out.substr(0, 40);
+}
+
 TEST_F(ReportRunTest, NamesOutsideAsciiAreTypedInUtf8) {
   const std::string file =
       Write("trial.c3d", TrialBuilder().SetParam("GR\xD6SSE", sample::IntegerParam("\xC4", 1)));
