@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "sample/TrialBuilder.h"
@@ -50,6 +51,16 @@ TEST_F(ToolInside, WritesAndEndsAsTheProgramDoes) {
   ExpectTheProgramsOwn({"--help"}, 0);
   ExpectTheProgramsOwn({"groups", trial_, trial_ + "x", trial_}, 1);
   ExpectTheProgramsOwn({"headers", trial_}, 2);
+}
+
+TEST_F(ToolInside, ComplainsInOneLineWhateverANameHolds) {
+  EXPECT_EQ(RunInside({"groups", "a\nvantrel-report: b\x1B[2J\u009B\xFF"}).Err,
+            "vantrel-report: a\\nvantrel-report: b\\x1B[2J\\u009B\\xFF: "
+            "File open error while attempting to open C3D file.\n");
+  EXPECT_THAT(RunInside({"\x1B[2J\n", trial_}).Err,
+              testing::StartsWith("vantrel-report: REPORT: there is no report '\\x1B[2J\\n'; "));
+  EXPECT_THAT(RunInside({"--a\x1B", "groups", trial_}).Err,
+              testing::StartsWith("vantrel-report: there is no option '--a\\x1B'\nTry '"));
 }
 
 TEST_F(ToolInside, OneRunLeavesNothingToTheNext) {
