@@ -3,15 +3,16 @@
 #include "cli/CommandLine.h"
 
 #include <algorithm>
-#include <iostream>
 #include <sstream>
+#include <string_view>
 
 #include <CLI/CLI.hpp>
+#include <fmt/format.h>
 
 #include "Version.h"
-#include "cli/ReportTable.h"
-#include "cli/StandardOutput.h"
-#include "support/RuntimeError.h"
+#include "cli/ParserWords.h"
+#include "gait/SubjectRecord.h"
+#include "reports/ReportList.h"
 
 namespace cli {
 
@@ -20,45 +21,48 @@ namespace {
 constexpr const char* kDescription =
     "Prints reports of C3D motion-capture files on standard output, for scripts and batches.";
 
-constexpr const char* kFooter =
-    "\nExit status: 0 all well, 1 a file failed or its report was refused (the others are still "
+constexpr const char* kExitStatus =
+    "Exit status: 0 all well, 1 a file failed or its report was refused (the others are still "
     "printed), 2 wrong usage.";
 
-// The parser takes an argument such as "[a,b]" for a list and splits it. With a NUL in front, which
-// no argument of a process can hold, it stays one text; the options take it away again.
-constexpr char kShield = '\0';
-
-void ShieldBrackets(std::vector<std::string>& arguments) {
-  for (std::string& argument : arguments) {
-    if (argument.starts_with('[')) argument.insert(0, 1, kShield);
-  }
+std::string ReportNames() {
+  std::vector<std::string_view> names;
+  for (const auto& report : reports::kReports) names.push_back(report.Name);
+  return fmt::format("{}", fmt::join(names, ", "));
 }
 
-// "--name=" as "--name" and an empty argument, so that the empty value does not take the argument
-// behind it.
-std::vector<std::string> SplitEmptyValues(const std::vector<std::string>& arguments) {
-  std::vector<std::string> split;
-  bool onlyFilesFollow = false;
-  for (const std::string& argument : arguments) {
-    onlyFilesFollow = onlyFilesFollow || argument == "--";
-    if (onlyFilesFollow || !argument.starts_with("--") || !argument.ends_with('=')) {
-      split.push_back(argument);
-    } else {
-      split.push_back(argument.substr(0, argument.size() - 1));
-      split.emplace_back();
-    }
-  }
-  return split;
+// The options that a report asks for or takes, as a remark behind its description.
+std::string RemarkOf(const reports::ReportInfo& report) {
+  std::vector<std::string_view> remarks;
+  if (report.NeedsLabel) remarks.emplace_back("needs --label");
+  if (report.TakesEvents) remarks.emplace_back("takes --events");
+  if (report.TakesGroup) remarks.emplace_back("takes --group and --param");
+  if (report.WritesGcdFiles) remarks.emplace_back("takes --output-dir and --overwrite");
+  return remarks.empty() ? std::string() : fmt::format(" ({})", fmt::join(remarks, ", "));
 }
 
-void TakeShieldsAway(CLI::App& app) {
-  const CLI::Validator unshield(
-      [](std::string& value) {
-        if (value.starts_with(kShield)) value.erase(0, 1);
-        return std::string();
+// What help says behind the options: the reports, one a line, and the exit status.
+std::string Footer() {
+  std::string text = "\nReports:\n";
+  for (const auto& report : reports::kReports) {
+    text += fmt::format("  {:<27} {}{}\n", report.Name, report.Description, RemarkOf(report));
+  }
+  return text + '\n' + kExitStatus;
+}
+
+CLI::Validator Date() {
+  return CLI::Validator(
+      [](const std::string& text) {
+        return modVantrel::ParseIsoDate(text)
+                   ? std::string()
+                   : fmt::format("'{}' is no date of the form YYYY-MM-DD", text);
       },
       "");
-  for (CLI::Option* option : app.get_options()) option->transform(unshield);
+}
+
+CLI::Validator NotEmpty(const char* refusal) {
+  return CLI::Validator(
+      [refusal](const std::string& text) { return text.empty() ? refusal : std::string(); }, "");
 }
 
 void AddOptions(CLI::App& app, Request& request) {
@@ -67,77 +71,69 @@ void AddOptions(CLI::App& app, Request& request) {
   app.add_option("--param", request.Param, "Parameter of that group");
   app.add_flag("--events", request.Events, "Name the stride events in a point or analog listing");
   app.add_option("--output-dir", request.Gcd.Options.OutputFolder,
-                 "Folder for GCD files, instead of the trial's own");
+                 "Folder for GCD files, instead of the trial's own")
+      ->check(NotEmpty("the name of the folder is empty"));
   app.add_flag("--overwrite", request.Gcd.Overwrite, "Let gcd replace existing files");
   app.add_option("--gender", request.Gcd.Options.Subject.Gender,
                  "Gender in the header of GCD files");
   app.add_option("--date-of-birth", request.Gcd.Options.Subject.DateOfBirth,
-                 "Date of birth (YYYY-MM-DD) for the age in GCD files");
+                 "Date of birth (YYYY-MM-DD) for the age in GCD files")
+      ->check(Date());
   app.add_option("--visit-date", request.Gcd.Options.Subject.VisitDate,
-                 "Date of the visit (YYYY-MM-DD) for the age in GCD files");
-  app.add_option("REPORT", request.Report, "What to print: " + ReportNames(", "))
+                 "Date of the visit (YYYY-MM-DD) for the age in GCD files")
+      ->check(Date());
+  app.add_option("REPORT", request.Report, "What to print, one of the reports below")
       ->required()
       ->check(CLI::Validator(
           [](const std::string& name) {
-            return FindReport(name) != nullptr
+            return reports::FindReport(name) != nullptr
                        ? std::string()
-                       : "there is no report '" + name + "'; there are: " + ReportNames(", ");
+                       : fmt::format("there is no report '{}'; there are: {}", name, ReportNames());
           },
           ""));
   app.add_option("FILE", request.Files, "C3D files")->required();
-  TakeShieldsAway(app);
+  TakeValuesOutOfWords(app);
 }
 
-void CheckRequest(CLI::App& app, Request& request) {
-  request.HasGroup = app.count("--group") > 0;
-  request.HasParam = app.count("--param") > 0;
-  if (request.HasParam && !request.HasGroup) throw CLI::RequiresError("--param", "--group");
-  if (FindReport(request.Report)->NeedsLabel && app.count("--label") == 0) {
+void CheckRequest(const CLI::App& app, const Request& request) {
+  if (request.Param && !request.Group) throw CLI::RequiresError("--param", "--group");
+  if (reports::FindReport(request.Report)->NeedsLabel && app.count("--label") == 0) {
     throw CLI::RequiresError("the report '" + request.Report + "'", "--label");
   }
 }
 
-// Prints what was asked for in place of a report, and returns the exit status.
-int PrintText(std::string text) {
-  if (!text.ends_with('\n')) text += '\n';
-  StandardOutput output({});
-  try {
-    output.Piece(text);
-    output.Flush();
-  } catch (const OutputClosed&) {
-    // Whoever asked has seen enough.
-  } catch (const modAllPurpose::RuntimeError& error) {
-    std::cerr << "vantrel-report: " << RuntimeErrorTitle(error) << ' ' << error.what() << '\n';
-    return kSomeFailed;
-  }
-  return kAllWell;
+AskedText TextOf(const CLI::App& app, const CLI::Success& asked) {
+  std::ostringstream text;
+  app.exit(asked, text, text);
+  if (!text.str().ends_with('\n')) text << '\n';
+  return {text.str()};
 }
 
 }  // namespace
 
-std::variant<Request, int> ParseCommandLine(std::vector<std::string> arguments) {
+std::variant<Request, AskedText> ParseCommandLine(const std::vector<std::string>& arguments) {
   CLI::App app(kDescription, "vantrel-report");
-  app.footer(kFooter);
+  app.footer(Footer());
   app.allow_windows_style_options(false);
   app.set_version_flag("--version", std::string("vantrel-report ") + kVersion);
   Request request;
   AddOptions(app, request);
+  ParserWords words = WordsOf(arguments, app);
+  std::string refusal;
   try {
-    arguments = SplitEmptyValues(arguments);
-    ShieldBrackets(arguments);
-    std::ranges::reverse(arguments);  // the order in which the parser takes them
-    app.parse(std::move(arguments));
+    std::ranges::reverse(words.Words);  // the order in which the parser takes them
+    app.parse(std::move(words.Words));
     CheckRequest(app, request);
-    return request;
-  } catch (const CLI::Success& done) {
-    std::ostringstream text;
-    app.exit(done, text, std::cerr);
-    return PrintText(text.str());
+  } catch (const CLI::Success& asked) {
+    return TextOf(app, asked);
   } catch (const CLI::ParseError& error) {
-    std::cerr << "vantrel-report: " << error.what()
-              << "\nTry 'vantrel-report --help' for more information.\n";
-    return kUsageError;
+    refusal = error.what();
   }
+  if (!words.UnknownOption.empty()) {
+    refusal = fmt::format("there is no option '{}'", words.UnknownOption);
+  }
+  if (!refusal.empty()) throw UsageError(refusal);
+  return request;
 }
 
 }  // namespace cli

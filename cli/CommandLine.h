@@ -1,34 +1,27 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <stdexcept>
 #include <string>
 #include <variant>
 #include <vector>
 
-#include "cli/GcdReport.h"
+#include "cli/Request.h"
 
 namespace cli {
 
-// What the user asked for.
-struct Request {
-  std::string Report;
-  std::vector<std::string> Files;
-  std::string Label;
-  std::string Group;
-  std::string Param;
-  bool HasParam = false;
-  bool HasGroup = false;
-  bool Events = false;
-  GcdRequest Gcd;
+// A command line that nothing can be done for; what() is the sentence that says why.
+class UsageError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
 };
 
-// The exit statuses of the tool.
-inline constexpr int kAllWell = 0;
-inline constexpr int kSomeFailed = 1;
-inline constexpr int kUsageError = 2;
+// What help or version were asked for say, whole lines.
+struct AskedText {
+  std::string Text;
+};
 
-// The request in `arguments` (without the program's name), or the exit status where there is
-// nothing to do: help or version was printed, or a usage error was written to standard error.
-std::variant<Request, int> ParseCommandLine(std::vector<std::string> arguments);
+// What `arguments` (without the program's name) ask for. A UsageError where that cannot be told.
+std::variant<Request, AskedText> ParseCommandLine(const std::vector<std::string>& arguments);
 
 }  // namespace cli

@@ -12,6 +12,7 @@
 #include "reports/NavigationTree.h"
 #include "reports/NormalizedReport.h"
 #include "reports/ParameterReport.h"
+#include "reports/ReportList.h"
 #include "reports/StrikeOffReport.h"
 
 namespace cli {
@@ -36,12 +37,11 @@ std::string Refusing(const FileState& state, Request& request, ReportOutput& out
 }
 
 ReportResult Parameters(const FileState& state, const Request& request, ReportOutput& output) {
-  if (request.HasParam) {
-    return reports::ShowMatchingGroupAndMatchingParam(state, request.Group, request.Param, output);
+  if (request.Group && request.Param) {
+    return reports::ShowMatchingGroupAndMatchingParam(state, *request.Group, *request.Param,
+                                                      output);
   }
-  if (request.HasGroup) {
-    return reports::ShowMatchingGroupAndAllParams(state, request.Group, output);
-  }
+  if (request.Group) return reports::ShowMatchingGroupAndAllParams(state, *request.Group, output);
   reports::ShowAllGroupsAndAllParams(state, output);
   return ReportResult::Written();
 }
@@ -64,35 +64,34 @@ std::string Gcd(const FileState& state, Request& request, ReportOutput& output) 
   return WriteGcdReport(state, request.Gcd, output);
 }
 
-constexpr std::array kReports = {
-    ReportEntry{"header", Plain<reports::ShowHeaderInfo>, false},
-    ReportEntry{"parameter-header", Plain<reports::ShowParameterHeader>, false},
-    ReportEntry{"groups", Plain<reports::ShowAllGroups>, false},
-    ReportEntry{"parameters", Refusing<Parameters>, false},
-    ReportEntry{"labels", Plain<reports::ShowPointLabels>, false},
-    ReportEntry{"point", Refusing<Point>, true},
-    ReportEntry{"analog", Refusing<Analog>, true},
-    ReportEntry{"events", Plain<reports::ShowStrikeOffEvents>, false},
-    ReportEntry{"measures", Plain<reports::ShowSingleValueStrikeOffMeasures>, false},
-    ReportEntry{"normalized", Refusing<Normalized>, true},
-    ReportEntry{"gcd", Gcd, false},
-    ReportEntry{"tree", Plain<reports::ShowTree>, false},
+struct ReportEntry {
+  std::string_view Name;
+  ReportFunction Run;
 };
+
+constexpr std::array kFunctions = {
+    ReportEntry{"header", Plain<reports::ShowHeaderInfo>},
+    ReportEntry{"parameter-header", Plain<reports::ShowParameterHeader>},
+    ReportEntry{"groups", Plain<reports::ShowAllGroups>},
+    ReportEntry{"parameters", Refusing<Parameters>},
+    ReportEntry{"labels", Plain<reports::ShowPointLabels>},
+    ReportEntry{"point", Refusing<Point>},
+    ReportEntry{"analog", Refusing<Analog>},
+    ReportEntry{"events", Plain<reports::ShowStrikeOffEvents>},
+    ReportEntry{"measures", Plain<reports::ShowSingleValueStrikeOffMeasures>},
+    ReportEntry{"normalized", Refusing<Normalized>},
+    ReportEntry{"gcd", Gcd},
+    ReportEntry{"tree", Plain<reports::ShowTree>},
+};
+
+static_assert(std::ranges::equal(kFunctions, reports::kReports, {}, &ReportEntry::Name,
+                                 &reports::ReportInfo::Name),
+              "every report of the list has its function here, in the same order");
 
 }  // namespace
 
-const ReportEntry* FindReport(std::string_view name) {
-  const auto* entry = std::ranges::find(kReports, name, &ReportEntry::Name);
-  return entry == kReports.end() ? nullptr : entry;
-}
-
-std::string ReportNames(std::string_view separator) {
-  std::string names;
-  for (const ReportEntry& entry : kReports) {
-    if (!names.empty()) names += separator;
-    names += entry.Name;
-  }
-  return names;
+ReportFunction FunctionOf(std::string_view report) {
+  return std::ranges::find(kFunctions, report, &ReportEntry::Name)->Run;
 }
 
 }  // namespace cli

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "c3d/FileState.h"
-#include "cli/CommandLine.h"
+#include "cli/Request.h"
 #include "support/ReportOutput.h"
 
 namespace cli {
@@ -14,16 +14,7 @@ namespace cli {
 using ReportFunction = std::string (*)(const modVantrel::FileState& state, Request& request,
                                        modAllPurpose::ReportOutput& output);
 
-struct ReportEntry {
-  std::string_view Name;
-  ReportFunction Run;
-  bool NeedsLabel;
-};
-
-// The report of that name; null where there is none.
-const ReportEntry* FindReport(std::string_view name);
-
-// All names in the order of the help, with `separator` between them.
-std::string ReportNames(std::string_view separator);
+// What writes the report of that name, which must be one of reports::kReports.
+ReportFunction FunctionOf(std::string_view report);
 
 }  // namespace cli

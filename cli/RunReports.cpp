@@ -3,7 +3,6 @@
 #include "cli/RunReports.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <iterator>
 #include <new>
 #include <string>
@@ -13,86 +12,93 @@
 #include <fmt/format.h>
 
 #include "c3d/OpenC3dFile.h"
+#include "cli/Complaint.h"
 #include "cli/ReportTable.h"
 #include "cli/StandardOutput.h"
 #include "cli/Start.h"
+#include "cli/Tool.h"
 #include "gait/EventExtraction.h"
+#include "support/ReportOutput.h"
 #include "support/RuntimeError.h"
 
 namespace cli {
 
+using modAllPurpose::ReportOutput;
 using modAllPurpose::RuntimeError;
 
 namespace {
 
-void Complain(const std::string& file, std::string_view message) {
-  const std::string line = fmt::format("vantrel-report: {}: {}\n", file, message);
-  // Where nobody listens there is nothing left to say.
-  std::fwrite(line.data(), 1, line.size(), stderr);
+void ComplainOf(const std::string& file, std::string_view message, const Streams& streams) {
+  Complain(streams.Error, fmt::format("{}: {}", file, message));
 }
 
-void Complain(const std::string& file, const RuntimeError& error) {
-  Complain(file, fmt::format("{} {}", modAllPurpose::RuntimeErrorTitle(error), error.what()));
+// What `work` answers, or the message of the error that ended it. OutputClosed passes.
+template <typename Work>
+std::string MessageOf(Work work) {
+  const auto message = [](const RuntimeError& error) {
+    return fmt::format("{} {}", modAllPurpose::RuntimeErrorTitle(error), error.what());
+  };
+  try {
+    return work();
+  } catch (const RuntimeError& error) {
+    return message(error);
+  } catch (const std::bad_alloc&) {
+    return message(RuntimeError(modAllPurpose::ErrorNumber::OutOfMemory));
+  }
 }
 
 // The files that those of the command line stand for. One that cannot be told is complained about
 // and left out; `status` says so.
-std::vector<std::string> FilesToRead(const std::vector<std::string>& named, int& status) {
+std::vector<std::string> FilesToRead(const std::vector<std::string>& named, const Streams& streams,
+                                     int& status) {
   std::vector<std::string> files;
   for (const std::string& file : named) {
-    try {
+    const std::string complaint = MessageOf([&] {
       std::ranges::move(WithoutWildcards(file), std::back_inserter(files));
-    } catch (const RuntimeError& error) {
-      Complain(file, error);
-      status = kSomeFailed;
-    }
+      return std::string();
+    });
+    if (complaint.empty()) continue;
+    ComplainOf(file, complaint, streams);
+    status = kSomeFailed;
   }
   return files;
 }
 
 // Opens `file` and writes its report; answers with the message of a failed open or a refused input,
 // empty where all is well.
-std::string OpenAndReport(const std::string& file, Request& request, StandardOutput& output) {
+std::string OpenAndReport(const std::string& file, Request& request, ReportOutput& output) {
   modVantrel::FileState state;
   const auto opened = modVantrel::OpenC3dFile(state, file, modVantrel::FindGaitEvents);
   if (opened != modVantrel::OpenResult::Success) {
     return std::string(modVantrel::OpenFailureMessage(opened));
   }
-  return FindReport(request.Report)->Run(state, request, output);
+  return FunctionOf(request.Report)(state, request, output);
 }
 
-bool Report(const std::string& file, Request& request) {
+// The same on the output stream. What a report had written before an error is printed; where it
+// cannot be, that is the message.
+std::string PrintReport(const std::string& file, Request& request, const Streams& streams) {
   const bool several = request.Files.size() > 1;
-  StandardOutput output(several ? fmt::format("==> {} <==", file) : std::string());
-  try {
-    std::string complaint;
-    try {
-      complaint = OpenAndReport(file, request, output);
-    } catch (const OutputClosed&) {
-      throw;
-    } catch (...) {
-      output.Flush();  // what the report had written stands
-      throw;
-    }
+  StandardOutput output(streams.Output, several ? fmt::format("==> {} <==", file) : std::string());
+  const std::string complaint = MessageOf([&] { return OpenAndReport(file, request, output); });
+  const std::string lost = MessageOf([&] {
     output.Flush();
-    if (!complaint.empty()) Complain(file, complaint);
-    return complaint.empty();
-  } catch (const RuntimeError& error) {
-    Complain(file, error);
-  } catch (const std::bad_alloc&) {
-    Complain(file, RuntimeError(modAllPurpose::ErrorNumber::OutOfMemory));
-  }
-  return false;
+    return std::string();
+  });
+  return lost.empty() ? complaint : lost;
 }
 
 }  // namespace
 
-int RunReports(Request request) {
+int RunReports(Request request, const Streams& streams) {
   int status = kAllWell;
-  request.Files = FilesToRead(request.Files, status);
+  request.Files = FilesToRead(request.Files, streams, status);
   try {
     for (const std::string& file : request.Files) {
-      if (!Report(file, request)) status = kSomeFailed;
+      const std::string complaint = PrintReport(file, request, streams);
+      if (complaint.empty()) continue;
+      ComplainOf(file, complaint, streams);
+      status = kSomeFailed;
     }
   } catch (const OutputClosed&) {
     // Whoever read the output has seen enough.

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "cli/CommandLine.h"
+#include "cli/Request.h"
+#include "cli/Streams.h"
 
 namespace cli {
 
 // Opens each file of the request with fresh state and prints its report. What fails is named on
-// standard error and the next file is taken. Returns the exit status.
-int RunReports(Request request);
+// the error stream and the next file is taken. Returns the exit status.
+int RunReports(Request request, const Streams& streams);
 
 }  // namespace cli

@@ -3,7 +3,6 @@
 #include "cli/StandardOutput.h"
 
 #include <cerrno>
-#include <cstdio>
 
 #include "cli/Start.h"
 #include "support/RuntimeError.h"
@@ -30,8 +29,8 @@ void StandardOutput::Flush() {
   std::string piece;
   piece.swap(pending_);
   ForgetErrors();
-  const bool written = std::fwrite(piece.data(), 1, piece.size(), stdout) == piece.size() &&
-                       std::fflush(stdout) == 0;
+  const bool written = std::fwrite(piece.data(), 1, piece.size(), stream_) == piece.size() &&
+                       std::fflush(stream_) == 0;
   if (written) return;
   if (IsOutputClosed()) throw OutputClosed();
   throw modAllPurpose::FileErrorFromErrno(errno);

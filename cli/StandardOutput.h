@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstdio>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "support/ReportOutput.h"
 
@@ -11,11 +13,12 @@ namespace cli {
 // Thrown when nobody reads the tool's output any more; the tool then ends without a word.
 struct OutputClosed {};
 
-// A report on standard output, lines ended by LF, handed over in large pieces.
+// A report on the tool's standard output, lines ended by LF, handed over in large pieces.
 class StandardOutput : public modAllPurpose::ReportOutput {
  public:
-  // `heading` is a line to put in front of the report; empty for none.
-  explicit StandardOutput(std::string heading) : heading_(std::move(heading)) {}
+  // `heading` is a line to put in front of the report; empty for none. `stream` must last as long.
+  StandardOutput(std::FILE* stream, std::string heading)
+      : stream_(stream), heading_(std::move(heading)) {}
 
   void BeginReport() override;
   void AppendOutput(std::string_view text, bool paneOnly, bool continueLine) override;
@@ -26,6 +29,7 @@ class StandardOutput : public modAllPurpose::ReportOutput {
   void Flush();
 
  private:
+  std::FILE* stream_;
   std::string heading_;
   std::string pending_;
 };

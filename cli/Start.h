@@ -11,9 +11,10 @@ namespace cli {
 // came elsewhere.
 std::vector<std::string> Arguments(int argc, char** argv);
 
-// The files that `file` stands for, in order, where it has a wildcard, "*" or "?", in its last
-// name; `file` itself where it has none or stands for no file. Only Windows shells leave that to a
-// program: elsewhere a name is a name. A RuntimeError where a folder cannot be read to its end.
+// The files, not folders, that `file` stands for, in order, where it has a wildcard, "*" or "?", in
+// its last name; `file` itself where it has none or stands for no file. Only Windows shells leave
+// that to a program, and Windows itself says which names fit, short ones among them; elsewhere a
+// name is a name. A RuntimeError where a folder cannot be read to its end.
 std::vector<std::string> WithoutWildcards(const std::string& file);
 
 // Lets standard output and standard error take bytes as they are, UTF-8 on a console, and failed

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
 #include <io.h>
-#include <optional>
+#include <memory>
 #include <windows.h>
 
 #include "cli/Start.h"
-#include "cli/Wildcards.h"
 #include "support/FileSystem.h"
 #include "support/WindowsError.h"
 
@@ -17,45 +17,11 @@ namespace cli {
 
 namespace {
 
-// What the system finds for a pattern.
-class Search {
- public:
-  explicit Search(const std::wstring& pattern)
-      : handle_(::FindFirstFileW(pattern.c_str(), &found_)) {
-    if (handle_ != INVALID_HANDLE_VALUE) return;
-    const DWORD failure = ::GetLastError();
-    isAtEnd_ = failure == ERROR_FILE_NOT_FOUND || failure == ERROR_PATH_NOT_FOUND;
-    if (!isAtEnd_) throw modAllPurpose::LastFileError();
-  }
-  Search(const Search&) = delete;
-  Search& operator=(const Search&) = delete;
-  ~Search() {
-    if (handle_ != INVALID_HANDLE_VALUE) ::FindClose(handle_);
-  }
-
-  // The entries one by one, as a FolderListing.
-  std::optional<FolderEntry> Next() {
-    if (!isFirst_ && !isAtEnd_ && ::FindNextFileW(handle_, &found_) == 0) {
-      isAtEnd_ = ::GetLastError() == ERROR_NO_MORE_FILES;
-      if (!isAtEnd_) throw modAllPurpose::LastFileError();
-    }
-    isFirst_ = false;
-    if (isAtEnd_) return std::nullopt;
-    return FolderEntry{&found_.cFileName[0],
-                       (found_.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0};
-  }
-
- private:
-  WIN32_FIND_DATAW found_{};
-  bool isFirst_ = true;
-  bool isAtEnd_ = false;
-  HANDLE handle_;
+// A search for names; closing one that the system refused does nothing.
+struct CloseSearch {
+  void operator()(HANDLE search) const { ::FindClose(search); }
 };
-
-wchar_t UpperCase(wchar_t letter) {
-  ::CharUpperBuffW(&letter, 1);
-  return letter;
-}
+using Search = std::unique_ptr<void, CloseSearch>;
 
 // `text` in UTF-8, with a mark in place of what is no UTF-16.
 std::string Utf8(const wchar_t* text) {
@@ -96,16 +62,23 @@ std::vector<std::string> Arguments(int /*argc*/, char** /*argv*/) {
 }
 
 std::vector<std::string> WithoutWildcards(const std::string& file) {
-  if (!HasWildcard(file)) return {file};
-  const std::wstring path = modAllPurpose::NativePath(file);
-  const auto nameStart = path.find_last_of(L"/\\:") + 1;
-  Search search(path);
-  std::vector<std::string> files;
-  for (const std::wstring& name : FilesThatFit(
-           path.substr(nameStart), [&] { return search.Next(); }, UpperCase)) {
-    files.push_back(Utf8((path.substr(0, nameStart) + name).c_str()));
+  const auto nameStart = file.find_last_of("/\\:") + 1;
+  if (file.find_first_of("*?", nameStart) == std::string::npos) return {file};
+  WIN32_FIND_DATAW found{};
+  const Search search(::FindFirstFileW(modAllPurpose::NativePath(file).c_str(), &found));
+  if (search.get() == INVALID_HANDLE_VALUE) {
+    const DWORD failure = ::GetLastError();
+    if (failure == ERROR_FILE_NOT_FOUND || failure == ERROR_PATH_NOT_FOUND) return {file};
+    throw modAllPurpose::LastFileError();
   }
-  if (files.empty()) files.push_back(file);
+  std::vector<std::string> files;
+  do {
+    if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) continue;
+    files.push_back(file.substr(0, nameStart) + Utf8(&found.cFileName[0]));
+  } while (::FindNextFileW(search.get(), &found) != 0);
+  if (::GetLastError() != ERROR_NO_MORE_FILES) throw modAllPurpose::LastFileError();
+  if (files.empty()) return {file};
+  std::ranges::sort(files);
   return files;
 }
 

@@ -1,15 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include <utility>
-#include <variant>
+#include <cstdio>
 
-#include "cli/CommandLine.h"
-#include "cli/RunReports.h"
 #include "cli/Start.h"
+#include "cli/Tool.h"
 
 int main(int argc, char* argv[]) {
   cli::PrepareOutput();
-  auto parsed = cli::ParseCommandLine(cli::Arguments(argc, argv));
-  if (const int* status = std::get_if<int>(&parsed)) return *status;
-  return cli::RunReports(std::get<cli::Request>(std::move(parsed)));
+  return cli::RunTool(cli::Arguments(argc, argv), {stdout, stderr});
 }

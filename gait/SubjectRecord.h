@@ -33,7 +33,8 @@ SubjectRecord FindSubject(const FileState& state, const SubjectOptions& options)
 // The calendar date that `text` writes as YYYY-MM-DD, blanks around it aside.
 std::optional<std::chrono::year_month_day> ParseIsoDate(std::string_view text);
 
-// "Male" or "Female" by the first letter, in either case, of `gender`; otherwise "NotSpecified".
+// "Male" or "Female" by the first letter, in either case, of `gender`, blanks in front aside;
+// otherwise "NotSpecified".
 std::string_view GenderName(std::string_view gender);
 
 // The days between both dates / 365, without a correction for leap years; 0 where one is missing.

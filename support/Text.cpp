@@ -19,19 +19,31 @@ constexpr char16_t CodePoint(unsigned char byte) {
   return byte >= 0x80 && byte <= 0x9F ? kHighControls[byte - 0x80U] : byte;
 }
 
-void AppendUtf8(char16_t codePoint, std::string& text) {
+char ContinuationByte(unsigned code, unsigned shift) {
+  return static_cast<char>(0x80U | ((code >> shift) & 0x3FU));
+}
+
+void AppendUtf8(char32_t codePoint, std::string& text) {
   const unsigned code = codePoint;
   if (code < 0x80) {
     text += static_cast<char>(code);
   } else if (code < 0x800) {
     text += static_cast<char>(0xC0U | (code >> 6U));
-    text += static_cast<char>(0x80U | (code & 0x3FU));
-  } else {
+    text += ContinuationByte(code, 0);
+  } else if (code < 0x10000) {
     text += static_cast<char>(0xE0U | (code >> 12U));
-    text += static_cast<char>(0x80U | ((code >> 6U) & 0x3FU));
-    text += static_cast<char>(0x80U | (code & 0x3FU));
+    text += ContinuationByte(code, 6);
+    text += ContinuationByte(code, 0);
+  } else {
+    text += static_cast<char>(0xF0U | (code >> 18U));
+    text += ContinuationByte(code, 12);
+    text += ContinuationByte(code, 6);
+    text += ContinuationByte(code, 0);
   }
 }
+
+constexpr bool IsFirstOfPair(char16_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
+constexpr bool IsSecondOfPair(char16_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
 
 // Upper-cases the two-byte UTF-8 character at `lead`, `trail`. The letters outside ASCII that
 // Windows-1252 holds in both cases all take two bytes in either case.
@@ -105,6 +117,22 @@ std::string FromWindows1252(std::span<const std::byte> bytes) {
   text.reserve(bytes.size());
   for (const std::byte byte : bytes) AppendUtf8(CodePoint(static_cast<unsigned char>(byte)), text);
   return text;
+}
+
+std::string FromUtf16(std::u16string_view text) {
+  constexpr char32_t kReplacement = 0xFFFD;
+  std::string utf8;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    char32_t codePoint = text[i];
+    if (IsFirstOfPair(text[i]) && i + 1 < text.size() && IsSecondOfPair(text[i + 1])) {
+      codePoint = 0x10000U + ((text[i] - 0xD800U) << 10U) + (text[i + 1] - 0xDC00U);
+      ++i;
+    } else if (IsFirstOfPair(text[i]) || IsSecondOfPair(text[i])) {
+      codePoint = kReplacement;
+    }
+    AppendUtf8(codePoint, utf8);
+  }
+  return utf8;
 }
 
 }  // namespace modAllPurpose

@@ -36,4 +36,7 @@ std::string_view WithoutExtension(std::string_view path);
 // Windows-1252 bytes as UTF-8. The five codes that the code page leaves open keep their number.
 std::string FromWindows1252(std::span<const std::byte> bytes);
 
+// UTF-16 as UTF-8. Half a pair is U+FFFD.
+std::string FromUtf16(std::u16string_view text);
+
 }  // namespace modAllPurpose

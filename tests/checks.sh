@@ -53,7 +53,8 @@ cppcheck_all() {
 valgrind_tool() {
   cmake --preset release
   cmake --build --preset release --target vantrel-report sample-walk
-  local tool=$PWD/build/release/vantrel-report folder file report
+  local tool=$PWD/build/release/vantrel-report folder file report plain_reports
+  plain_reports=$(tests/plain_reports.sh "$tool")
   folder=$(mktemp -d)
   under_valgrind() {
     valgrind --quiet --leak-check=full --error-exitcode=9 "$tool" "$@" >/dev/null 2>"$folder/errors" ||
@@ -62,7 +63,7 @@ valgrind_tool() {
   [ $# -gt 0 ] || set -- build/release/sample-walk.c3d
   for file; do
     echo "$file"
-    for report in header parameter-header groups parameters labels events measures tree; do
+    for report in $plain_reports; do
       under_valgrind "$report" "$file"
     done
     local point analog

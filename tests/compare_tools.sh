@@ -9,6 +9,7 @@
 # a path, a share of another machine among them; for that one it must run under tests/wine.sh.
 set -euo pipefail
 unc=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)/build/wine/dosdevices/unc
+tests=$(dirname "$(realpath -- "${BASH_SOURCE[0]}")")
 one=$(realpath -- "$1") other=$(realpath -- "$2") trial=$(realpath -- "$3")
 failed=0 compared=0
 
@@ -111,10 +112,11 @@ same_under() {
   [ "$(grep -c '^==> ' "$work/other.out")" = 2 ] || complain "not two files: $1\\w*.C3D"
 }
 
+plain_reports=$("$tests/plain_reports.sh" "$one")
 point=$("$one" labels "$file" | sed -n 's/^001  //p')
 analog=$("$one" --group analog --param labels parameters "$file" |
   sed -n "s/ *txt(1,1,1,1,1,1) *'\(.*\)'/\1/p")
-for report in header parameter-header groups parameters labels events measures tree; do
+for report in $plain_reports; do
   same 0 "$report" "$file"
 done
 same 0 --group point parameters "$file"

@@ -80,11 +80,19 @@ TEST(GcdCommandLine, TwoTrialsOfOneNameDoNotTakeEachOthersFiles) {
   EXPECT_EQ(NamesIn(tool / "out").size(), 6U);
 }
 
-TEST(GcdCommandLine, EmptyOutputDirBehindAnEqualsSignIsTheTrialsOwnFolder) {
+TEST(GcdCommandLine, WrongUsageWritesNothing) {
   const ToolInFolder tool;
-  const ToolResult run = tool.Run({"--output-dir=", "gcd", kSampleWalk});
-  EXPECT_EQ(run.Status, 0);
-  EXPECT_EQ(NamesIn(tool.Path()).size(), 7U);
+  const std::vector<std::vector<std::string>> wrong = {
+      {"--output-dir=", "the name of the folder is empty"},
+      {"--date-of-birth=2026-02-30", "'2026-02-30' is no date of the form YYYY-MM-DD"},
+      {"--visit-date=20.11.2026", "'20.11.2026' is no date of the form YYYY-MM-DD"}};
+  for (const auto& row : wrong) {
+    const ToolResult run = tool.Run({row[0], "gcd", kSampleWalk});
+    EXPECT_EQ(run.Status, 2);
+    EXPECT_EQ(run.Err, Complaint(row[0].substr(0, row[0].find('=')), row[1]) +
+                           "Try 'vantrel-report --help' for more information.\n");
+    EXPECT_EQ(NamesIn(tool.Path()), std::vector<std::string>{kSampleWalk});
+  }
 }
 
 TEST(GcdCommandLine, OverwriteReplacesThemAll) {

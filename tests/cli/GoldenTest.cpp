@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include "reports/ReportList.h"
 #include "tests/GaitTrials.h"
 #include "tests/cli/ToolInFolder.h"
 
@@ -61,20 +62,19 @@ void ExpectGolden(const std::string& name, const std::string& text) {
 
 TEST(Golden, EveryReportOfTheToolPrintsItsText) {
   const ToolInFolder tool;
-  std::vector<std::string> reports;
+  std::vector<std::string> printed;
   for (const std::vector<std::string>& words : Cases()) {
     std::vector<std::string> arguments(words.begin() + 1, words.end());
-    reports.push_back(arguments.back());
+    printed.push_back(arguments.back());
     arguments.emplace_back(tests::kSampleWalk);
     const ToolResult run = tool.Run(arguments);
     EXPECT_EQ(run.Status, 0) << run.Err;
     EXPECT_EQ(run.Err, "");
     ExpectGolden(words[0], run.Out);
   }
-  for (const std::string report :
-       {"header", "parameter-header", "groups", "parameters", "labels", "point", "analog", "events",
-        "measures", "normalized", "gcd", "tree"}) {
-    EXPECT_NE(std::ranges::find(reports, report), reports.end()) << report << " has no text";
+  for (const reports::ReportInfo& report : reports::kReports) {
+    EXPECT_NE(std::ranges::find(printed, report.Name), printed.end())
+        << report.Name << " has no text";
   }
 }
 

@@ -14,6 +14,7 @@
 #include "reports/ListingReport.h"
 #include "reports/NavigationTree.h"
 #include "reports/ParameterReport.h"
+#include "reports/ReportList.h"
 #include "support/FileSystem.h"
 #include "tests/TestTrials.h"
 #include "tests/cli/ToolRun.h"
@@ -95,6 +96,21 @@ TEST_F(ReportRunTest, AMissingGroupIsRefusedOnStandardError) {
                 "vantrel-report: " + file + ": group not found\n");
   ExpectFailure({"parameters", file, "--group", "", "--param", "LABELS"}, "",
                 "vantrel-report: " + file + ": neither group nor param found\n");
+}
+
+TEST_F(ReportRunTest, AnEmptyLabelIsLookedForLikeAnyOther) {
+  const auto labelled = [this](const std::string& label) {
+    return Write("trial.c3d", TrialBuilder().AddPoint(label, [](std::int32_t /*frame*/) {
+      return std::array<float, 3>{};
+    }));
+  };
+  std::string file = labelled("A");
+  ExpectFailure({"--label", "", "point", file}, "",
+                "vantrel-report: " + file + ": point label not found\n");
+  file = labelled(" ");
+  const ToolResult result = RunTool({"--label=", "point", file});
+  EXPECT_EQ(result.Status, 0) << result.Err;
+  EXPECT_TRUE(result.Out.starts_with("Label: ''\n")) << result.Out.substr(0, 40);
 }
 
 TEST_F(ReportRunTest, NamesOutsideAsciiAreTypedInUtf8) {
@@ -249,9 +265,12 @@ TEST_F(ReportRunTest, NothingIsWrittenAnywhere) {
   Write("trial.c3d");
   fs::create_directory(folder_ / "Desktop");
   const auto before = Listing(folder_.Path());
-  for (const std::string report :
-       {"header", "parameter-header", "groups", "parameters", "labels", "tree"}) {
-    EXPECT_EQ(RunTool({report, "trial.c3d"}, {}, folder_.Path()).Status, 0);
+  for (const reports::ReportInfo& report : reports::kReports) {
+    if (report.WritesGcdFiles) continue;
+    const ToolResult result =
+        RunTool({std::string(report.Name), "trial.c3d", "--label", "LTOE"}, {}, folder_.Path());
+    EXPECT_TRUE(result.Status == 0 || report.NeedsLabel) << result.Err;
+    EXPECT_NE(result.Status, 2) << result.Err;
   }
   EXPECT_EQ(Listing(folder_.Path()), before);
 }

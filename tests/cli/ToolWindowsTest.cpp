@@ -11,7 +11,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "cli/Start.h"
 #include "sample/TrialBuilder.h"
+#include "support/FileSystem.h"
 #include "tests/TestTrials.h"
 #include "tests/cli/ToolRun.h"
 
@@ -40,15 +42,23 @@ class ToolOnWindows : public testing::Test {
   tests::TemporaryFolder folder_;
 };
 
-TEST_F(ToolOnWindows, TakesAWildcardForTheFilesWhoseWholeNamesFit) {
-  for (const char* name :
-       {"walk 2.c3d", "Walk 1.C3D", "walk 10.c3d", "x.c3dbak", "longer name.c3d~"}) {
-    Write(name);
-  }
+TEST_F(ToolOnWindows, TakesAWildcardForTheFilesWhoseNamesFitInOrder) {
+  for (const char* name : {"walk 2.c3d", "Walk 1.C3D", "walk 10.c3d", "other.txt"}) Write(name);
   fs::create_directory(folder_ / "folder.c3d");
   EXPECT_THAT(FilesOf({"*.c3d"}),
               ElementsAre("==> Walk 1.C3D <==", "==> walk 10.c3d <==", "==> walk 2.c3d <=="));
   EXPECT_THAT(FilesOf({"WALK ?.c3d"}), ElementsAre("==> Walk 1.C3D <==", "==> walk 2.c3d <=="));
+  EXPECT_THAT(FilesOf({"*"}), testing::SizeIs(4));
+}
+
+TEST_F(ToolOnWindows, TakesWildcardsOfTheLastNameOnly) {
+  Write("walk.c3d");
+  const std::string folder = modAllPurpose::Utf8Path(folder_.Path());
+  for (const std::string name : {"walk.c3d", "wa*/walk.c3d", "wa?\\walk.c3d", ""}) {
+    EXPECT_THAT(cli::WithoutWildcards(name), ElementsAre(name));
+  }
+  EXPECT_THAT(cli::WithoutWildcards(folder + "/w*.c3d"), ElementsAre(folder + "/walk.c3d"));
+  EXPECT_THAT(cli::WithoutWildcards(folder + "\\w?lk.c3d"), ElementsAre(folder + "\\walk.c3d"));
 }
 
 TEST_F(ToolOnWindows, TakesFilesInTheOrderOfTheirPatterns) {

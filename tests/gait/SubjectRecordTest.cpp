@@ -5,6 +5,7 @@
 #include <fstream>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -51,7 +52,8 @@ TEST(ParseIsoDate, TakesCalendarDatesOnly) {
 TEST(GenderName, IsTheFirstLetterInEitherCase) {
   for (const std::string gender : {"M", "m", "Male", "man"}) EXPECT_EQ(GenderName(gender), "Male");
   for (const std::string gender : {"F", "f", "Female"}) EXPECT_EQ(GenderName(gender), "Female");
-  for (const std::string gender : {"", "W", "x", "1", " M"}) {
+  for (const std::string gender : {" M", "  m ", " Male"}) EXPECT_EQ(GenderName(gender), "Male");
+  for (const std::string gender : {"", " ", "W", "weiblich", "x", "1", "\"M\"", "x m"}) {
     EXPECT_EQ(GenderName(gender), "NotSpecified") << gender;
   }
 }
@@ -152,6 +154,12 @@ TEST(FindSubject, OptionsComeBeforeParametersAndThoseBeforeTheFile) {
   EXPECT_EQ(with.VisitDate, On(2011, 11, 11));
 }
 
+TEST(FindSubject, GenderOfBlanksCountsAsMissing) {
+  TrialBuilder builder;
+  builder.SetParam("SUBJECT", TextParam("GENDER", "Female"));
+  EXPECT_EQ(Find(builder, {"  ", "", ""}).Gender, "Female");
+}
+
 TEST(FindSubject, OptionThatIsNoDateCountsAsMissing) {
   EXPECT_EQ(Find(TrialBuilder().SetParam("SUBJECT", TextParam("DOB", "2014-03-02")),
                  {"", "yesterday", "yesterday"})
@@ -166,6 +174,89 @@ TEST(SubjectFile, IsReadWithAByteOrderMarkAndInAnyCase) {
   EXPECT_EQ(subject.Gender, "Female");
   EXPECT_EQ(subject.DateOfBirth, On(2014, 3, 2));
   EXPECT_EQ(subject.VisitDate, On(2026, 5, 11));
+}
+
+// `text`, of ASCII letters, in UTF-16 behind its mark.
+std::string Utf16File(std::string_view text, bool bigEndian) {
+  std::string bytes = bigEndian ? "\xFE\xFF" : "\xFF\xFE";
+  for (const char letter : text) {
+    bytes += bigEndian ? '\0' : letter;
+    bytes += bigEndian ? letter : '\0';
+  }
+  return bytes;
+}
+
+void ExpectTheSubjectOf(const std::string& ini, const std::string& what) {
+  const SubjectRecord subject = Find(TrialBuilder(), {}, ini);
+  EXPECT_EQ(subject.Gender, "Female") << what;
+  EXPECT_EQ(subject.DateOfBirth, On(2014, 3, 2)) << what;
+  EXPECT_EQ(subject.VisitDate, On(2026, 5, 11)) << what;
+}
+
+TEST(SubjectFile, IsReadInEveryEncodingAndWithEveryLineEnd) {
+  for (const std::string end : {"\n", "\r\n", "\r"}) {
+    const std::string text =
+        "[Subject]" + end + "Gender=Female" + end + "DOB=2014-03-02" + end + "Date=2026-05-11";
+    for (const std::string& ini : {text, text + end}) {
+      ExpectTheSubjectOf(ini, "UTF-8");
+      ExpectTheSubjectOf("\xEF\xBB\xBF" + ini, "UTF-8 with its mark");
+      ExpectTheSubjectOf(Utf16File(ini, false), "UTF-16 LE");
+      ExpectTheSubjectOf(Utf16File(ini, true), "UTF-16 BE");
+      ExpectTheSubjectOf(Utf16File(ini, true) + "x", "half a character behind");
+    }
+  }
+}
+
+TEST(SubjectFile, LosesQuotesAndWhiteSpaceAroundItsValues) {
+  ExpectTheSubjectOf(" gender = \"Female\" \n\tDOB\t=\t'2014-03-02'\t\n Date=\" 2026-05-11 \"\n",
+                     "quoted");
+  EXPECT_EQ(Find(TrialBuilder(), {}, "Gender=\"\n").Gender, "\"") << "one quote is none";
+  EXPECT_EQ(Find(TrialBuilder(), {}, "Gender=\"\"\n").Gender, "");
+}
+
+TEST(SubjectFile, LinesThatSayNothingAreLeftOut) {
+  ExpectTheSubjectOf(
+      "[Gender=Male]\n; Gender=Male\n#Gender=Male\n=Male\nGenders=Male\n\n\nGender=Female\n"
+      "Gender=Male\nDOB=2014-03-02\nDate=2026-05-11\n",
+      "among others");
+}
+
+TEST(SubjectFile, KeepsLettersOutsideAscii) {
+  EXPECT_EQ(Find(TrialBuilder(), {}, "Gender=f\u00E9minin\n").Gender, "f\u00E9minin");
+  EXPECT_EQ(Find(TrialBuilder(), {}, Utf16File("Gender=", false) + "\xAC\x20").Gender, "\u20AC");
+}
+
+// A file whose line "Gender=Female" ends, with its line's end, at the byte `end`.
+std::string FileWithGenderAt(std::size_t end, const std::string& behind) {
+  const std::string line = "\nGender=Female\n";
+  return std::string(end - line.size(), ';') + line + behind;
+}
+
+TEST(SubjectFile, IsReadInItsFirst64KiBAndThereInWholeLines) {
+  constexpr std::size_t kLimit = 65536;
+  for (const std::string behind : {"", "x", "\nDOB=2014-03-02\n"}) {
+    EXPECT_EQ(Find(TrialBuilder(), {}, FileWithGenderAt(kLimit, behind)).Gender, "Female");
+    EXPECT_EQ(Find(TrialBuilder(), {}, FileWithGenderAt(kLimit, behind)).DateOfBirth, Date());
+  }
+  for (const std::size_t over : {1U, 2U, 5U, 8U}) {
+    EXPECT_EQ(Find(TrialBuilder(), {}, FileWithGenderAt(kLimit + over, "x")).Gender, "")
+        << over << " bytes of the line lie behind";
+  }
+  std::string whole = FileWithGenderAt(kLimit + 1, "");
+  whole.pop_back();
+  EXPECT_EQ(Find(TrialBuilder(), {}, whole).Gender, "Female") << "a last line without its end";
+}
+
+TEST(SubjectFile, IsCutBetweenItsCharacters) {
+  const std::string line = "\r\nGender=Female\r\n";
+  const std::string text = std::string(32767 - line.size(), ';') + line;  // with its mark, 64 KiB
+  for (const bool bigEndian : {false, true}) {
+    EXPECT_EQ(Find(TrialBuilder(), {}, Utf16File(text + "DOB=2014-03-02", bigEndian)).Gender,
+              "Female");
+    EXPECT_EQ(Find(TrialBuilder(), {}, Utf16File(";;" + text, bigEndian)).Gender, "")
+        << "the end of the line lies behind";
+  }
+  EXPECT_EQ(Find(TrialBuilder(), {}, FileWithGenderAt(65535, "\u00E4")).Gender, "Female");
 }
 
 TEST(SubjectFile, DatesThatAreNoneCountAsMissing) {

@@ -98,4 +98,19 @@ TEST(PadRightToWidth, CutsTrailingBlanksBeyondTheWidth) {
   EXPECT_EQ(PadRightToWidth("abc      ", 4), "abc ");
 }
 
+TEST(FromUtf16, GivesEachCharacterItsBytes) {
+  EXPECT_EQ(FromUtf16(u""), "");
+  EXPECT_EQ(FromUtf16(u"a\u007F"), "a\x7F");
+  EXPECT_EQ(FromUtf16(u"\u0080\u00E4\u07FF"), "\xC2\x80\xC3\xA4\xDF\xBF");
+  EXPECT_EQ(FromUtf16(u"\u0800\u20AC\uFFFF"), "\xE0\xA0\x80\xE2\x82\xAC\xEF\xBF\xBF");
+  EXPECT_EQ(FromUtf16(u"\U00010000x\U0010FFFF"), "\xF0\x90\x80\x80x\xF4\x8F\xBF\xBF");
+}
+
+TEST(FromUtf16, MarksHalfAPair) {
+  const std::string mark = "\xEF\xBF\xBD";
+  EXPECT_EQ(FromUtf16({u"\xD800", 1}), mark);
+  EXPECT_EQ(FromUtf16({u"\xD83Dx", 2}), mark + "x");
+  EXPECT_EQ(FromUtf16({u"\xDE00\xD83D", 2}), mark + mark);
+}
+
 }  // namespace

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <string_view>
+
+namespace reports {
+
+// A report as its users know it: a name, what it is in one line, and what it asks of them.
+struct ReportInfo {
+  std::string_view Name;
+  std::string_view Description;
+  bool NeedsLabel = false;
+  bool TakesEvents = false;     // can name the stride events beside its lines
+  bool TakesGroup = false;      // can be limited to a group, or to one of its parameters
+  bool WritesGcdFiles = false;  // takes a folder for them and what is known of the subject
+};
+
+// Every report, in the order in which help and man page list them.
+inline constexpr std::array kReports = {
+    ReportInfo{.Name = "header",
+               .Description = "Every field of the 512-byte header and what is derived from it"},
+    ReportInfo{.Name = "parameter-header",
+               .Description = "The four bytes that open the parameter section"},
+    ReportInfo{.Name = "groups", .Description = "The names of the parameter groups"},
+    ReportInfo{.Name = "parameters",
+               .Description = "Groups and their parameters with all values",
+               .TakesGroup = true},
+    ReportInfo{.Name = "labels", .Description = "The point labels with their numbers"},
+    ReportInfo{.Name = "point",
+               .Description = "Frame number, time and coordinates of a point in every frame",
+               .NeedsLabel = true,
+               .TakesEvents = true},
+    ReportInfo{.Name = "analog",
+               .Description = "Frame and sample number, time and value of an analog channel",
+               .NeedsLabel = true,
+               .TakesEvents = true},
+    ReportInfo{.Name = "events",
+               .Description = "The gait events and the valid strides made of them"},
+    ReportInfo{.Name = "measures",
+               .Description = "Times, support phases, lengths and speed of every valid stride"},
+    ReportInfo{.Name = "normalized",
+               .Description = "The curves of a point at 51 instants of every valid stride",
+               .NeedsLabel = true},
+    ReportInfo{.Name = "gcd",
+               .Description = "Writes a GCD file for every valid stride and prints their names",
+               .WritesGcdFiles = true},
+    ReportInfo{.Name = "tree", .Description = "Groups, parameters and labels, two blanks a level"},
+};
+
+// The report of that name; null where there is none.
+const ReportInfo* FindReport(std::string_view name);
+
+}  // namespace reports

@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <filesystem>
+#include <regex>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <fmt/format.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "reports/ReportList.h"
+#include "tests/TestTrials.h"
+#include "tests/cli/ToolInside.h"
+
+// Whatever lists the reports, or the options of the tool, has those that there are: what is typed
+// by hand must not lag behind the list.
+namespace {
+
+using reports::ReportInfo;
+using testing::ElementsAreArray;
+using testing::HasSubstr;
+using tests::RunInside;
+
+const std::filesystem::path kRoot = VANTREL_SOURCE_DIR;
+
+std::vector<std::string> Names() {
+  std::vector<std::string> names;
+  for (const ReportInfo& report : reports::kReports) names.emplace_back(report.Name);
+  return names;
+}
+
+// All that `pattern`'s group finds in `text`.
+std::vector<std::string> Finds(const std::string& text, const std::string& pattern) {
+  const std::regex regex(pattern);
+  std::vector<std::string> found;
+  for (std::sregex_iterator next(text.begin(), text.end(), regex), end; next != end; ++next) {
+    found.push_back((*next)[1]);
+  }
+  return found;
+}
+
+// `text` between the first `start` and the `end` that follows it.
+std::string Between(const std::string& text, std::string_view start, std::string_view end) {
+  const auto from = text.find(start);
+  if (from == std::string::npos) return {};
+  const auto begin = from + start.size();
+  return text.substr(begin, text.find(end, begin) - begin);
+}
+
+std::set<std::string> OptionsOfHelp() {
+  const std::string help = RunInside({"--help"}).Out;
+  const auto options = Finds(Between(help, "\nOptions:\n", "\nReports:\n"), "\n?  .*?(--[a-z-]+)");
+  return {options.begin(), options.end()};
+}
+
+// The words of a list of the completion.
+std::vector<std::string> CompletedWords(const std::string& list) {
+  const std::string script =
+      tests::ReadWholeFile(kRoot / "packaging/completion/vantrel-report.bash");
+  return Finds(Between(script, "local " + list + "=\"", "\""), R"(([\w-]+))");
+}
+
+// A section of the man page, its dashes without their escapes.
+std::string ManSection(const std::string& name) {
+  const std::string page = tests::ReadWholeFile(kRoot / "packaging/man/vantrel-report.1");
+  return std::regex_replace(Between(page, "\n.SH " + name + "\n", "\n.SH "), std::regex(R"(\\-)"),
+                            "-");
+}
+
+// The part of the man page that describes a report.
+std::string ManOf(std::string_view report) {
+  return Between(ManSection("REPORTS") + "\n.TP\n", fmt::format(".TP\n.B {}\n", report), "\n.TP\n");
+}
+
+TEST(ReportList, NamesEachReportOnceWithALineOfItsOwn) {
+  const auto names = Names();
+  EXPECT_EQ(std::set<std::string>(names.begin(), names.end()).size(), names.size());
+  for (const ReportInfo& report : reports::kReports) {
+    EXPECT_EQ(reports::FindReport(report.Name), &report);
+    EXPECT_FALSE(report.Description.empty()) << report.Name;
+    EXPECT_EQ(report.Description.find('\n'), std::string_view::npos) << report.Name;
+  }
+  EXPECT_EQ(reports::FindReport("no such report"), nullptr);
+}
+
+TEST(ReportList, IsWhatHelpLists) {
+  const std::string help = RunInside({"--help"}).Out;
+  EXPECT_THAT(Finds(Between(help, "\nReports:", "\nExit status"), R"(\n  (\S+))"),
+              ElementsAreArray(Names()));
+  for (const ReportInfo& report : reports::kReports) {
+    EXPECT_THAT(help, HasSubstr(fmt::format("\n  {:<27} {}", report.Name, report.Description)));
+  }
+}
+
+TEST(ReportList, IsWhatARefusedReportIsAnsweredWith) {
+  EXPECT_THAT(RunInside({"nothing", "x.c3d"}).Err,
+              HasSubstr(fmt::format("; there are: {}\n", fmt::join(Names(), ", "))));
+}
+
+TEST(ReportList, SaysWhichReportsNeedALabel) {
+  for (const ReportInfo& report : reports::kReports) {
+    const auto result = RunInside({std::string(report.Name), "missing.c3d"});
+    EXPECT_EQ(result.Status, report.NeedsLabel ? 2 : 1) << result.Err;
+  }
+}
+
+TEST(ReportList, IsWhatTheCompletionOffers) {
+  EXPECT_THAT(CompletedWords("reports"), ElementsAreArray(Names()));
+}
+
+TEST(ReportList, IsWhatTheManPageDescribes) {
+  EXPECT_THAT(Finds(ManSection("REPORTS"), R"(\.TP\n\.B (\S+))"), ElementsAreArray(Names()));
+  for (const ReportInfo& report : reports::kReports) {
+    const std::string text = ManOf(report.Name);
+    EXPECT_EQ(text.find("--label") != std::string::npos, report.NeedsLabel) << report.Name;
+    EXPECT_EQ(text.find("--events") != std::string::npos, report.TakesEvents) << report.Name;
+    EXPECT_EQ(text.find("--group") != std::string::npos, report.TakesGroup) << report.Name;
+    EXPECT_EQ(text.find("--output-dir") != std::string::npos, report.WritesGcdFiles) << report.Name;
+  }
+}
+
+TEST(OptionsOfTheTool, AreWhatTheCompletionOffers) {
+  const auto offered = CompletedWords("options");
+  EXPECT_EQ(std::set<std::string>(offered.begin(), offered.end()), OptionsOfHelp());
+  EXPECT_FALSE(offered.empty());
+}
+
+TEST(OptionsOfTheTool, AreWhatTheManPageDescribes) {
+  std::set<std::string> names;
+  for (const std::string& heading : Finds(ManSection("OPTIONS"), R"(\.TP\n([^\n]*))")) {
+    for (const std::string& name : Finds(heading, "(--[a-z-]+)")) names.insert(name);
+  }
+  EXPECT_EQ(names, OptionsOfHelp());
+}
+
+}  // namespace
