@@ -2,6 +2,8 @@
 
 #include "app/MessageBoxes.h"
 
+#include <string>
+
 #include <QMessageBox>
 #include <QString>
 
@@ -24,9 +26,10 @@ void ShowMessage(QWidget* owner, std::string_view text) {
 }
 
 void ShowRuntimeError(QWidget* owner, const modAllPurpose::RuntimeError& error) {
+  const std::string about = error.About().empty() ? std::string() : "\n" + error.About();
   Show(owner, QMessageBox::Critical,
        ToQString(modAllPurpose::RuntimeErrorTitle(error)) + QStringLiteral("\n\n") +
-           ToQString(error.what()));
+           ToQString(error.what()) + ToQString(about));
 }
 
 }  // namespace app

@@ -107,7 +107,7 @@ int PrintText(std::string text) {
   } catch (const OutputClosed&) {
     // Whoever asked has seen enough.
   } catch (const modAllPurpose::RuntimeError& error) {
-    std::cerr << "vantrel-report: " << RuntimeErrorTitle(error) << ' ' << error.what() << '\n';
+    std::cerr << "vantrel-report: " << RuntimeErrorLine(error) << '\n';
     return kSomeFailed;
   }
   return kAllWell;

@@ -32,7 +32,7 @@ void Complain(const std::string& file, std::string_view message) {
 }
 
 void Complain(const std::string& file, const RuntimeError& error) {
-  Complain(file, fmt::format("{} {}", modAllPurpose::RuntimeErrorTitle(error), error.what()));
+  Complain(file, modAllPurpose::RuntimeErrorLine(error));
 }
 
 // The files that those of the command line stand for. One that cannot be told is complained about
