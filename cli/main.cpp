@@ -6,8 +6,10 @@
 #include "cli/CommandLine.h"
 #include "cli/RunReports.h"
 #include "cli/Start.h"
+#include "support/Interruption.h"
 
 int main(int argc, char* argv[]) {
+  modAllPurpose::LetInterruptionsWait();
   cli::PrepareOutput();
   auto parsed = cli::ParseCommandLine(cli::Arguments(argc, argv));
   if (const int* status = std::get_if<int>(&parsed)) return *status;
