@@ -75,7 +75,7 @@ constexpr std::array kReports = {
     ReportEntry{"events", Plain<reports::ShowStrikeOffEvents>, false},
     ReportEntry{"measures", Plain<reports::ShowSingleValueStrikeOffMeasures>, false},
     ReportEntry{"normalized", Refusing<Normalized>, true},
-    ReportEntry{"gcd", Gcd, false},
+    ReportEntry{"gcd", Gcd, false, Unwritten::LosesLines},
     ReportEntry{"tree", Plain<reports::ShowTree>, false},
 };
 

@@ -6,6 +6,7 @@
 
 #include "c3d/FileState.h"
 #include "cli/CommandLine.h"
+#include "cli/StandardOutput.h"
 #include "support/ReportOutput.h"
 
 namespace cli {
@@ -18,6 +19,7 @@ struct ReportEntry {
   std::string_view Name;
   ReportFunction Run;
   bool NeedsLabel;
+  Unwritten WhenUnwritten = Unwritten::EndsReport;
 };
 
 // The report of that name; null where there is none.

@@ -61,9 +61,7 @@ std::string OpenAndReport(const std::string& file, Request& request, StandardOut
   return FindReport(request.Report)->Run(state, request, output);
 }
 
-bool Report(const std::string& file, Request& request) {
-  const bool several = request.Files.size() > 1;
-  StandardOutput output(several ? fmt::format("==> {} <==", file) : std::string());
+bool ReportTo(StandardOutput& output, const std::string& file, Request& request) {
   try {
     std::string complaint;
     try {
@@ -83,6 +81,23 @@ bool Report(const std::string& file, Request& request) {
     Complain(file, RuntimeError(modAllPurpose::ErrorNumber::OutOfMemory));
   }
   return false;
+}
+
+// Lines that are lost are named once: their reason is that of all later ones.
+bool ComplainOfLostLines(const StandardOutput& output) {
+  static bool named = false;
+  if (!output.LostLines()) return false;
+  if (!named) Complain("standard output", *output.LostLines());
+  named = true;
+  return true;
+}
+
+bool Report(const std::string& file, Request& request) {
+  const bool several = request.Files.size() > 1;
+  StandardOutput output(several ? fmt::format("==> {} <==", file) : std::string(),
+                        FindReport(request.Report)->WhenUnwritten);
+  const bool written = ReportTo(output, file, request);
+  return !ComplainOfLostLines(output) && written;
 }
 
 }  // namespace

@@ -1,32 +1,47 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "support/ReportOutput.h"
+#include "support/RuntimeError.h"
 
 namespace cli {
 
 // Thrown when nobody reads the tool's output any more; the tool then ends without a word.
 struct OutputClosed {};
 
+// What becomes of a report that standard output cannot take: it ends, or it loses its lines and
+// goes on, since its work is something else.
+enum class Unwritten { EndsReport, LosesLines };
+
 // A report on standard output, lines ended by LF, handed over in large pieces.
 class StandardOutput : public modAllPurpose::ReportOutput {
  public:
   // `heading` is a line to put in front of the report; empty for none.
-  explicit StandardOutput(std::string heading) : heading_(std::move(heading)) {}
+  explicit StandardOutput(std::string heading, Unwritten unwritten = Unwritten::EndsReport)
+      : heading_(std::move(heading)), unwritten_(unwritten) {}
 
   void BeginReport() override;
   void AppendOutput(std::string_view text, bool paneOnly, bool continueLine) override;
 
   // Hands over what is left. An error as FileErrorFromErrno where standard output cannot take it,
-  // OutputClosed where it is a closed pipe. The other members hand over on their own and fail in
-  // the same way.
+  // OutputClosed where it is a closed pipe; neither where the report may lose its lines. The other
+  // members hand over on their own and fail in the same way.
   void Flush();
 
+  // Why the report lost lines. Nothing where it lost none, or where it was a closed pipe: nobody
+  // wanted them.
+  const std::optional<modAllPurpose::RuntimeError>& LostLines() const { return lostLines_; }
+
  private:
+  static void HandOver(const std::string& piece);
+
   std::string heading_;
+  Unwritten unwritten_;
+  std::optional<modAllPurpose::RuntimeError> lostLines_;
   std::string pending_;
 };
 

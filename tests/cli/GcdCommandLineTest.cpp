@@ -126,6 +126,21 @@ TEST(GcdCommandLine, OverwriteRefusesATrialAndChangesNothing) {
   EXPECT_TRUE(tool.Read("sample-walk-R2.gcd") == trial);
 }
 
+TEST(GcdCommandLine, ClosedPipeKeepsNoFileBack) {
+  const ToolInFolder tool;
+  tests::WholeFrameTrial().Build().WriteTo(tool / "a.c3d");
+  Put(tool, "b-L1.gcd", "old");
+  tests::WholeFrameTrial().Build().WriteTo(tool / "b.c3d");
+  const ToolResult run =
+      tests::RunTool({"gcd", "a.c3d", "b.c3d", kSampleWalk}, {.ClosedPipe = true}, tool.Path());
+  EXPECT_EQ(run.Status, 1) << "of b.c3d alone";
+  EXPECT_EQ(run.Err, Complaint("b.c3d", "b-L1.gcd exists already (--overwrite replaces it)"));
+  EXPECT_EQ(NamesIn(tool.Path()).size(), 11U);
+  EXPECT_EQ(
+      tests::RunTool({"--overwrite", "gcd", kSampleWalk}, {.ClosedPipe = true}, tool.Path()).Status,
+      0);
+}
+
 TEST(GcdCommandLine, EmptyOutputDirBehindAnEqualsSignIsTheTrialsOwnFolder) {
   const ToolInFolder tool;
   const ToolResult run = tool.Run({"--output-dir=", "gcd", kSampleWalk});
