@@ -24,9 +24,10 @@ void ShowMessage(QWidget* owner, std::string_view text) {
 }
 
 void ShowRuntimeError(QWidget* owner, const modAllPurpose::RuntimeError& error) {
-  Show(owner, QMessageBox::Critical,
-       ToQString(modAllPurpose::RuntimeErrorTitle(error)) + QStringLiteral("\n\n") +
-           ToQString(error.what()));
+  QString text = ToQString(modAllPurpose::RuntimeErrorTitle(error)) + QStringLiteral("\n\n") +
+                 ToQString(error.what());
+  if (!error.About().empty()) text += QLatin1Char('\n') + ToQString(error.About());
+  Show(owner, QMessageBox::Critical, text);
 }
 
 }  // namespace app

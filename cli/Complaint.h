@@ -7,8 +7,7 @@
 namespace cli {
 
 // Writes the line "vantrel-report: MESSAGE" to `stream`, one line whatever names the message holds:
-// they are Escaped. That nobody takes it is no error: there is
-// nothing left to say then.
+// they are Escaped. That nobody takes it is no error: there is nothing left to say then.
 void Complain(std::FILE* stream, std::string_view message);
 
 }  // namespace cli

@@ -2,56 +2,96 @@
 
 #include "cli/GcdReport.h"
 
+#include <algorithm>
 #include <vector>
 
+#include "gait/GcdCommand.h"
 #include "support/FileSystem.h"
 
 namespace cli {
 
+using modAllPurpose::OneSpelling;
 using modVantrel::FileState;
-using modVantrel::OverwriteAnswer;
+using modVantrel::GcdFiles;
 
 namespace {
 
-// Answers for the user: existing files were found, and refused or allowed, before.
-class AskedBefore : public modVantrel::OverwriteQuestion {
- public:
-  OverwriteAnswer Ask(const std::string& /*gcdFileName*/) override {
-    return OverwriteAnswer::YesToAll;
-  }
-};
+std::string ExistsAlready(const std::string& name) {
+  return name + " exists already (--overwrite replaces it)";
+}
 
-std::vector<std::string> FileNames(const FileState& state, const GcdRequest& request) {
+std::vector<std::string> FileNames(const GcdFiles& files) {
   std::vector<std::string> names;
-  for (const auto& stride : state.GaitEvents.ValidStrides) {
-    names.push_back(
-        modVantrel::GcdFileName(state.OpenC3dFileSpec, stride, request.Options.OutputFolder));
-  }
+  for (std::int32_t i = 1; i <= files.Count(); ++i) names.push_back(files.Name(i));
   return names;
 }
 
-std::string WhyRefused(const std::vector<std::string>& names, const GcdRequest& request) {
-  for (const std::string& name : names) {
-    if (request.Written.contains(modAllPurpose::OneSpelling(name))) {
-      return name + " was written for another trial of this command";
+// Writes the GCD files of one trial of the command.
+class GcdRun {
+ public:
+  GcdRun(const FileState& state, GcdRequest& request, modAllPurpose::ReportOutput& output)
+      : files_(state, request.Options),
+        names_(FileNames(files_)),
+        trial_(OneSpelling(state.OpenC3dFileSpec)),
+        request_(request),
+        output_(output) {}
+
+  std::string WhyRefused() const {
+    if (names_.empty()) return std::string(modVantrel::kNoValidStrides);
+    if (std::ranges::all_of(names_,
+                            [this](const auto& name) { return WriterOf(name) == trial_; })) {
+      return "this trial is named twice, its GCD files are written";
     }
-    if (!request.Overwrite && modAllPurpose::FileExists(name)) {
-      return name + " exists already (--overwrite replaces it)";
+    for (const std::string& name : names_) {
+      const std::string writer = WriterOf(name);
+      if (!writer.empty() && writer != trial_) {
+        return name + " was written for another trial of this command";
+      }
+      if (!request_.Overwrite && modAllPurpose::IsNameTaken(name)) return ExistsAlready(name);
     }
+    return {};
   }
-  return {};
-}
+
+  std::string Write() {
+    if (request_.Overwrite) {
+      output_.BeginReport();
+      files_.ReplaceAll([this](const std::string& name) { Tell(name); });
+    } else {
+      const std::string taken = files_.WriteAllWhereFree();
+      if (!taken.empty()) return ExistsAlready(taken);
+      output_.BeginReport();
+      for (const std::string& name : names_) Tell(name);
+    }
+    output_.AppendOutput("Done.", true, false);
+    return {};
+  }
+
+ private:
+  // The trial of this command that a file was written for; empty for none.
+  std::string WriterOf(const std::string& name) const {
+    const auto found = request_.Written.find(OneSpelling(name));
+    return found == request_.Written.end() ? std::string() : found->second;
+  }
+
+  void Tell(const std::string& name) {
+    request_.Written[OneSpelling(name)] = trial_;
+    output_.AppendOutput("Output: " + name, true, false);
+  }
+
+  GcdFiles files_;
+  std::vector<std::string> names_;
+  std::string trial_;
+  GcdRequest& request_;
+  modAllPurpose::ReportOutput& output_;
+};
 
 }  // namespace
 
 std::string WriteGcdReport(const FileState& state, GcdRequest& request,
                            modAllPurpose::ReportOutput& output) {
-  const std::vector<std::string> names = FileNames(state, request);
-  std::string refusal = WhyRefused(names, request);
-  if (!refusal.empty()) return refusal;
-  for (const std::string& name : names) request.Written.insert(modAllPurpose::OneSpelling(name));
-  AskedBefore question;
-  return modVantrel::WriteGcdFiles(state, request.Options, question, output).Text();
+  GcdRun run(state, request, output);
+  std::string refusal = run.WhyRefused();
+  return refusal.empty() ? run.Write() : refusal;
 }
 
 }  // namespace cli

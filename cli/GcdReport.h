@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <set>
+#include <map>
 #include <string>
 
 #include "c3d/FileState.h"
-#include "gait/GcdCommand.h"
+#include "gait/GcdFiles.h"
 #include "support/ReportOutput.h"
 
 namespace cli {
@@ -14,12 +14,14 @@ namespace cli {
 struct GcdRequest {
   modVantrel::GcdOptions Options;
   bool Overwrite = false;
-  std::set<std::string> Written;
+  // The trial of each file, both as OneSpelling.
+  std::map<std::string, std::string> Written;
 };
 
-// Writes the GCD files of one trial and prints their names. Refuses, before anything is written,
-// where one of them exists and may not be replaced, or was written for another trial of the same
-// command; returns why, or nothing.
+// Writes the GCD files of one trial and prints their names. Without Overwrite all of them or none;
+// with it one after the other, and an error names those that were written before it. Answers why
+// they are refused, before anything is written, or nothing: one of them exists and may not be
+// replaced, or was written for another trial of this command, or all were, for this trial.
 std::string WriteGcdReport(const modVantrel::FileState& state, GcdRequest& request,
                            modAllPurpose::ReportOutput& output);
 

@@ -18,6 +18,7 @@
 #include "cli/Start.h"
 #include "cli/Tool.h"
 #include "gait/EventExtraction.h"
+#include "reports/ReportList.h"
 #include "support/ReportOutput.h"
 #include "support/RuntimeError.h"
 
@@ -35,15 +36,12 @@ void ComplainOf(const std::string& file, std::string_view message, const Streams
 // What `work` answers, or the message of the error that ended it. OutputClosed passes.
 template <typename Work>
 std::string MessageOf(Work work) {
-  const auto message = [](const RuntimeError& error) {
-    return fmt::format("{} {}", modAllPurpose::RuntimeErrorTitle(error), error.what());
-  };
   try {
     return work();
   } catch (const RuntimeError& error) {
-    return message(error);
+    return modAllPurpose::RuntimeErrorLine(error);
   } catch (const std::bad_alloc&) {
-    return message(RuntimeError(modAllPurpose::ErrorNumber::OutOfMemory));
+    return modAllPurpose::RuntimeErrorLine(RuntimeError(modAllPurpose::ErrorNumber::OutOfMemory));
   }
 }
 
@@ -75,30 +73,56 @@ std::string OpenAndReport(const std::string& file, Request& request, ReportOutpu
   return FunctionOf(request.Report)(state, request, output);
 }
 
-// The same on the output stream. What a report had written before an error is printed; where it
-// cannot be, that is the message.
-std::string PrintReport(const std::string& file, Request& request, const Streams& streams) {
-  const bool several = request.Files.size() > 1;
-  StandardOutput output(streams.Output, several ? fmt::format("==> {} <==", file) : std::string());
-  const std::string complaint = MessageOf([&] { return OpenAndReport(file, request, output); });
-  const std::string lost = MessageOf([&] {
-    output.Flush();
-    return std::string();
-  });
-  return lost.empty() ? complaint : lost;
-}
+// Prints the reports of one command.
+class ReportRun {
+ public:
+  ReportRun(Request& request, const Streams& streams)
+      : request_(request),
+        streams_(streams),
+        several_(request.Files.size() > 1),
+        unwritten_(reports::FindReport(request.Report)->WritesGcdFiles ? Unwritten::LosesLines
+                                                                       : Unwritten::EndsReport) {}
+
+  // False where something of the file's report failed, which then is named.
+  bool Print(const std::string& file) {
+    StandardOutput output(streams_.Output,
+                          several_ ? fmt::format("==> {} <==", file) : std::string(), unwritten_);
+    const std::string complaint = MessageOf([&] { return OpenAndReport(file, request_, output); });
+    // What a report had written before an error stands; where it cannot, that is the message.
+    const std::string lost = MessageOf([&] {
+      output.Flush();
+      return std::string();
+    });
+    const std::string& failure = lost.empty() ? complaint : lost;
+    if (!failure.empty()) ComplainOf(file, failure, streams_);
+    if (output.LostLines()) ComplainOfLostLines(*output.LostLines());
+    return failure.empty() && !output.LostLines();
+  }
+
+ private:
+  // Lines that are lost are named once: their reason is that of all later ones.
+  void ComplainOfLostLines(const RuntimeError& reason) {
+    if (lostLinesNamed_) return;
+    ComplainOf("standard output", modAllPurpose::RuntimeErrorLine(reason), streams_);
+    lostLinesNamed_ = true;
+  }
+
+  Request& request_;
+  const Streams& streams_;
+  bool several_;
+  Unwritten unwritten_;
+  bool lostLinesNamed_ = false;
+};
 
 }  // namespace
 
 int RunReports(Request request, const Streams& streams) {
   int status = kAllWell;
   request.Files = FilesToRead(request.Files, streams, status);
+  ReportRun run(request, streams);
   try {
     for (const std::string& file : request.Files) {
-      const std::string complaint = PrintReport(file, request, streams);
-      if (complaint.empty()) continue;
-      ComplainOf(file, complaint, streams);
-      status = kSomeFailed;
+      if (!run.Print(file)) status = kSomeFailed;
     }
   } catch (const OutputClosed&) {
     // Whoever read the output has seen enough.

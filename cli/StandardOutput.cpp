@@ -28,6 +28,17 @@ void StandardOutput::AppendOutput(std::string_view text, bool /*paneOnly*/, bool
 void StandardOutput::Flush() {
   std::string piece;
   piece.swap(pending_);
+  try {
+    HandOver(piece);
+  } catch (const OutputClosed&) {
+    if (unwritten_ == Unwritten::EndsReport) throw;
+  } catch (const modAllPurpose::RuntimeError& error) {
+    if (unwritten_ == Unwritten::EndsReport) throw;
+    lostLines_ = error;
+  }
+}
+
+void StandardOutput::HandOver(const std::string& piece) {
   ForgetErrors();
   const bool written = std::fwrite(piece.data(), 1, piece.size(), stream_) == piece.size() &&
                        std::fflush(stream_) == 0;

@@ -5,8 +5,6 @@
 #include <utility>
 #include <variant>
 
-#include <fmt/format.h>
-
 #include "cli/CommandLine.h"
 #include "cli/Complaint.h"
 #include "cli/RunReports.h"
@@ -26,7 +24,7 @@ int Print(const AskedText& asked, const Streams& streams) {
   } catch (const OutputClosed&) {
     // Whoever asked has seen enough.
   } catch (const modAllPurpose::RuntimeError& error) {
-    Complain(streams.Error, fmt::format("{} {}", RuntimeErrorTitle(error), error.what()));
+    Complain(streams.Error, RuntimeErrorLine(error));
     return kSomeFailed;
   }
   return kAllWell;

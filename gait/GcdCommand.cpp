@@ -2,21 +2,17 @@
 
 #include "gait/GcdCommand.h"
 
-#include <cstddef>
-#include <filesystem>
-
-#include <fmt/format.h>
-
-#include "gait/EventNames.h"
-#include "gait/GcdCalcs.h"
-#include "gait/GcdText.h"
 #include "support/FileSystem.h"
-#include "support/Text.h"
+#include "support/RuntimeError.h"
 
 namespace modVantrel {
 
+using modAllPurpose::ErrorNumber;
+using modAllPurpose::IsFolder;
+using modAllPurpose::IsNameTaken;
 using modAllPurpose::ReportOutput;
 using modAllPurpose::ReportResult;
+using modAllPurpose::RuntimeError;
 
 namespace {
 
@@ -24,60 +20,45 @@ namespace {
 class GcdWriter {
  public:
   GcdWriter(const FileState& state, const GcdOptions& options, OverwriteQuestion& question)
-      : state_(state),
-        outputFolder_(options.OutputFolder),
-        subject_(FindSubject(state, options.Subject)),
-        question_(question),
-        calcs_(state) {}
+      : files_(state, options), question_(question) {}
 
   // Writes the file of a stride and returns its name; empty where the user cancelled.
   std::string WriteGcdFileForStride(std::int32_t strideIndex) {
-    const StrideRecord& stride = state_.GaitEvents.ValidStrides[strideIndex];
-    std::string name = GcdFileName(state_.OpenC3dFileSpec, stride, outputFolder_);
-    if (!MayWrite(name)) return {};
-    WriteGcdFile(name, strideIndex);
+    const std::string name = files_.Name(strideIndex);
+    while (!MayReplace(name)) {
+      if (cancelled_) return {};
+      if (files_.WriteWhereFree(strideIndex)) return name;
+      // What has come up meanwhile is asked about, a folder aside, which no answer can replace.
+      if (!IsFolder(name)) continue;
+      throw RuntimeError(ErrorNumber::PathFileAccessError, name + " is a folder");
+    }
+    files_.Replace(strideIndex);
     return name;
   }
 
  private:
-  bool MayWrite(const std::string& name) {
-    if (yesToAll_ || !modAllPurpose::FileExists(name)) return true;
+  // Whether the user said so of this file or of all.
+  bool MayReplace(const std::string& name) {
+    if (yesToAll_) return true;
+    if (!IsNameTaken(name) || IsFolder(name)) return false;
     const OverwriteAnswer answer = question_.Ask(name);
     yesToAll_ = answer == OverwriteAnswer::YesToAll;
-    return answer != OverwriteAnswer::Cancel;
+    cancelled_ = answer == OverwriteAnswer::Cancel;
+    return !cancelled_;
   }
 
-  void WriteGcdFile(const std::string& name, std::int32_t strideIndex) {
-    modAllPurpose::WriteFileInOneStep(name, GcdText(calcs_, strideIndex, subject_));
-  }
-
-  const FileState& state_;
-  std::string outputFolder_;
-  SubjectRecord subject_;
+  GcdFiles files_;
   OverwriteQuestion& question_;
-  clsGcdCalcs calcs_;
   bool yesToAll_ = false;
+  bool cancelled_ = false;
 };
 
 }  // namespace
 
-std::string GcdFileName(const std::string& trial, const StrideRecord& stride,
-                        const std::string& outputFolder) {
-  std::string name = fmt::format("{}-{}{}.gcd", modAllPurpose::WithoutExtension(trial),
-                                 SideName(stride.Side).front(), stride.Number);
-  if (outputFolder.empty()) return name;
-  // Windows takes two separators; the folder goes on with the one that it is written with.
-  constexpr char kSeparator = std::filesystem::path::preferred_separator;
-  const bool ended = outputFolder.back() == '/' || outputFolder.back() == kSeparator;
-  const char separator = outputFolder.find(kSeparator) == std::string::npos ? '/' : kSeparator;
-  const auto fileName = modAllPurpose::NativePath(name).filename();
-  return (ended ? outputFolder : outputFolder + separator) + modAllPurpose::Utf8Path(fileName);
-}
-
 ReportResult WriteGcdFiles(const FileState& state, const GcdOptions& options,
                            OverwriteQuestion& question, ReportOutput& output) {
   if (state.GaitEvents.ValidStrideCount == 0) {
-    return ReportResult::Rejected("No valid stride events were found.");
+    return ReportResult::Rejected(std::string(kNoValidStrides));
   }
   output.BeginReport();
   GcdWriter writer(state, options, question);

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "c3d/FileState.h"
-#include "gait/SubjectRecord.h"
+#include "gait/GcdFiles.h"
 #include "support/ReportOutput.h"
 
 namespace modVantrel {
@@ -24,21 +24,13 @@ class OverwriteQuestion {
   virtual OverwriteAnswer Ask(const std::string& gcdFileName) = 0;
 };
 
-struct GcdOptions {
-  // The folder for the files; empty for that of the trial.
-  std::string OutputFolder;
-  SubjectOptions Subject;
-};
+// What is said of a trial for which there is no GCD file to write.
+inline constexpr std::string_view kNoValidStrides = "No valid stride events were found.";
 
-// The trial's path without its last four characters, then "-", the side's letter, the stride's
-// number and ".gcd"; in `outputFolder` where that is not empty.
-std::string GcdFileName(const std::string& trial, const StrideRecord& stride,
-                        const std::string& outputFolder);
-
-// Writes one GCD file for each valid stride and names each in a line of `output`, then "Done.".
-// Asks before overwriting until the answer is Yes to All; Cancel ends the command with "Cancelled."
-// and keeps the files written so far. Rejected with "No valid stride events were found.". Each file
-// is made whole before an old one is touched. Errors as clsGcdCalcs and WriteFileInOneStep.
+// Writes one GCD file for each valid stride, one after the other, and names each in a line of
+// `output`, then "Done.". Asks before overwriting, also where a file comes up between the question
+// and the writing, until the answer is Yes to All; Cancel ends the command with "Cancelled." and
+// keeps the files written so far. Rejected with kNoValidStrides. Errors as GcdFiles.
 modAllPurpose::ReportResult WriteGcdFiles(const FileState& state, const GcdOptions& options,
                                           OverwriteQuestion& question,
                                           modAllPurpose::ReportOutput& output);

@@ -4,28 +4,15 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <random>
-#include <system_error>
 #include <utility>
 
-#include <fmt/format.h>
-
+#include "support/FileInWaiting.h"
 #include "support/RuntimeError.h"
 #include "support/SystemFiles.h"
 
 namespace modAllPurpose {
 
 namespace {
-
-// Whether `path` is there. Replacing a file needs no right to write it, so that right is asked for
-// here.
-bool ExistsAndMayBeWritten(const std::filesystem::path& path) {
-  std::FILE* file = systemFiles::OpenToChange(path);
-  if (file == nullptr && errno != ENOENT) throw FileErrorFromErrno(errno);
-  if (file == nullptr) return false;
-  std::fclose(file);
-  return true;
-}
 
 // A file that is being made, removed again unless it is kept.
 class NewFile {
@@ -45,8 +32,6 @@ class NewFile {
     if (!path_.empty()) systemFiles::DeleteIfPossible(path_);
   }
 
-  const std::filesystem::path& Path() const { return path_; }
-
   // Writes all that the file is to hold.
   void Write(std::span<const std::byte> bytes) {
     errno = 0;
@@ -60,13 +45,6 @@ class NewFile {
 
   void Keep() { path_.clear(); }
 
-  void TakePlaceOf(const std::filesystem::path& target) {
-    std::error_code failure;
-    std::filesystem::rename(path_, target, failure);
-    if (failure) throw FileErrorFromCode(failure);
-    Keep();
-  }
-
  private:
   std::filesystem::path path_;
   std::FILE* file_;
@@ -78,37 +56,38 @@ NewFile MakeFile(const std::filesystem::path& path) {
   return {path, file, systemError};
 }
 
-// A file of a new name in `folder`.
-NewFile MakeTemporaryFile(const std::filesystem::path& folder) {
-  constexpr int kAttempts = 100;
-  std::random_device random;
-  std::filesystem::path path;
-  std::FILE* file = nullptr;
-  int systemError = EEXIST;
-  for (int i = 0; i < kAttempts && file == nullptr && systemError == EEXIST; ++i) {
-    path = folder / fmt::format(".vantrel-{:08x}.tmp", random());
-    file = systemFiles::CreateNew(path);
-    systemError = errno;
-  }
-  return {path, file, systemError};
-}
+#ifdef _WIN32
+constexpr std::string_view kSeparators = R"(/\:)";
+#else
+constexpr std::string_view kSeparators = "/";
+#endif
 
 }  // namespace
+
+std::string_view OwnName(std::string_view path) {
+  return path.substr(path.find_last_of(kSeparators) + 1);
+}
+
+std::string_view FolderPart(std::string_view path) {
+  return path.substr(0, path.find_last_of(kSeparators) + 1);
+}
+
+std::string_view FolderOf(std::string_view path) {
+  const std::string_view part = FolderPart(path);
+  const std::string_view withoutEnd = part.substr(0, part.empty() ? 0 : part.size() - 1);
+  if (part.empty()) return ".";
+  return withoutEnd.empty() || withoutEnd.ends_with(':') || part.ends_with(':') ? part : withoutEnd;
+}
+
+bool IsSameFile(const std::string& path, const std::string& other) {
+  const auto identity = IdentityOf(NativePath(path));
+  return identity && identity == IdentityOf(NativePath(other));
+}
 
 void WriteNewFile(const std::string& path, std::span<const std::byte> bytes) {
   NewFile file = MakeFile(NativePath(path));
   file.Write(bytes);
   file.Keep();
-}
-
-void WriteFileInOneStep(const std::string& path, std::string_view text) {
-  std::filesystem::path target = NativePath(path);
-  const bool exists = ExistsAndMayBeWritten(target);
-  if (exists) target = systemFiles::WithoutLinks(target);
-  NewFile temporary = MakeTemporaryFile(target.parent_path());
-  temporary.Write(std::as_bytes(std::span(text)));
-  if (exists) systemFiles::CopyRights(target, temporary.Path());
-  temporary.TakePlaceOf(target);
 }
 
 }  // namespace modAllPurpose

@@ -17,8 +17,28 @@ std::filesystem::path NativePath(const std::string& utf8Path);
 // and so has no such form.
 std::string Utf8Path(const std::filesystem::path& nativePath);
 
+// The last name of `path`, behind its folder, and the folder as it is written: with its separator,
+// or empty where the path names none.
+std::string_view OwnName(std::string_view path);
+std::string_view FolderPart(std::string_view path);
+
+// The folder of `path` without a separator at its end, that of a root aside; "." for none.
+std::string_view FolderOf(std::string_view path);
+
 // True when `path` exists and is not a folder; false for a folder, and whenever asking fails.
 bool FileExists(const std::string& path);
+
+// True when `path` leads, through all of its links, to a folder.
+bool IsFolder(const std::string& path);
+
+// True when anything has the name `path`: also a folder, and a link that leads nowhere.
+bool IsNameTaken(const std::string& path);
+
+// True when `path` leads, through all of its links, to a file that is no folder, pipe or device.
+bool IsRegularFile(const std::string& path);
+
+// True when both paths lead to one file, be it under two names of its own.
+bool IsSameFile(const std::string& path, const std::string& other);
 
 // One spelling for each file, whatever way its path is written, whether the file exists or not:
 // whole, without "." and "..", with links followed on a POSIX system and in one case on Windows.
@@ -33,11 +53,5 @@ void RemoveFile(const std::string& path);
 // it is; 57, 61, 70, 75 and, for a missing folder, 76 where the file cannot be made, and then
 // nothing of it is left.
 void WriteNewFile(const std::string& path, std::span<const std::byte> bytes);
-
-// Gives the file at `path` the contents `text`. They are written to a new file in the same folder,
-// which then takes the old one's place in one step: whatever fails, an existing file stays as it
-// was and nothing is left beside it. A file that may not be written is not replaced; on a POSIX
-// system a symbolic link is followed. Errors 57, 61, 70, 75 and, for a missing folder, 76.
-void WriteFileInOneStep(const std::string& path, std::string_view text);
 
 }  // namespace modAllPurpose

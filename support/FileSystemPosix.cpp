@@ -22,6 +22,21 @@ bool FileExists(const std::string& path) {
   return !failure && fs::exists(status) && !fs::is_directory(status);
 }
 
+bool IsFolder(const std::string& path) {
+  std::error_code failure;
+  return fs::is_directory(path, failure);
+}
+
+bool IsNameTaken(const std::string& path) {
+  std::error_code failure;
+  return fs::exists(fs::symlink_status(path, failure));
+}
+
+bool IsRegularFile(const std::string& path) {
+  std::error_code failure;
+  return fs::is_regular_file(path, failure);
+}
+
 std::string OneSpelling(const std::string& path) {
   std::error_code failure;
   const fs::path whole = fs::weakly_canonical(path, failure);
@@ -36,22 +51,7 @@ namespace systemFiles {
 
 std::FILE* CreateNew(const fs::path& path) { return std::fopen(path.c_str(), "wbx"); }
 
-std::FILE* OpenToChange(const fs::path& path) { return std::fopen(path.c_str(), "r+b"); }
-
 void DeleteIfPossible(const fs::path& path) noexcept { ::unlink(path.c_str()); }
-
-fs::path WithoutLinks(const fs::path& path) {
-  std::error_code failure;
-  if (!fs::is_symlink(path, failure)) return path;
-  fs::path target = fs::canonical(path, failure);
-  if (failure) throw FileErrorFromCode(failure);
-  return target;
-}
-
-void CopyRights(const fs::path& pattern, const fs::path& file) {
-  std::error_code ignored;
-  fs::permissions(file, fs::status(pattern, ignored).permissions(), ignored);
-}
 
 }  // namespace systemFiles
 

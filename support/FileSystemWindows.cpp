@@ -8,6 +8,7 @@
 #include <windows.h>
 
 #include "support/FileSystem.h"
+#include "support/RandomAccessFile.h"
 #include "support/SystemFiles.h"
 #include "support/WindowsError.h"
 
@@ -28,6 +29,13 @@ Text Converted(bool isEmpty, Convert&& convert) {
   if (text.empty()) throw RuntimeError(ErrorNumber::PathFileAccessError);
   convert(text.data(), static_cast<int>(text.size()));
   return text;
+}
+
+// INVALID_FILE_ATTRIBUTES where there is nothing of that name or asking fails.
+DWORD AttributesOf(const std::string& path) {
+  DWORD attributes = INVALID_FILE_ATTRIBUTES;
+  IgnoringErrors([&] { attributes = ::GetFileAttributesW(NativePath(path).c_str()); });
+  return attributes;
 }
 
 }  // namespace
@@ -52,9 +60,20 @@ std::string Utf8Path(const fs::path& nativePath) {
 }
 
 bool FileExists(const std::string& path) {
-  DWORD attributes = INVALID_FILE_ATTRIBUTES;
-  IgnoringErrors([&] { attributes = ::GetFileAttributesW(NativePath(path).c_str()); });
+  const DWORD attributes = AttributesOf(path);
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+}
+
+bool IsFolder(const std::string& path) {
+  const DWORD attributes = AttributesOf(path);
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+bool IsNameTaken(const std::string& path) { return AttributesOf(path) != INVALID_FILE_ATTRIBUTES; }
+
+bool IsRegularFile(const std::string& path) {
+  RandomAccessFile file;
+  return FileExists(path) && IgnoringErrors([&] { file.Open(path); });
 }
 
 std::string OneSpelling(const std::string& path) {
@@ -96,15 +115,7 @@ std::FILE* CreateNew(const fs::path& path) {
   return nullptr;
 }
 
-std::FILE* OpenToChange(const fs::path& path) { return ::_wfopen(path.c_str(), L"r+b"); }
-
 void DeleteIfPossible(const fs::path& path) noexcept { ::DeleteFileW(path.c_str()); }
-
-// The library sees no links on this system: one is replaced.
-fs::path WithoutLinks(const fs::path& path) { return path; }
-
-// Of a file that may be written there are none to copy.
-void CopyRights(const fs::path& /*pattern*/, const fs::path& /*file*/) {}
 
 }  // namespace systemFiles
 

@@ -68,6 +68,11 @@ std::string RuntimeErrorTitle(const RuntimeError& error) {
   return fmt::format("Run-time error '{}':", static_cast<int>(error.Number()));
 }
 
+std::string RuntimeErrorLine(const RuntimeError& error) {
+  const std::string line = fmt::format("{} {}", RuntimeErrorTitle(error), error.what());
+  return error.About().empty() ? line : fmt::format("{}: {}", line, error.About());
+}
+
 RuntimeError FileErrorFromErrno(int systemError) {
   switch (systemError) {
     case ENOENT:

@@ -2,8 +2,10 @@
 #pragma once
 
 #include <exception>
+#include <memory>
 #include <string>
 #include <system_error>
+#include <utility>
 
 namespace modAllPurpose {
 
@@ -29,18 +31,29 @@ enum class ErrorNumber {
 class RuntimeError : public std::exception {
  public:
   explicit RuntimeError(ErrorNumber number) noexcept : number_(number) {}
+  // `about` says what the error is about: the path of a file or folder, or a sentence on it.
+  RuntimeError(ErrorNumber number, std::string about)
+      : number_(number), about_(std::make_shared<const std::string>(std::move(about))) {}
 
   ErrorNumber Number() const noexcept { return number_; }
 
   // The description alone, for example "Subscript out of range".
   const char* what() const noexcept override;
 
+  // What the error is about; empty where that is not known.
+  std::string About() const { return about_ ? *about_ : std::string(); }
+
  private:
   ErrorNumber number_;
+  std::shared_ptr<const std::string> about_;  // a copy of an error must not fail
 };
 
 // "Run-time error '9':", the first line of every message about an error.
 std::string RuntimeErrorTitle(const RuntimeError& error);
+
+// All that is known of an error in one line: title, description and, where it is known, what it is
+// about: "Run-time error '76': Path not found: /missing".
+std::string RuntimeErrorLine(const RuntimeError& error);
 
 // The error for an errno value that making, opening, writing or renaming a file left behind.
 RuntimeError FileErrorFromErrno(int systemError);

@@ -171,8 +171,8 @@ TEST_F(FormGcd, AFileThatCannotBeWrittenEndsTheProgramWithItsError) {
   Click("cmdWriteGcdFiles");
   ASSERT_EQ(boxes_.Seen().size(), 1U);
   EXPECT_EQ(boxes_.Seen()[0].Icon, QMessageBox::Critical);
-  EXPECT_EQ(boxes_.Seen()[0].Text,
-            QStringLiteral("Run-time error '75':\n\nPath/File access error"));
+  EXPECT_EQ(boxes_.Seen()[0].Text.toStdString(),
+            "Run-time error '75':\n\nPath/File access error\n" + Gcd("L2") + " is a folder");
   EXPECT_EQ(PaneText(), Outputs({"L1", "R1"}));
   EXPECT_EQ(form_.ExitStatus(), 1);
 }

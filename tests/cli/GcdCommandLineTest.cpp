@@ -49,7 +49,7 @@ TEST(GcdCommandLine, MissingOutputDirIsAnErrorOfEachFile) {
   const ToolInFolder tool;
   const ToolResult run = tool.Run({"--output-dir", "missing", "gcd", kSampleWalk});
   EXPECT_EQ(run.Status, 1);
-  EXPECT_EQ(run.Err, Complaint(kSampleWalk, "Run-time error '76': Path not found"));
+  EXPECT_EQ(run.Err, Complaint(kSampleWalk, "Run-time error '76': Path not found: missing"));
   EXPECT_EQ(NamesIn(tool.Path()), std::vector<std::string>{kSampleWalk});
 }
 
@@ -78,6 +78,67 @@ TEST(GcdCommandLine, TwoTrialsOfOneNameDoNotTakeEachOthersFiles) {
       run.Err,
       Complaint(other, "out/sample-walk-L1.gcd was written for another trial of this command"));
   EXPECT_EQ(NamesIn(tool / "out").size(), 6U);
+}
+
+TEST(GcdCommandLine, TrialNamedTwiceIsSaidToBe) {
+  const ToolInFolder tool;
+  const std::string again = std::string("./") + kSampleWalk;
+  for (const std::vector<std::string>& options :
+       {std::vector<std::string>{}, std::vector<std::string>{"--overwrite"}}) {
+    std::vector<std::string> arguments = options;
+    arguments.insert(arguments.end(), {"gcd", kSampleWalk, again});
+    const ToolResult run = tool.Run(arguments);
+    EXPECT_EQ(run.Status, 1);
+    EXPECT_EQ(run.Err, Complaint(again, "this trial is named twice, its GCD files are written"));
+    for (const std::string& name : NamesIn(tool.Path())) {
+      if (name.ends_with(".gcd")) std::filesystem::remove(tool / name);
+    }
+  }
+}
+
+TEST(GcdCommandLine, WhatWasNotWrittenIsNotSaidToBe) {
+  const ToolInFolder tool;
+  const ToolResult run = tool.Run({"--output-dir", "missing", "gcd", kSampleWalk, kSampleWalk});
+  EXPECT_EQ(run.Status, 1);
+  const std::string line = Complaint(kSampleWalk, "Run-time error '76': Path not found: missing");
+  EXPECT_EQ(run.Err, line + line);
+}
+
+TEST(GcdCommandLine, TrialOfAShortNameIsWrittenIntoItsOwnFolder) {
+  const ToolInFolder tool;
+  std::filesystem::create_directory(tool / "sub");
+  tests::WholeFrameTrial().Build().WriteTo(tool / "sub" / "abc");
+  const ToolResult run = tool.Run({"gcd", "sub/abc"});
+  EXPECT_EQ(run.Out, "Output: sub/abc-L1.gcd\nDone.\n");
+  EXPECT_EQ(NamesIn(tool / "sub"), (std::vector<std::string>{"abc", "abc-L1.gcd"}));
+}
+
+TEST(GcdCommandLine, OverwriteRefusesATrialAndChangesNothing) {
+  const ToolInFolder tool;
+  std::filesystem::create_hard_link(tool / kSampleWalk, tool / "sample-walk-R2.gcd");
+  const std::string trial = tool.Read(kSampleWalk);
+  const ToolResult run = tool.Run({"--overwrite", "gcd", kSampleWalk});
+  EXPECT_EQ(run.Status, 1);
+  EXPECT_EQ(run.Err, Complaint(kSampleWalk,
+                               "Run-time error '75': Path/File access error: sample-walk-R2.gcd is "
+                               "a C3D file"));
+  EXPECT_EQ(NamesIn(tool.Path()).size(), 2U);
+  EXPECT_TRUE(tool.Read("sample-walk-R2.gcd") == trial);
+}
+
+TEST(GcdCommandLine, ClosedPipeKeepsNoFileBack) {
+  const ToolInFolder tool;
+  tests::WholeFrameTrial().Build().WriteTo(tool / "a.c3d");
+  Put(tool, "b-L1.gcd", "old");
+  tests::WholeFrameTrial().Build().WriteTo(tool / "b.c3d");
+  const ToolResult run =
+      tests::RunTool({"gcd", "a.c3d", "b.c3d", kSampleWalk}, {.ClosedPipe = true}, tool.Path());
+  EXPECT_EQ(run.Status, 1) << "of b.c3d alone";
+  EXPECT_EQ(run.Err, Complaint("b.c3d", "b-L1.gcd exists already (--overwrite replaces it)"));
+  EXPECT_EQ(NamesIn(tool.Path()).size(), 11U);
+  EXPECT_EQ(
+      tests::RunTool({"--overwrite", "gcd", kSampleWalk}, {.ClosedPipe = true}, tool.Path()).Status,
+      0);
 }
 
 TEST(GcdCommandLine, WrongUsageWritesNothing) {

@@ -13,6 +13,7 @@
 #include "gait/GcdCommand.h"
 #include "gait/GcdText.h"
 #include "support/FileSystem.h"
+#include "support/RuntimeError.h"
 #include "tests/GaitTrials.h"
 
 namespace {
@@ -61,7 +62,7 @@ sample::Trial ThreeStrides() {
   return builder.Build();
 }
 
-class GcdFiles : public testing::Test {
+class GcdFilesTest : public testing::Test {
  protected:
   std::string Path(const std::string& name) const { return (walk_.Folder() / name).string(); }
   void Put(const std::string& name, const std::string& text) const {
@@ -80,6 +81,16 @@ class GcdFiles : public testing::Test {
     return output.Text();
   }
 
+  // The line of the error that the command ends in with those answers.
+  std::string ErrorLineOfWriting(std::deque<OverwriteAnswer> answers) {
+    try {
+      Write(std::move(answers));
+      return {};
+    } catch (const modAllPurpose::RuntimeError& error) {
+      return RuntimeErrorLine(error);
+    }
+  }
+
   OpenedWalk walk_{ThreeStrides(), FindGaitEvents, "walk.c3d"};
   std::vector<std::string> asked_;
 };
@@ -88,7 +99,24 @@ TEST(GcdFileName, EndsInSideLetterAndNumber) {
   EXPECT_EQ(GcdFileName("D:\\gait\\walk03.c3d", {GaitSide::Left, 2}, ""),
             "D:\\gait\\walk03-L2.gcd");
   EXPECT_EQ(GcdFileName("/gait/walk03.C3D", {GaitSide::Right, 1}, ""), "/gait/walk03-R1.gcd");
-  EXPECT_EQ(GcdFileName("walk", {GaitSide::None, 12}, ""), "-N12.gcd") << "four characters are cut";
+  EXPECT_EQ(GcdFileName("walks", {GaitSide::None, 12}, ""), "w-N12.gcd")
+      << "four characters are cut";
+}
+
+TEST(GcdFileName, KeepsANameOfFourCharactersOrFewerAndNeverLeavesTheFolder) {
+  EXPECT_EQ(GcdFileName("walk", {GaitSide::None, 12}, ""), "walk-N12.gcd");
+  EXPECT_EQ(GcdFileName("sub/abc", {GaitSide::Left, 1}, ""), "sub/abc-L1.gcd");
+  EXPECT_EQ(GcdFileName("sub/.c3d", {GaitSide::Left, 1}, ""), "sub/.c3d-L1.gcd");
+  EXPECT_EQ(GcdFileName("/a", {GaitSide::Right, 2}, ""), "/a-R2.gcd");
+  EXPECT_EQ(GcdFileName("sub/abc", {GaitSide::Left, 1}, "out"), "out/abc-L1.gcd");
+  EXPECT_EQ(GcdFileName("sub/\xC3\xA4\xC3\xB6\xC3\xBC\xC3\x9F", {GaitSide::Left, 1}, ""),
+            "sub/\xC3\xA4\xC3\xB6\xC3\xBC\xC3\x9F-L1.gcd")
+      << "four characters of two bytes each";
+#ifdef _WIN32
+  EXPECT_EQ(GcdFileName("sub\\abc", {GaitSide::Left, 1}, ""), "sub\\abc-L1.gcd");
+  EXPECT_EQ(GcdFileName("D:abc", {GaitSide::Left, 1}, ""), "D:abc-L1.gcd");
+  EXPECT_EQ(GcdFileName("sub\\abc", {GaitSide::Left, 1}, "out\\x"), "out\\x\\abc-L1.gcd");
+#endif
 }
 
 TEST(GcdFileName, CutsFourCharactersOfAUtf8Path) {
@@ -103,7 +131,7 @@ TEST(GcdFileName, OutputFolderReplacesTheTrialsOwn) {
   EXPECT_EQ(GcdFileName("walk03.c3d", {GaitSide::Left, 1}, "out/"), "out/walk03-L1.gcd");
 }
 
-TEST_F(GcdFiles, OneForEachStrideIsWrittenBesideTheTrial) {
+TEST_F(GcdFilesTest, OneForEachStrideIsWrittenBesideTheTrial) {
   EXPECT_EQ(Write({}), "Output: " + Path("walk-L1.gcd") + "\nOutput: " + Path("walk-R1.gcd") +
                            "\nOutput: " + Path("walk-L2.gcd") + "\nDone.\n");
   EXPECT_EQ(NamesIn(walk_.Folder().Path()),
@@ -114,7 +142,7 @@ TEST_F(GcdFiles, OneForEachStrideIsWrittenBesideTheTrial) {
   EXPECT_EQ(Read("walk-L2.gcd"), GcdText(calcs, 3, {}));
 }
 
-TEST_F(GcdFiles, LinesStayOutOfTheDesktopCopy) {
+TEST_F(GcdFilesTest, LinesStayOutOfTheDesktopCopy) {
   class PaneOnly : public modAllPurpose::ReportOutput {
    public:
     void BeginReport() override {}
@@ -130,7 +158,7 @@ TEST_F(GcdFiles, LinesStayOutOfTheDesktopCopy) {
   EXPECT_EQ(output.Lines, 4);
 }
 
-TEST_F(GcdFiles, YesOverwritesAndAsksForEachExistingFile) {
+TEST_F(GcdFilesTest, YesOverwritesAndAsksForEachExistingFile) {
   Put("walk-L1.gcd", "old");
   Put("walk-L2.gcd", "old");
   const std::string output = Write({OverwriteAnswer::Yes, OverwriteAnswer::Yes});
@@ -140,7 +168,7 @@ TEST_F(GcdFiles, YesOverwritesAndAsksForEachExistingFile) {
   EXPECT_TRUE(Read("walk-L2.gcd").starts_with("#!DST-0.1 GCD"));
 }
 
-TEST_F(GcdFiles, YesToAllAsksOnce) {
+TEST_F(GcdFilesTest, YesToAllAsksOnce) {
   for (const std::string name : {"walk-L1.gcd", "walk-R1.gcd", "walk-L2.gcd"}) Put(name, "old");
   EXPECT_TRUE(Write({OverwriteAnswer::YesToAll}).ends_with("Done.\n"));
   EXPECT_EQ(asked_, std::vector{Path("walk-L1.gcd")});
@@ -149,13 +177,13 @@ TEST_F(GcdFiles, YesToAllAsksOnce) {
   }
 }
 
-TEST_F(GcdFiles, YesToAllLastsForOneCommandOnly) {
+TEST_F(GcdFilesTest, YesToAllLastsForOneCommandOnly) {
   EXPECT_TRUE(Write({}).ends_with("Done.\n"));
   EXPECT_TRUE(Write({OverwriteAnswer::YesToAll}).ends_with("Done.\n"));
   EXPECT_EQ(Write({OverwriteAnswer::Cancel}), "Cancelled.\n");
 }
 
-TEST_F(GcdFiles, CancelKeepsTheOldFileAndThoseWrittenSoFar) {
+TEST_F(GcdFilesTest, CancelKeepsTheOldFileAndThoseWrittenSoFar) {
   Put("walk-R1.gcd", "old");
   EXPECT_EQ(Write({OverwriteAnswer::Cancel}), "Output: " + Path("walk-L1.gcd") + "\nCancelled.\n");
   EXPECT_EQ(asked_, std::vector{Path("walk-R1.gcd")});
@@ -164,7 +192,7 @@ TEST_F(GcdFiles, CancelKeepsTheOldFileAndThoseWrittenSoFar) {
             (std::vector<std::string>{"walk-L1.gcd", "walk-R1.gcd", "walk.c3d"}));
 }
 
-TEST_F(GcdFiles, OutputFolderTakesThemAll) {
+TEST_F(GcdFilesTest, OutputFolderTakesThemAll) {
   const TemporaryFolder other;
   GcdOptions options;
   options.OutputFolder = other.Path().string();
@@ -174,7 +202,7 @@ TEST_F(GcdFiles, OutputFolderTakesThemAll) {
   EXPECT_EQ(NamesIn(walk_.Folder().Path()), std::vector<std::string>{"walk.c3d"});
 }
 
-TEST_F(GcdFiles, OutputFolderThatIsMissingIsAnError) {
+TEST_F(GcdFilesTest, OutputFolderThatIsMissingIsAnError) {
   GcdOptions options;
   options.OutputFolder = Path("missing");
   EXPECT_EQ(ErrorNumberOf([&] { Write({}, options); }), kPathNotFound);
@@ -183,7 +211,7 @@ TEST_F(GcdFiles, OutputFolderThatIsMissingIsAnError) {
   EXPECT_EQ(NamesIn(walk_.Folder().Path()), std::vector<std::string>{"walk.c3d"});
 }
 
-TEST_F(GcdFiles, SubjectOfTheOptionsStandsInTheHeader) {
+TEST_F(GcdFilesTest, SubjectOfTheOptionsStandsInTheHeader) {
   GcdOptions options;
   options.Subject = {"m", "2016-01-01", "2026-01-01"};
   Write({}, options);
@@ -191,14 +219,14 @@ TEST_F(GcdFiles, SubjectOfTheOptionsStandsInTheHeader) {
               std::string::npos);
 }
 
-TEST_F(GcdFiles, SubjectFileOfTheFolderServesTheTrial) {
+TEST_F(GcdFilesTest, SubjectFileOfTheFolderServesTheTrial) {
   Put("subject.ini", "Gender=Female\nDOB=2016-01-01\nDate=2026-01-01\n");
   Write({});
   EXPECT_TRUE(Read("walk-R1.gcd").find("$Gender\r\nFemale\r\n$Age\r\n10.01\r\n") !=
               std::string::npos);
 }
 
-TEST_F(GcdFiles, StrideWithoutASideIsWrittenUnderTheLetterN) {
+TEST_F(GcdFilesTest, StrideWithoutASideIsWrittenUnderTheLetterN) {
   sample::TrialBuilder builder = tests::WholeFrameTrial();
   builder.AddPoint("NKneeAngles", tests::Standing(1, 2, 3))
       .AddPoint("LKneeAngles", tests::Standing(4, 5, 6));
@@ -213,7 +241,7 @@ TEST_F(GcdFiles, StrideWithoutASideIsWrittenUnderTheLetterN) {
   EXPECT_NE(text.find("!NoneKneeValgVar\r\n1.0\r\n"), std::string::npos);
 }
 
-TEST_F(GcdFiles, TrialWithoutStridesIsRejected) {
+TEST_F(GcdFilesTest, TrialWithoutStridesIsRejected) {
   OpenedWalk walk(sample::TrialBuilder().Build(), FindGaitEvents);
   ToldAnswers question({});
   modAllPurpose::TextReport output;
@@ -223,7 +251,7 @@ TEST_F(GcdFiles, TrialWithoutStridesIsRejected) {
   EXPECT_EQ(NamesIn(walk.Folder().Path()), std::vector<std::string>{"trial.c3d"});
 }
 
-TEST_F(GcdFiles, ErrorInACalculationLeavesTheOldFileAsItWas) {
+TEST_F(GcdFilesTest, ErrorInACalculationLeavesTheOldFileAsItWas) {
   Put("walk-R1.gcd", "old");
   StrideRecord& stride = walk_.State().GaitEvents.ValidStrides[2];
   stride.StopStrikeTime = stride.StartStrikeTime;
@@ -237,22 +265,76 @@ TEST_F(GcdFiles, ErrorInACalculationLeavesTheOldFileAsItWas) {
             (std::vector<std::string>{"walk-L1.gcd", "walk-R1.gcd", "walk.c3d"}));
 }
 
-TEST_F(GcdFiles, FolderOfAFilesNameIsAnErrorAndStays) {
+TEST_F(GcdFilesTest, FolderOfAFilesNameIsAnErrorAndStays) {
   std::filesystem::create_directory(Path("walk-L1.gcd"));
-  ToldAnswers question({});
-  modAllPurpose::TextReport output;
-#ifdef _WIN32  // which refuses as it refuses a file that is in use
-  constexpr int kExpected = 70;
-#else
-  constexpr int kExpected = 75;
-#endif
-  EXPECT_EQ(ErrorNumberOf([&] { (void)WriteGcdFiles(walk_.State(), {}, question, output); }),
-            kExpected);
+  EXPECT_EQ(ErrorLineOfWriting({}),
+            "Run-time error '75': Path/File access error: " + Path("walk-L1.gcd") + " is a folder");
   EXPECT_TRUE(std::filesystem::is_directory(Path("walk-L1.gcd")));
   EXPECT_EQ(NamesIn(walk_.Folder().Path()), (std::vector<std::string>{"walk-L1.gcd", "walk.c3d"}));
 }
 
-TEST_F(GcdFiles, TrialUnderAUtf8PathIsWrittenBesideIt) {
+TEST_F(GcdFilesTest, MissingFolderIsNamed) {
+  GcdOptions options;
+  options.OutputFolder = Path("missing");
+  try {
+    Write({}, options);
+    ADD_FAILURE() << "written";
+  } catch (const modAllPurpose::RuntimeError& error) {
+    EXPECT_EQ(RuntimeErrorLine(error), "Run-time error '76': Path not found: " + Path("missing"));
+  }
+}
+
+TEST_F(GcdFilesTest, TrialIsNoFileToReplaceWhateverItsName) {
+  const std::string refusal =
+      "Run-time error '75': Path/File access error: " + Path("walk-L1.gcd") + " is a C3D file";
+  std::filesystem::create_hard_link(walk_.File(), Path("walk-L1.gcd"));
+  EXPECT_EQ(ErrorLineOfWriting({OverwriteAnswer::YesToAll}), refusal) << "the open one";
+  std::filesystem::remove(Path("walk-L1.gcd"));
+  const std::string other = std::string("\x02") + "P" + std::string(600, '\0');
+  Put("walk-L1.gcd", other);
+  EXPECT_EQ(ErrorLineOfWriting({OverwriteAnswer::Yes}), refusal) << "any other";
+  EXPECT_EQ(Read("walk-L1.gcd"), other);
+}
+
+TEST_F(GcdFilesTest, OpenTrialIsKnownThoughItDoesNotBeginLikeOneAnyMore) {
+  std::filesystem::create_hard_link(walk_.File(), Path("walk-R1.gcd"));
+  std::fstream(walk_.File(), std::ios::in | std::ios::out | std::ios::binary) << "no";
+  EXPECT_EQ(
+      ErrorLineOfWriting({OverwriteAnswer::YesToAll}),
+      "Run-time error '75': Path/File access error: " + Path("walk-R1.gcd") + " is a C3D file");
+}
+
+TEST_F(GcdFilesTest, FileThatCameUpSinceItWasLookedForIsNotReplaced) {
+  modVantrel::GcdFiles files(walk_.State(), {});
+  Put("walk-R1.gcd", "of another");
+  EXPECT_FALSE(files.WriteWhereFree(2));
+  EXPECT_EQ(Read("walk-R1.gcd"), "of another");
+}
+
+TEST_F(GcdFilesTest, WholeSetIsWrittenOrNothing) {
+  modVantrel::GcdFiles files(walk_.State(), {});
+  Put("walk-R1.gcd", "old");
+  EXPECT_EQ(files.WriteAllWhereFree(), Path("walk-R1.gcd"));
+  EXPECT_EQ(NamesIn(walk_.Folder().Path()), (std::vector<std::string>{"walk-R1.gcd", "walk.c3d"}));
+  std::filesystem::remove(Path("walk-R1.gcd"));
+  EXPECT_EQ(files.WriteAllWhereFree(), "");
+  EXPECT_EQ(NamesIn(walk_.Folder().Path()).size(), 4U);
+}
+
+TEST_F(GcdFilesTest, ReplacedSetIsLeftAsItWasWhereOneIsATrialOrCannotBeMade) {
+  modVantrel::GcdFiles files(walk_.State(), {});
+  const auto noneWritten = [](const std::string& name) { ADD_FAILURE() << name; };
+  Put("walk-L1.gcd", "old");
+  Put("walk-L2.gcd", "\x02P as a trial begins");
+  EXPECT_EQ(ErrorNumberOf([&] { files.ReplaceAll(noneWritten); }), 75);
+  std::filesystem::remove(Path("walk-L2.gcd"));
+  StrideRecord& stride = walk_.State().GaitEvents.ValidStrides[2];
+  stride.StopStrikeTime = stride.StartStrikeTime;
+  EXPECT_EQ(ErrorNumberOf([&] { files.ReplaceAll(noneWritten); }), kDivisionByZero);
+  EXPECT_EQ(Read("walk-L1.gcd"), "old");
+}
+
+TEST_F(GcdFilesTest, TrialUnderAUtf8PathIsWrittenBesideIt) {
   OpenedWalk walk(ThreeStrides(), FindGaitEvents, "G\xC3\xB6nne.c3d");
   ToldAnswers question({});
   modAllPurpose::TextReport output;

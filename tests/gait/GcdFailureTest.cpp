@@ -117,6 +117,37 @@ TEST_F(GcdFailure, LinkIsFollowedToTheFileItNames) {
   EXPECT_TRUE(ReadWholeFile(folder_ / "elsewhere.gcd").starts_with("#!DST-0.1"));
 }
 
+// The window asks about the link as about any file, and the answer replaces nothing.
+TEST_F(GcdFailure, LinkThatLeadsNowhereCountsAsExistingAndIsRefused) {
+  class Counting : public OverwriteAll {
+   public:
+    OverwriteAnswer Ask(const std::string& gcdFileName) override {
+      ++Times;
+      return OverwriteAll::Ask(gcdFileName);
+    }
+    int Times = 0;
+  } question;
+  std::filesystem::remove(old_);
+  std::filesystem::create_symlink("nowhere", old_);
+  GcdOptions options;
+  options.OutputFolder = folder_.Path().string();
+  modAllPurpose::TextReport output;
+  EXPECT_EQ(
+      tests::ErrorNumberOf([&] { (void)WriteGcdFiles(walk_.State(), options, question, output); }),
+      75);
+  EXPECT_EQ(question.Times, 1);
+  EXPECT_EQ(NamesIn(folder_.Path()), std::vector<std::string>{"trial-L1.gcd"});
+  EXPECT_TRUE(std::filesystem::is_symlink(old_));
+}
+
+TEST_F(GcdFailure, LinkToATrialIsNotFollowed) {
+  std::filesystem::remove(old_);
+  std::filesystem::create_symlink(walk_.File(), old_);
+  const std::string trial = ReadWholeFile(walk_.File());
+  EXPECT_EQ(ErrorOfWritingInto(folder_.Path(), walk_.State()), 75);
+  EXPECT_TRUE(ReadWholeFile(walk_.File()) == trial);
+}
+
 TEST_F(GcdFailure, FileBeyondTheSizeLimitIsDiskFull) {
   const int status = StatusOfChild([&] {
     std::signal(SIGXFSZ, SIG_IGN);

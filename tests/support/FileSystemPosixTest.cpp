@@ -76,4 +76,11 @@ TEST(OneSpelling, IsThePathItselfWhereTheSystemCannotTell) {
   EXPECT_EQ(modAllPurpose::OneSpelling(path), path);
 }
 
+TEST(IsNameTaken, IsTrueForALinkThatLeadsNowhere) {
+  const tests::TemporaryFolder folder;
+  fs::create_symlink("nowhere", folder / "link");
+  EXPECT_TRUE(modAllPurpose::IsNameTaken((folder / "link").string()));
+  EXPECT_FALSE(modAllPurpose::FileExists((folder / "link").string()));
+}
+
 }  // namespace

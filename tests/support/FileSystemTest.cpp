@@ -18,7 +18,6 @@ namespace fs = std::filesystem;
 using modAllPurpose::FileExists;
 using modAllPurpose::OneSpelling;
 using modAllPurpose::RemoveFile;
-using modAllPurpose::WriteFileInOneStep;
 using modAllPurpose::WriteNewFile;
 using tests::ErrorNumberOf;
 
@@ -94,25 +93,6 @@ TEST_F(WritingFiles, ANewFileInAMissingFolderIsPathNotFound) {
   EXPECT_EQ(FilesInFolder(), 0);
 }
 
-TEST_F(WritingFiles, InOneStepMakesAFileOrReplacesIt) {
-  WriteFileInOneStep(Path("file"), "first and longer");
-  EXPECT_EQ(Read("file"), "first and longer");
-  WriteFileInOneStep(Path("file"), "second");
-  EXPECT_EQ(Read("file"), "second");
-  EXPECT_EQ(FilesInFolder(), 1);
-}
-
-TEST_F(WritingFiles, InOneStepLeavesAFolderOfItsName) {
-  fs::create_directory(folder_ / "folder");
-  EXPECT_NE(ErrorNumberOf([&] { WriteFileInOneStep(Path("folder"), "text"); }), 0);
-  EXPECT_TRUE(fs::is_directory(folder_ / "folder"));
-  EXPECT_EQ(FilesInFolder(), 1);
-}
-
-TEST_F(WritingFiles, InOneStepIntoAMissingFolderIsPathNotFound) {
-  EXPECT_EQ(ErrorNumberOf([&] { WriteFileInOneStep(Path("missing/new"), "text"); }), 76);
-}
-
 TEST_F(WritingFiles, AFileIsRemoved) {
   Write("file", "text");
   RemoveFile(Path("file"));
@@ -135,6 +115,44 @@ TEST_F(WritingFiles, OneFileHasOneSpelling) {
   EXPECT_EQ(OneSpelling(Path("folder/../file")), OneSpelling(Path("file")));
   EXPECT_EQ(OneSpelling(Path("./missing")), OneSpelling(Path("missing")));
   EXPECT_NE(OneSpelling(Path("missing")), OneSpelling(Path("file")));
+}
+
+TEST_F(WritingFiles, ANameIsTakenByWhateverHasIt) {
+  Write("file", "text");
+  fs::create_directory(folder_ / "folder");
+  EXPECT_TRUE(modAllPurpose::IsNameTaken(Path("file")));
+  EXPECT_TRUE(modAllPurpose::IsNameTaken(Path("folder")));
+  EXPECT_FALSE(modAllPurpose::IsNameTaken(Path("missing")));
+  EXPECT_FALSE(modAllPurpose::IsNameTaken(Path("missing/file")));
+}
+
+TEST_F(WritingFiles, AFileIsRegularAndNoFolder) {
+  Write("file", "text");
+  EXPECT_TRUE(modAllPurpose::IsRegularFile(Path("file")));
+  EXPECT_FALSE(modAllPurpose::IsRegularFile(modAllPurpose::Utf8Path(folder_.Path())));
+  EXPECT_FALSE(modAllPurpose::IsRegularFile(Path("missing")));
+  EXPECT_FALSE(modAllPurpose::IsFolder(Path("file")));
+  EXPECT_TRUE(modAllPurpose::IsFolder(modAllPurpose::Utf8Path(folder_.Path())));
+  EXPECT_FALSE(modAllPurpose::IsFolder(Path("missing")));
+}
+
+TEST_F(WritingFiles, AFileIsTheSameUnderASecondName) {
+  Write("file", "text");
+  Write("other", "text");
+  fs::create_hard_link(folder_ / "file", folder_ / "second");
+  EXPECT_TRUE(modAllPurpose::IsSameFile(Path("file"), Path("second")));
+  EXPECT_FALSE(modAllPurpose::IsSameFile(Path("file"), Path("other")));
+  EXPECT_FALSE(modAllPurpose::IsSameFile(Path("missing"), Path("missing")));
+}
+
+TEST(FolderOf, IsThePathInFrontOfTheOwnName) {
+  EXPECT_EQ(modAllPurpose::OwnName("/gait/trials/walk.c3d"), "walk.c3d");
+  EXPECT_EQ(modAllPurpose::FolderPart("/gait/trials/walk.c3d"), "/gait/trials/");
+  EXPECT_EQ(modAllPurpose::FolderOf("/gait/trials/walk.c3d"), "/gait/trials");
+  EXPECT_EQ(modAllPurpose::FolderOf("/walk.c3d"), "/");
+  EXPECT_EQ(modAllPurpose::OwnName("walk.c3d"), "walk.c3d");
+  EXPECT_EQ(modAllPurpose::FolderPart("walk.c3d"), "");
+  EXPECT_EQ(modAllPurpose::FolderOf("walk.c3d"), ".");
 }
 
 }  // namespace

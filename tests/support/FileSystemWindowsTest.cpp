@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include "support/FileSystem.h"
+#include "support/WholeFiles.h"
 #include "tests/TestTrials.h"
 
 namespace {
@@ -105,6 +106,14 @@ TEST(WindowsPaths, ThatAreNoUnicodeAreAnAccessError) {
   EXPECT_EQ(ErrorNumberOf([] { Utf8Path(std::wstring(L"C:\\\xD800.c3d")); }), 75);
   EXPECT_EQ(ErrorNumberOf([] { NativePath("C:\\\xFF.c3d"); }), 75);
   EXPECT_FALSE(FileExists("C:\\\xFF.c3d"));
+}
+
+TEST(WindowsPaths, HaveTheirOwnNameBehindEitherSeparatorOrTheDrive) {
+  EXPECT_EQ(modAllPurpose::OwnName(R"(D:\gait/trials\walk.c3d)"), "walk.c3d");
+  EXPECT_EQ(modAllPurpose::OwnName("D:walk.c3d"), "walk.c3d");
+  EXPECT_EQ(modAllPurpose::FolderPart("D:walk.c3d"), "D:");
+  EXPECT_EQ(modAllPurpose::FolderOf(R"(D:\gait\walk.c3d)"), R"(D:\gait)");
+  EXPECT_EQ(modAllPurpose::FolderOf(R"(D:\walk.c3d)"), R"(D:\)");
 }
 
 }  // namespace

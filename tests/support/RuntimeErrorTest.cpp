@@ -42,6 +42,16 @@ TEST(RuntimeError, EachNumberHasItsDescription) {
   }
 }
 
+TEST(RuntimeError, SaysWhatItIsAboutBehindItsDescription) {
+  const RuntimeError plain(ErrorNumber::DiskFull);
+  EXPECT_EQ(plain.About(), "");
+  EXPECT_EQ(RuntimeErrorLine(plain), "Run-time error '61': Disk full");
+  const RuntimeError about(ErrorNumber::PathNotFound, "/missing");
+  EXPECT_STREQ(about.what(), "Path not found");
+  EXPECT_EQ(about.About(), "/missing");
+  EXPECT_EQ(RuntimeErrorLine(about), "Run-time error '76': Path not found: /missing");
+}
+
 TEST(FileErrorFromErrno, NamesWhatTheSystemSaid) {
   const std::vector<std::pair<int, ErrorNumber>> table = {
       {ENOENT, ErrorNumber::FileNotFound},       {ENOTDIR, ErrorNumber::PathNotFound},

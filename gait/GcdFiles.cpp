@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "gait/GcdFiles.h"
+
+#include <array>
+#include <filesystem>
+#include <string_view>
+
+#include <fmt/format.h>
+
+#include "c3d/C3dFormat.h"
+#include "gait/EventNames.h"
+#include "gait/GcdText.h"
+#include "support/FileSystem.h"
+#include "support/RandomAccessFile.h"
+#include "support/RuntimeError.h"
+#include "support/Text.h"
+
+namespace modVantrel {
+
+using modAllPurpose::ErrorNumber;
+using modAllPurpose::RuntimeError;
+using modAllPurpose::WholeFile;
+
+namespace {
+
+// `folder` with a separator behind it. Windows takes two; the folder goes on with the one that it
+// is written with.
+std::string WithSeparator(const std::string& folder) {
+  constexpr char kSeparator = std::filesystem::path::preferred_separator;
+  if (folder.back() == '/' || folder.back() == kSeparator) return folder;
+  return folder + (folder.find(kSeparator) == std::string::npos ? '/' : kSeparator);
+}
+
+// Whether the reader would take the regular file `name` for a C3D file by its first bytes.
+bool BeginsLikeC3dFile(const std::string& name) {
+  modAllPurpose::RandomAccessFile file;
+  file.Open(name);
+  std::array<std::byte, 2> start{};
+  return file.ReadAt(0, start) == start.size() && std::to_integer<int>(start[1]) == kFileKey;
+}
+
+}  // namespace
+
+std::string GcdFileName(const std::string& trial, const StrideRecord& stride,
+                        const std::string& outputFolder) {
+  const std::string_view ownName = modAllPurpose::OwnName(trial);
+  const std::string_view shortened = modAllPurpose::WithoutExtension(ownName);
+  const std::string folder = outputFolder.empty() ? std::string(modAllPurpose::FolderPart(trial))
+                                                  : WithSeparator(outputFolder);
+  return fmt::format("{}{}-{}{}.gcd", folder, shortened.empty() ? ownName : shortened,
+                     SideName(stride.Side).front(), stride.Number);
+}
+
+GcdFiles::GcdFiles(const FileState& state, const GcdOptions& options)
+    : state_(state),
+      outputFolder_(options.OutputFolder),
+      subject_(FindSubject(state, options.Subject)),
+      calcs_(state) {}
+
+std::string GcdFiles::Name(std::int32_t strideIndex) const {
+  return GcdFileName(state_.OpenC3dFileSpec, state_.GaitEvents.ValidStrides[strideIndex],
+                     outputFolder_);
+}
+
+std::string GcdFiles::Text(std::int32_t strideIndex) {
+  return GcdText(calcs_, strideIndex, subject_);
+}
+
+void GcdFiles::RefuseTrial(const std::string& name) const {
+  if (!modAllPurpose::IsRegularFile(name)) return;
+  bool isTrial = modAllPurpose::IsSameFile(name, state_.OpenC3dFileSpec);
+  try {
+    isTrial = isTrial || BeginsLikeC3dFile(name);
+  } catch (const RuntimeError& error) {
+    throw RuntimeError(error.Number(), name);  // it may be one
+  }
+  if (isTrial) throw RuntimeError(ErrorNumber::PathFileAccessError, name + " is a C3D file");
+}
+
+bool GcdFiles::WriteWhereFree(std::int32_t strideIndex) {
+  return modAllPurpose::WriteFileWhereFree(Name(strideIndex), Text(strideIndex));
+}
+
+void GcdFiles::Replace(std::int32_t strideIndex) {
+  const std::string name = Name(strideIndex);
+  const std::string text = Text(strideIndex);
+  RefuseTrial(name);
+  modAllPurpose::WriteFileInOneStep(name, text);
+}
+
+std::vector<WholeFile> GcdFiles::All() {
+  std::vector<WholeFile> files;
+  for (std::int32_t i = 1; i <= Count(); ++i) files.push_back({Name(i), Text(i)});
+  return files;
+}
+
+std::string GcdFiles::WriteAllWhereFree() { return modAllPurpose::WriteFilesWhereFree(All()); }
+
+void GcdFiles::ReplaceAll(const std::function<void(const std::string& name)>& written) {
+  const std::vector<WholeFile> files = All();
+  for (const WholeFile& file : files) RefuseTrial(file.Path);
+  for (const auto& [name, text] : files) {
+    RefuseTrial(name);
+    modAllPurpose::WriteFileInOneStep(name, text);
+    written(name);
+  }
+}
+
+}  // namespace modVantrel

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <array>
+#include <atomic>
+#include <csignal>
+#include <ctime>
+#include <unistd.h>
+
+#include "support/Interruption.h"
+
+namespace modAllPurpose {
+
+namespace {
+
+constexpr std::array kInterruptions = {SIGINT, SIGTERM, SIGHUP, SIGQUIT};
+
+// Both are all that the signal handler touches.
+std::atomic<int> worksUnderWay = 0;
+std::atomic<bool> ending = false;
+static_assert(std::atomic<int>::is_always_lock_free && std::atomic<bool>::is_always_lock_free);
+
+// The work of one thread.
+struct Work {
+  int Depth = 0;
+  sigset_t MaskBefore{};
+  sigset_t HeldOff{};  // the interruptions that did not wait before
+};
+thread_local Work own;
+
+bool IsIgnored(int signal) {
+  struct sigaction action {};
+  return ::sigaction(signal, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
+}
+
+// Ignored ones are left alone: a signal that is blocked waits although it is ignored.
+sigset_t InterruptionsNotIgnored() {
+  sigset_t set;
+  ::sigemptyset(&set);
+  for (const int signal : kInterruptions) {
+    if (!IsIgnored(signal)) ::sigaddset(&set, signal);
+  }
+  return set;
+}
+
+// The program is about to end in another thread.
+[[noreturn]] void AwaitTheEnd() {
+  for (;;) ::pause();
+}
+
+// Sent again with the signal's own effect, the program ends with the status of the signal. This
+// thread is in no UnbrokenWork, which would have kept the signal off.
+extern "C" void EndBetweenWorks(int signal) {
+  ending = true;
+  constexpr timespec kMoment{0, 1'000'000};
+  while (worksUnderWay > 0) ::nanosleep(&kMoment, nullptr);
+  struct sigaction action {};
+  action.sa_handler = SIG_DFL;
+  ::sigaction(signal, &action, nullptr);
+  ::raise(signal);
+}
+
+}  // namespace
+
+void LetInterruptionsWait() {
+  struct sigaction action {};
+  action.sa_handler = EndBetweenWorks;
+  action.sa_mask = InterruptionsNotIgnored();
+  for (const int signal : kInterruptions) {
+    if (!IsIgnored(signal)) ::sigaction(signal, &action, nullptr);
+  }
+}
+
+UnbrokenWork::UnbrokenWork() {
+  if (own.Depth++ > 0) return;
+  own.HeldOff = InterruptionsNotIgnored();
+  ::pthread_sigmask(SIG_BLOCK, &own.HeldOff, &own.MaskBefore);
+  for (const int signal : kInterruptions) {
+    if (::sigismember(&own.MaskBefore, signal) == 1) ::sigdelset(&own.HeldOff, signal);
+  }
+  ++worksUnderWay;
+  if (!ending) return;
+  --worksUnderWay;
+  AwaitTheEnd();
+}
+
+UnbrokenWork::~UnbrokenWork() {
+  if (--own.Depth > 0) return;
+  --worksUnderWay;
+  if (ending) AwaitTheEnd();
+  ::pthread_sigmask(SIG_SETMASK, &own.MaskBefore, nullptr);
+}
+
+bool UnbrokenWork::IsInterrupted() const {
+  if (ending) return true;
+  sigset_t waiting;
+  ::sigpending(&waiting);
+  for (const int signal : kInterruptions) {
+    if (::sigismember(&own.HeldOff, signal) == 1 && ::sigismember(&waiting, signal) == 1) {
+      return true;
+    }
+  }
+  return false;
+}
+
+}  // namespace modAllPurpose

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <atomic>
+#include <windows.h>
+
+#include "support/Interruption.h"
+
+namespace modAllPurpose {
+
+namespace {
+
+std::atomic<int> worksUnderWay = 0;
+std::atomic<bool> ending = false;
+thread_local int depth = 0;
+
+[[noreturn]] void AwaitTheEnd() {
+  for (;;) ::Sleep(INFINITE);
+}
+
+// The system runs this in a thread of its own, beside the work.
+BOOL WINAPI EndBetweenWorks(DWORD /*event*/) {
+  ending = true;
+  while (worksUnderWay > 0) ::Sleep(1);
+  constexpr BOOL kGoOnEnding = FALSE;
+  return kGoOnEnding;
+}
+
+}  // namespace
+
+void LetInterruptionsWait() { ::SetConsoleCtrlHandler(EndBetweenWorks, TRUE); }
+
+UnbrokenWork::UnbrokenWork() {
+  if (depth++ > 0) return;
+  ++worksUnderWay;
+  if (!ending) return;
+  --worksUnderWay;
+  AwaitTheEnd();
+}
+
+UnbrokenWork::~UnbrokenWork() {
+  if (--depth > 0) return;
+  --worksUnderWay;
+  if (ending) AwaitTheEnd();
+}
+
+bool UnbrokenWork::IsInterrupted() const { return ending; }
+
+}  // namespace modAllPurpose

@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "support/WholeFiles.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <random>
+#include <utility>
+#include <vector>
+
+#include <fmt/format.h>
+
+#include "support/FileInWaiting.h"
+#include "support/FileSystem.h"
+#include "support/Interruption.h"
+#include "support/RuntimeError.h"
+
+namespace modAllPurpose {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// Runs `work`, which writes the file `path`, and names in its errors what they are about.
+template <typename Work>
+auto Naming(const std::string& path, Work&& work) {
+  try {
+    return work();
+  } catch (const RuntimeError& error) {
+    if (!error.About().empty()) throw;
+    const bool folderIsMissing = error.Number() == ErrorNumber::PathNotFound;
+    throw RuntimeError(error.Number(), folderIsMissing ? std::string(FolderOf(path)) : path);
+  }
+}
+
+std::optional<FileIdentity> MakeWhereFree(const fs::path& path, std::string_view text) {
+  FileInWaiting file(path.parent_path(), text, nullptr);
+  const FileIdentity identity = file.Identity();
+  if (!file.TakeNameIfFree(path)) return std::nullopt;
+  return identity;
+}
+
+// Makes the file or replaces it; false where it came or went meanwhile.
+bool MakeOrReplace(const fs::path& path, std::string_view text) {
+  const auto old = FindFileToReplace(path);
+  if (!old) return MakeWhereFree(path, text).has_value();
+  FileInWaiting(old->Path.parent_path(), text, &*old).TakePlaceOf(old->Path);
+  return true;
+}
+
+// Files that are taken away again unless they are kept.
+class FilesOnTrial {
+ public:
+  FilesOnTrial() = default;
+  FilesOnTrial(const FilesOnTrial&) = delete;
+  FilesOnTrial& operator=(const FilesOnTrial&) = delete;
+  ~FilesOnTrial() {
+    for (const auto& [path, identity] : files_) DeleteIfStill(path, identity);
+  }
+
+  void Add(fs::path path, const FileIdentity& identity) {
+    files_.emplace_back(std::move(path), identity);
+  }
+  void Keep() { files_.clear(); }
+
+ private:
+  std::vector<std::pair<fs::path, FileIdentity>> files_;
+};
+
+// In the order of their names, however each of them is written.
+std::multimap<std::string, const WholeFile*> InOrder(std::span<const WholeFile> files) {
+  std::multimap<std::string, const WholeFile*> ordered;
+  for (const WholeFile& file : files) ordered.emplace(OneSpelling(file.Path), &file);
+  return ordered;
+}
+
+}  // namespace
+
+fs::path NameInWaiting(const fs::path& folder) {
+  static thread_local std::random_device random;
+  return folder / fmt::format(".vantrel-{:08x}.tmp", random());
+}
+
+bool WriteFileWhereFree(const std::string& path, std::string_view text) {
+  const UnbrokenWork work;
+  return Naming(path, [&] { return MakeWhereFree(NativePath(path), text).has_value(); });
+}
+
+std::string WriteFilesWhereFree(std::span<const WholeFile> files) {
+  const UnbrokenWork work;
+  FilesOnTrial made;
+  for (const auto& [spelling, file] : InOrder(files)) {
+    if (work.IsInterrupted()) throw RuntimeError(ErrorNumber::PathFileAccessError, file->Path);
+    const auto identity =
+        Naming(file->Path, [&] { return MakeWhereFree(NativePath(file->Path), file->Text); });
+    if (!identity) return file->Path;
+    made.Add(NativePath(file->Path), *identity);
+  }
+  made.Keep();
+  return {};
+}
+
+void WriteFileInOneStep(const std::string& path, std::string_view text) {
+  const UnbrokenWork work;
+  constexpr int kAttempts = 100;
+  Naming(path, [&] {
+    for (int i = 0; i < kAttempts; ++i) {
+      if (MakeOrReplace(NativePath(path), text)) return;
+    }
+    throw RuntimeError(ErrorNumber::PathFileAccessError);
+  });
+}
+
+}  // namespace modAllPurpose

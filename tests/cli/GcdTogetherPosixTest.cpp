@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <csignal>
+#include <fcntl.h>
+#include <filesystem>
+#include <string>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "tests/GaitTrials.h"
+#include "tests/cli/ToolInFolder.h"
+
+// Runs of the tool that write the same GCD files at once, and runs that do not come to their end.
+namespace {
+
+using tests::kSampleWalk;
+using tests::NamesIn;
+using tests::ToolInFolder;
+using tests::ToolResult;
+
+constexpr std::size_t kStrides = 6;  // of the sample walk
+
+std::vector<std::string> GcdFilesIn(const ToolInFolder& tool) {
+  std::vector<std::string> names;
+  for (const std::string& name : NamesIn(tool.Path())) {
+    if (name.ends_with(".gcd")) names.push_back(name);
+  }
+  return names;
+}
+
+// How many of the files are those of the run with that gender.
+std::size_t FilesOf(const ToolInFolder& tool, const std::string& gender) {
+  const auto names = GcdFilesIn(tool);
+  return static_cast<std::size_t>(std::ranges::count_if(names, [&](const std::string& name) {
+    return tool.Read(name).find("$Gender\r\n" + gender + "\r\n") != std::string::npos;
+  }));
+}
+
+void RemoveGcdFiles(const ToolInFolder& tool) {
+  for (const std::string& name : GcdFilesIn(tool)) std::filesystem::remove(tool / name);
+}
+
+TEST(GcdTogether, OneOfTwoRunsWritesAllItsFilesAndTheOtherNone) {
+  constexpr int kTries = 200;
+  const ToolInFolder tool;
+  for (int i = 0; i < kTries && !testing::Test::HasFailure(); ++i) {
+    ToolResult male;
+    std::thread other([&] { male = tool.Run({"--gender", "male", "gcd", kSampleWalk}); });
+    const ToolResult female = tool.Run({"--gender", "female", "gcd", kSampleWalk});
+    other.join();
+    EXPECT_EQ(male.Status + female.Status, 1) << male.Err << female.Err;
+    EXPECT_EQ(FilesOf(tool, male.Status == 0 ? "Male" : "Female"), kStrides);
+    const ToolResult& loser = male.Status == 0 ? female : male;
+    EXPECT_EQ(loser.Out, "");
+    EXPECT_NE(loser.Err.find(" exists already (--overwrite replaces it)\n"), std::string::npos);
+    EXPECT_EQ(NamesIn(tool.Path()).size(), kStrides + 1);
+    RemoveGcdFiles(tool);
+  }
+}
+
+// The end of a run that is sent `signal` after a while.
+int EndAfter(const ToolInFolder& tool, std::vector<std::string> arguments, int signal,
+             std::chrono::microseconds while_) {
+  const pid_t child = ::fork();
+  if (child == 0) {
+    std::string program = VANTREL_REPORT_TOOL;
+    std::vector<char*> argv = {program.data()};
+    for (std::string& argument : arguments) argv.push_back(argument.data());
+    argv.push_back(nullptr);
+    const int nothing = ::open("/dev/null", O_WRONLY);
+    ::dup2(nothing, STDOUT_FILENO);
+    ::dup2(nothing, STDERR_FILENO);
+    if (::chdir(tool.Path().c_str()) == 0) ::execv(program.c_str(), argv.data());
+    ::_exit(127);
+  }
+  std::this_thread::sleep_for(while_);
+  ::kill(child, signal);
+  int status = 0;
+  ::waitpid(child, &status, 0);
+  return status;
+}
+
+TEST(GcdInterrupted, LeavesAWholeSetOrNothing) {
+  const ToolInFolder tool;
+  int interrupted = 0;
+  for (int i = 0; i < 60; ++i) {
+    const int signal = std::array{SIGINT, SIGTERM, SIGHUP}[static_cast<std::size_t>(i % 3)];
+    const int status =
+        EndAfter(tool, {"gcd", kSampleWalk}, signal, std::chrono::microseconds(1000 * i));
+    const auto files = GcdFilesIn(tool).size();
+    EXPECT_TRUE(files == 0 || files == kStrides) << files;
+    EXPECT_EQ(NamesIn(tool.Path()).size(), files + 1) << "something temporary is left";
+    if (WIFSIGNALED(status)) {
+      EXPECT_EQ(WTERMSIG(status), signal);
+      ++interrupted;
+    } else {
+      EXPECT_EQ(files, kStrides);
+    }
+    RemoveGcdFiles(tool);
+  }
+  EXPECT_GT(interrupted, 0);
+}
+
+TEST(GcdInterrupted, LeavesEveryReplacedFileWhole) {
+  const ToolInFolder tool;
+  ASSERT_EQ(tool.Run({"--gender", "male", "gcd", kSampleWalk}).Status, 0);
+  for (int i = 0; i < 60; ++i) {
+    EndAfter(tool, {"--overwrite", "--gender", "female", "gcd", kSampleWalk}, SIGTERM,
+             std::chrono::microseconds(1000 * i));
+    EXPECT_EQ(NamesIn(tool.Path()).size(), kStrides + 1) << "something temporary is left";
+    EXPECT_EQ(FilesOf(tool, "Male") + FilesOf(tool, "Female"), kStrides);
+  }
+}
+
+TEST(GcdLines, ThatAreLostOnAFullDiskAreStandardOutputsFailureAlone) {
+  const ToolInFolder tool;
+  tests::WholeFrameTrial().Build().WriteTo(tool / "a.c3d");
+  const ToolResult run =
+      tests::RunTool({"gcd", "a.c3d", kSampleWalk}, {.Path = "/dev/full"}, tool.Path());
+  EXPECT_EQ(run.Status, 1);
+  EXPECT_EQ(run.Err, "vantrel-report: standard output: Run-time error '61': Disk full\n");
+  EXPECT_EQ(GcdFilesIn(tool).size(), kStrides + 1);
+}
+
+}  // namespace

@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <chrono>
+#include <csignal>
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "support/FileInWaiting.h"
+#include "support/Interruption.h"
+#include "support/WholeFiles.h"
+#include "tests/TestTrials.h"
+
+// Programs that are interrupted or killed while they write.
+namespace {
+
+namespace fs = std::filesystem;
+using modAllPurpose::FileInWaiting;
+using modAllPurpose::LetInterruptionsWait;
+using modAllPurpose::UnbrokenWork;
+using modAllPurpose::WholeFile;
+
+constexpr int kWentOn = 99;
+
+// How a process ends that does `work` and nothing else.
+struct Ending {
+  int Signal;
+  int Status;
+};
+
+Ending EndOf(const std::function<void()>& work) {
+  const pid_t child = ::fork();
+  if (child == 0) {
+    work();
+    ::_exit(kWentOn);
+  }
+  int status = 0;
+  ::waitpid(child, &status, 0);
+  return {WIFSIGNALED(status) ? WTERMSIG(status) : 0, WIFEXITED(status) ? WEXITSTATUS(status) : -1};
+}
+
+class Interruption : public testing::Test {
+ protected:
+  tests::TemporaryFolder folder_;
+};
+
+TEST_F(Interruption, WaitsForTheEndOfTheWorkAndThenEndsTheProgramAsItself) {
+  for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGQUIT}) {
+    for (const bool prepared : {false, true}) {
+      const Ending end = EndOf([&] {
+        if (prepared) LetInterruptionsWait();
+        const UnbrokenWork work;
+        const FileInWaiting file(folder_.Path(), "text", nullptr, FileInWaiting::Named::Always);
+        std::raise(signal);
+        if (!work.IsInterrupted()) ::_exit(1);
+      });
+      EXPECT_EQ(end.Signal, signal) << prepared << ' ' << end.Status;
+      EXPECT_TRUE(fs::is_empty(folder_.Path()));
+    }
+  }
+}
+
+TEST_F(Interruption, OfAProgramThatIsWritingNothingEndsItAtOnce) {
+  EXPECT_EQ(EndOf([] {
+              LetInterruptionsWait();
+              std::raise(SIGTERM);
+            }).Signal,
+            SIGTERM);
+}
+
+TEST_F(Interruption, ThatTheProgramIsToIgnoreIsIgnored) {
+  const Ending end = EndOf([] {
+    std::signal(SIGHUP, SIG_IGN);
+    LetInterruptionsWait();
+    std::raise(SIGHUP);
+    {
+      const UnbrokenWork work;
+      std::raise(SIGHUP);
+      if (work.IsInterrupted()) ::_exit(1);
+    }
+  });
+  EXPECT_EQ(end.Status, kWentOn);
+}
+
+TEST_F(Interruption, WaitsForTheWorkOfAnotherThread) {
+  const Ending end = EndOf([&] {
+    LetInterruptionsWait();
+    std::thread([&] {
+      const UnbrokenWork work;
+      const FileInWaiting file(folder_.Path(), "text", nullptr, FileInWaiting::Named::Always);
+      ::kill(::getpid(), SIGINT);  // met by the thread that waits for this one
+      std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    }).join();
+  });
+  EXPECT_EQ(end.Signal, SIGINT);
+  EXPECT_TRUE(fs::is_empty(folder_.Path()));
+}
+
+TEST_F(Interruption, OfASetOfFilesLeavesNoneOfThem) {
+  const std::vector<WholeFile> files = {{(folder_ / "a").string(), "text"},
+                                        {(folder_ / "b").string(), "text"}};
+  const Ending end = EndOf([&] {
+    const UnbrokenWork work;
+    std::raise(SIGTERM);
+    if (tests::ErrorNumberOf([&] { (void)WriteFilesWhereFree(files); }) == 0) ::_exit(1);
+  });
+  EXPECT_EQ(end.Signal, SIGTERM);
+  EXPECT_TRUE(fs::is_empty(folder_.Path()));
+}
+
+TEST_F(Interruption, ByAKillLeavesNoFileWhereFilesNeedNoName) {
+  const auto killed = [&](FileInWaiting::Named named) {
+    return EndOf([&, named] {
+      const FileInWaiting file(folder_.Path(), "text", nullptr, named);
+      const bool hasName = !fs::is_empty(folder_.Path());
+      if (hasName && named == FileInWaiting::Named::WhereItMust) ::_exit(kWentOn);
+      std::raise(SIGKILL);
+    });
+  };
+  const Ending end = killed(FileInWaiting::Named::WhereItMust);
+  if (end.Status == kWentOn) GTEST_SKIP() << "every file of this file system has a name";
+  EXPECT_EQ(end.Signal, SIGKILL);
+  EXPECT_TRUE(fs::is_empty(folder_.Path()));
+  EXPECT_EQ(killed(FileInWaiting::Named::Always).Signal, SIGKILL);
+  EXPECT_FALSE(fs::is_empty(folder_.Path())) << "the kill came while the file was there";
+}
+
+}  // namespace
