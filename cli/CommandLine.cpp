@@ -26,9 +26,12 @@ constexpr const char* kExitStatus =
     "printed), 2 wrong usage.";
 
 std::string ReportNames() {
-  std::vector<std::string_view> names;
-  for (const auto& report : reports::kReports) names.push_back(report.Name);
-  return fmt::format("{}", fmt::join(names, ", "));
+  std::string names;
+  for (const auto& report : reports::kReports) {
+    if (!names.empty()) names += ", ";
+    names += report.Name;
+  }
+  return names;
 }
 
 // The options that a report asks for or takes, as a remark behind its description.
@@ -51,18 +54,17 @@ std::string Footer() {
 }
 
 CLI::Validator Date() {
-  return CLI::Validator(
-      [](const std::string& text) {
-        return modVantrel::ParseIsoDate(text)
-                   ? std::string()
-                   : fmt::format("'{}' is no date of the form YYYY-MM-DD", text);
-      },
-      "");
+  return {[](const std::string& text) {
+            return modVantrel::ParseIsoDate(text)
+                       ? std::string()
+                       : fmt::format("'{}' is no date of the form YYYY-MM-DD", text);
+          },
+          ""};
 }
 
 CLI::Validator NotEmpty(const char* refusal) {
-  return CLI::Validator(
-      [refusal](const std::string& text) { return text.empty() ? refusal : std::string(); }, "");
+  return {[refusal](const std::string& text) { return text.empty() ? refusal : std::string(); },
+          ""};
 }
 
 void AddOptions(CLI::App& app, Request& request) {

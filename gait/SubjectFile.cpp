@@ -37,8 +37,8 @@ std::string_view Unquoted(std::string_view value) {
 std::u16string Utf16(std::string_view bytes, std::endian order) {
   std::u16string text;
   for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
-    const auto first = static_cast<unsigned char>(bytes[i]);
-    const auto second = static_cast<unsigned char>(bytes[i + 1]);
+    const unsigned first = static_cast<unsigned char>(bytes[i]);
+    const unsigned second = static_cast<unsigned char>(bytes[i + 1]);
     const unsigned unit =
         order == std::endian::little ? first | (second << 8U) : second | (first << 8U);
     text += static_cast<char16_t>(unit);

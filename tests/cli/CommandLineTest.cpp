@@ -5,6 +5,7 @@
 #include <variant>
 #include <vector>
 
+#include <fmt/format.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -120,7 +121,7 @@ TEST(ToolCommandLine, RefusesADateThatIsNone) {
   for (const std::string option : {"--date-of-birth", "--visit-date"}) {
     for (const std::string text : {"2026-02-30", "20.11.2026", "2026-11-20T08:00", "today", ""}) {
       EXPECT_EQ(WhyRefused({option, text, "gcd", "a.c3d"}),
-                option + ": '" + text + "' is no date of the form YYYY-MM-DD");
+                fmt::format("{}: '{}' is no date of the form YYYY-MM-DD", option, text));
     }
   }
   EXPECT_EQ(Parsed({"--visit-date", " 2024-02-29", "gcd", "a.c3d"}).Report, "gcd");
