@@ -16,9 +16,10 @@
 
 namespace {
 
+using tests::OwnSystem;
 using namespace std::chrono_literals;
 
-class ProbeHost : public tests::OwnSystem {
+class ProbeHost : public OwnSystem {
  public:
   ProbeHost() : OwnSystem([this](const std::string& text) { Log("says " + text); }) {}
 
