@@ -98,7 +98,7 @@ void RunGcdTexts(const FileState& state) {
   for (std::int32_t i = 1; i <= strides; ++i) {
     Run([&](ReportOutput& output) {
       const auto subject = modVantrel::FindSubject(state, {});
-      output.Line(calcs.GcdText(i, "!Left", "L", subject, false, false));
+      output.Line(calcs.GcdText(i, "!Left", "L", subject));
     });
   }
 }

@@ -47,6 +47,12 @@ inline constexpr std::int32_t kNormalizedPoints = 51;  // 0 %, 2 %, ... 100 % of
 
 using NormalizedCurve = modAllPurpose::OneBasedTable<NormalizedPoint>;
 
+// What the text of a GCD file leaves out; nothing of a whole file.
+struct GcdParts {
+  bool AppendMode = false;  // no header, since an earlier file has it
+  bool SuppressVideoRate = false;
+};
+
 // The calculations over the valid strides of one open file, and the GCD files made of them.
 //
 // A label is read from the file once and its splines are kept, so all strides of a command share
@@ -64,12 +70,12 @@ class clsGcdCalcs {
   // empty where there is no such label. Errors 9 and 11 as the splines.
   NormalizedCurve NormalizeLabelForStride(std::string_view label, std::int32_t strideIndex);
 
-  // The text of a stride's GCD file, lines ended by CR LF: the header (but not in `appendMode`),
-  // the measures, the video rate unless it is suppressed, and the curves that the file holds.
+  // The text of a stride's GCD file, lines ended by CR LF: the header, the measures, the video
+  // rate, and the curves that the file holds.
   // `valuePrefix` is "!Left", "!Right" or "!None", `labelLetter` the side's first letter.
   std::string GcdText(std::int32_t strideIndex, std::string_view valuePrefix,
-                      std::string_view labelLetter, const SubjectRecord& subject, bool appendMode,
-                      bool suppressVideoRate);
+                      std::string_view labelLetter, const SubjectRecord& subject,
+                      const GcdParts& parts = {});
 
  private:
   // A label's samples and its splines, each made when it is first asked for: a coordinate that is

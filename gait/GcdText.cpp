@@ -91,11 +91,11 @@ void AppendCurve(std::string& text, std::string_view name, const NormalizedCurve
 
 std::string clsGcdCalcs::GcdText(std::int32_t strideIndex, std::string_view valuePrefix,
                                  std::string_view labelLetter, const SubjectRecord& subject,
-                                 bool appendMode, bool suppressVideoRate) {
-  std::string text = appendMode ? std::string() : HeaderText(subject);
+                                 const GcdParts& parts) {
+  std::string text = parts.AppendMode ? std::string() : HeaderText(subject);
   const SingleValueMeasures measures = CalcSingleValueMeasures(strideIndex);
   text += MeasuresText(measures, valuePrefix);
-  if (!suppressVideoRate) {
+  if (!parts.SuppressVideoRate) {
     AppendLine(text, "!VideoRate");
     AppendValue(text, measures.VideoRate);
   }

@@ -44,6 +44,9 @@ class ReportOutput {
   // One whole line.
   void Line(std::string_view text) { AppendOutput(text, false, false); }
 
+  // One whole line that stays out of the desktop copy.
+  void PaneLine(std::string_view text) { AppendOutput(text, true, false); }
+
   // The start of a line that a later piece completes.
   void Piece(std::string_view text) { AppendOutput(text, false, true); }
 };

@@ -107,9 +107,9 @@ TEST_F(GcdFiles, OneForEachStrideIsWrittenBesideTheTrial) {
   EXPECT_EQ(NamesIn(walk_.Folder().Path()),
             (std::vector<std::string>{"walk-L1.gcd", "walk-L2.gcd", "walk-R1.gcd", "walk.c3d"}));
   clsGcdCalcs calcs(walk_.State());
-  EXPECT_EQ(Read("walk-L1.gcd"), calcs.GcdText(1, "!Left", "L", {}, false, false));
-  EXPECT_EQ(Read("walk-R1.gcd"), calcs.GcdText(2, "!Right", "R", {}, false, false));
-  EXPECT_EQ(Read("walk-L2.gcd"), calcs.GcdText(3, "!Left", "L", {}, false, false));
+  EXPECT_EQ(Read("walk-L1.gcd"), calcs.GcdText(1, "!Left", "L", {}));
+  EXPECT_EQ(Read("walk-R1.gcd"), calcs.GcdText(2, "!Right", "R", {}));
+  EXPECT_EQ(Read("walk-L2.gcd"), calcs.GcdText(3, "!Left", "L", {}));
 }
 
 TEST_F(GcdFiles, LinesStayOutOfTheDesktopCopy) {

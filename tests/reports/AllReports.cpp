@@ -58,7 +58,7 @@ std::map<std::string, std::string> AllReportsOf(const FileState& state) {
              state.AnalogLabels);
   modVantrel::clsGcdCalcs calcs(state);
   for (std::int32_t i = 1; i <= state.GaitEvents.ValidStrideCount; ++i) {
-    texts[Numbered("gcd ", i)] = calcs.GcdText(i, "!Left", "L", {}, false, false);
+    texts[Numbered("gcd ", i)] = calcs.GcdText(i, "!Left", "L", {});
   }
   return texts;
 }
