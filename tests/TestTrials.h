@@ -93,6 +93,9 @@ inline constexpr std::int32_t kSectionPosition = 513;
 inline constexpr std::int32_t kProcessorPosition = 516;
 inline constexpr std::int32_t kFirstRecordPosition = 517;
 
+// The fourth byte of a file of a third processor, which is not read.
+inline constexpr std::uint8_t kProcessorMips = 86;
+
 // Deletes the file at `path`, if there is one, so that its name is free at once. Windows keeps the
 // name of a deleted file taken as long as the file is open, so it gets another one first.
 void TakeAway(const std::filesystem::path& path);

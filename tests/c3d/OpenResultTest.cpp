@@ -172,7 +172,7 @@ const std::vector<Fault>& FaultsInOrder() {
       {OpenResult::FileKeyNotFound, nothing,
        [](Trial& trial) { trial.SetByte(tests::header::kFileID, 0); }},
       {OpenResult::ProcessorNotSupported, nothing,
-       [](Trial& trial) { trial.SetByte(tests::kProcessorPosition, 86); }},
+       [](Trial& trial) { trial.SetByte(tests::kProcessorPosition, tests::kProcessorMips); }},
       {OpenResult::NoFrames, nothing, [](Trial& trial) { trial.ClaimFrames(5, 4); }},
       {OpenResult::FrameRateNotSet,
        [](TrialBuilder& builder) {
