@@ -12,6 +12,7 @@
 #include "sample/TrialBuilder.h"
 #include "support/ReportOutput.h"
 #include "support/RuntimeError.h"
+#include "tests/ErrorNumbers.h"
 
 namespace tests {
 

@@ -21,9 +21,9 @@ using tests::ErrorNumberOf;
 using Bytes = std::vector<std::uint8_t>;
 using Integers = std::vector<std::int16_t>;
 
-constexpr int kOverflow = 6;
-constexpr int kInputPastEndOfFile = 62;
-constexpr int kBadRecordNumber = 63;
+using tests::kBadRecordNumber;
+using tests::kInputPastEndOfFile;
+using tests::kOverflow;
 
 class OpenResultTest : public testing::Test {
  protected:
