@@ -14,7 +14,6 @@ inline constexpr std::uint8_t kFileKey = 80;  // "P", the second byte of every C
 
 inline constexpr std::uint8_t kProcessorIntel = 84;
 inline constexpr std::uint8_t kProcessorDec = 85;
-inline constexpr std::uint8_t kProcessorMips = 86;
 
 inline constexpr std::uint8_t kStoredAsInteger = 1;
 inline constexpr std::uint8_t kStoredAsSingle = 2;

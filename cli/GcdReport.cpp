@@ -62,7 +62,7 @@ class GcdRun {
       output_.BeginReport();
       for (const std::string& name : names_) Tell(name);
     }
-    output_.AppendOutput("Done.", true, false);
+    output_.PaneLine("Done.");
     return {};
   }
 
@@ -75,7 +75,7 @@ class GcdRun {
 
   void Tell(const std::string& name) {
     request_.Written[OneSpelling(name)] = trial_;
-    output_.AppendOutput("Output: " + name, true, false);
+    output_.PaneLine("Output: " + name);
   }
 
   GcdFiles files_;

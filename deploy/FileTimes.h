@@ -23,6 +23,9 @@ struct FileTimes {
   friend bool operator==(const FileTimes&, const FileTimes&) = default;
 };
 
+// What follows is the program's on Windows alone: elsewhere it deploys nothing, and the tests of
+// the deployment bring their own.
+
 // The times of the file at `path` (UTF-8). A file system that knows no creation time gives the last
 // write for it. Error 53, 70, 75 or 76 where the file cannot be reached.
 FileTimes ReadFileTimes(const std::string& path);

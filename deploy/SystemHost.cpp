@@ -59,14 +59,6 @@ void SystemHost::WriteNewFile(const std::string& path, std::span<const std::byte
   modAllPurpose::WriteNewFile(path, bytes);
 }
 
-modWindowsFileInfo::FileTimes SystemHost::ReadTimes(const std::string& path) const {
-  return modWindowsFileInfo::ReadFileTimes(path);
-}
-
-void SystemHost::SetTimes(const std::string& path, const modWindowsFileInfo::FileTimes& times) {
-  modWindowsFileInfo::SetFileTimes(path, times);
-}
-
 void SystemHost::Wait(std::chrono::milliseconds time) { std::this_thread::sleep_for(time); }
 
 }  // namespace deploy

@@ -26,9 +26,6 @@ class SystemHost : public Host {
   void Copy(const std::string& from, const std::string& to) override;
   void WriteNewFile(const std::string& path, std::span<const std::byte> bytes) override;
 
-  modWindowsFileInfo::FileTimes ReadTimes(const std::string& path) const override;
-  void SetTimes(const std::string& path, const modWindowsFileInfo::FileTimes& times) override;
-
   void Wait(std::chrono::milliseconds time) override;
   void ShowMessage(const std::string& text) override { showMessage_(text); }
 

@@ -66,6 +66,14 @@ void WindowsHost::Copy(const std::string& from, const std::string& to) {
   }
 }
 
+modWindowsFileInfo::FileTimes WindowsHost::ReadTimes(const std::string& path) const {
+  return modWindowsFileInfo::ReadFileTimes(path);
+}
+
+void WindowsHost::SetTimes(const std::string& path, const modWindowsFileInfo::FileTimes& times) {
+  modWindowsFileInfo::SetFileTimes(path, times);
+}
+
 void WindowsHost::StartProcess(const std::string& path, WindowState window) {
   const std::wstring program = NativePath(path);
   std::wstring commandLine = L'"' + program + L'"';

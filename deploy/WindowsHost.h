@@ -17,6 +17,8 @@ class WindowsHost : public SystemHost {
                                       const std::string& name) const override;
   // A copy keeps the time of last writing and the attributes; a read-only file gives way too.
   void Copy(const std::string& from, const std::string& to) override;
+  modWindowsFileInfo::FileTimes ReadTimes(const std::string& path) const override;
+  void SetTimes(const std::string& path, const modWindowsFileInfo::FileTimes& times) override;
   void StartProcess(const std::string& path, WindowState window) override;
 };
 

@@ -65,12 +65,12 @@ ReportResult WriteGcdFiles(const FileState& state, const GcdOptions& options,
   for (std::int32_t i = 1; i <= state.GaitEvents.ValidStrideCount; ++i) {
     const std::string name = writer.WriteGcdFileForStride(i);
     if (name.empty()) {
-      output.AppendOutput("Cancelled.", true, false);
+      output.PaneLine("Cancelled.");
       return ReportResult::Written();
     }
-    output.AppendOutput("Output: " + name, true, false);
+    output.PaneLine("Output: " + name);
   }
-  output.AppendOutput("Done.", true, false);
+  output.PaneLine("Done.");
   return ReportResult::Written();
 }
 

@@ -22,10 +22,9 @@ __extension__ using Wide = unsigned __int128;
 constexpr int kMantissaBits = 52;
 constexpr int kExponentBias = 1023;
 constexpr unsigned kExponentMask = 0x7FF;
-constexpr std::size_t kMostDecimals = 12;
 
 constexpr auto kPowersOfTen = [] {
-  std::array<std::uint64_t, kMostDecimals + 1> powers{};
+  std::array<std::uint64_t, NumberPattern::kMostDecimals + 1> powers{};
   std::uint64_t power = 1;
   for (auto& entry : powers) {
     entry = power;
@@ -87,8 +86,11 @@ constexpr auto kDigitPairs = [] {
 // one piece.
 class BackwardWriter {
  public:
-  // Characters there is room for: a number below 2^53 with all its decimals needs 29.
-  static constexpr std::size_t kRoom = 64;
+  // Characters there is room for: blanks, the sign, a number below 2^53, which has no more digits
+  // than a pattern may have places, the point and the decimals.
+  static constexpr std::size_t kRoom = NumberPattern::kMostBlanks +
+                                       NumberPattern::kMostIntegerPlaces +
+                                       NumberPattern::kMostDecimals + 2;
 
   void Put(char character) {
     if (first_ > 0) characters_[--first_] = character;

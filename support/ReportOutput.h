@@ -11,16 +11,17 @@ namespace modAllPurpose {
 // stands in place of a report.
 class [[nodiscard]] ReportResult {
  public:
-  static ReportResult Written() { return ReportResult({}); }
-  // `text` must not be empty.
-  static ReportResult Rejected(std::string text) { return ReportResult(std::move(text)); }
+  static ReportResult Written() { return {false, {}}; }
+  static ReportResult Rejected(std::string text) { return {true, std::move(text)}; }
 
-  bool IsRejected() const { return !text_.empty(); }
+  bool IsRejected() const { return rejected_; }
+  // Empty for a report that was written.
   const std::string& Text() const { return text_; }
 
  private:
-  explicit ReportResult(std::string text) : text_(std::move(text)) {}
+  ReportResult(bool rejected, std::string text) : rejected_(rejected), text_(std::move(text)) {}
 
+  bool rejected_;
   std::string text_;
 };
 
@@ -43,6 +44,9 @@ class ReportOutput {
 
   // One whole line.
   void Line(std::string_view text) { AppendOutput(text, false, false); }
+
+  // One whole line that stays out of the desktop copy.
+  void PaneLine(std::string_view text) { AppendOutput(text, true, false); }
 
   // The start of a line that a later piece completes.
   void Piece(std::string_view text) { AppendOutput(text, false, true); }

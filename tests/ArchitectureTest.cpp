@@ -63,7 +63,7 @@ std::vector<Include> IncludesIn(const std::string& folder) {
   return includes;
 }
 
-// The folder of the program that a quoted include reaches into; empty for a generated header.
+// The folder that a quoted include reaches into; empty where it names none.
 std::string FolderOf(const std::string& target) {
   const auto slash = target.rfind('/');
   return slash == std::string::npos ? std::string() : target.substr(0, slash);

@@ -12,6 +12,7 @@
 #include "sample/TrialBuilder.h"
 #include "support/ReportOutput.h"
 #include "support/RuntimeError.h"
+#include "tests/ErrorNumbers.h"
 
 namespace tests {
 
@@ -92,6 +93,9 @@ inline constexpr std::int32_t kReserved4 = 469;
 inline constexpr std::int32_t kSectionPosition = 513;
 inline constexpr std::int32_t kProcessorPosition = 516;
 inline constexpr std::int32_t kFirstRecordPosition = 517;
+
+// The fourth byte of a file of a third processor, which is not read.
+inline constexpr std::uint8_t kProcessorMips = 86;
 
 // Deletes the file at `path`, if there is one, so that its name is free at once. Windows keeps the
 // name of a deleted file taken as long as the file is open, so it gets another one first.

@@ -20,9 +20,9 @@ using sample::TrialBuilder;
 using tests::ErrorNumberOf;
 using tests::OpenedTrial;
 
-constexpr int kSubscriptOutOfRange = 9;
-constexpr int kDivisionByZero = 11;
-constexpr int kInputPastEndOfFile = 62;
+using tests::kDivisionByZero;
+using tests::kInputPastEndOfFile;
+using tests::kSubscriptOutOfRange;
 constexpr std::int32_t kSamplesPerChannelPosition = 19;
 
 // One point; `channels` channels with `samples` samples a frame, each value different: sample s of

@@ -20,8 +20,8 @@ namespace {
 using modVantrel::BinaryFile;
 using tests::ErrorNumberOf;
 
-constexpr int kPermissionDenied = 70;
-constexpr int kPathFileAccessError = 75;
+using tests::kPathFileAccessError;
+using tests::kPermissionDenied;
 
 class UnreadableFile : public testing::Test {
  protected:

@@ -19,11 +19,11 @@ using modVantrel::BinaryFile;
 using tests::ErrorNumberOf;
 
 constexpr int kNoError = 0;
-constexpr int kFileNotFound = 53;
-constexpr int kInputPastEndOfFile = 62;
-constexpr int kBadRecordNumber = 63;
-constexpr int kPathFileAccessError = 75;
-constexpr int kPathNotFound = 76;
+using tests::kBadRecordNumber;
+using tests::kFileNotFound;
+using tests::kInputPastEndOfFile;
+using tests::kPathFileAccessError;
+using tests::kPathNotFound;
 
 // Every byte of the file tells its own place: the byte at position p is (p - 1) modulo 251.
 std::uint8_t ByteAt(std::int32_t position) {

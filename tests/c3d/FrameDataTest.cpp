@@ -20,10 +20,10 @@ using sample::TrialBuilder;
 using tests::ErrorNumberOf;
 using tests::OpenedTrial;
 
-constexpr int kSubscriptOutOfRange = 9;
-constexpr int kDivisionByZero = 11;
-constexpr int kInputPastEndOfFile = 62;
-constexpr int kBadRecordNumber = 63;
+using tests::kBadRecordNumber;
+using tests::kDivisionByZero;
+using tests::kInputPastEndOfFile;
+using tests::kSubscriptOutOfRange;
 
 // Values that a scale of 0.5 stores as whole numbers, different in every label and frame.
 std::array<float, 3> Coordinates(std::int32_t label, std::int32_t frame) {

@@ -15,8 +15,8 @@ using tests::Entries;
 using tests::ErrorNumberOf;
 using tests::TemporaryFolder;
 
-constexpr int kSubscriptOutOfRange = 9;
-constexpr int kFileNotFound = 53;
+using tests::kFileNotFound;
+using tests::kSubscriptOutOfRange;
 
 // A data file of that text, open and read.
 class ReadDataFile {

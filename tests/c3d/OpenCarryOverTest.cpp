@@ -188,7 +188,8 @@ TEST_F(FailedOpenTest, ATruncatedHeaderLeavesTheFormerHeader) {
 }
 
 TEST_F(FailedOpenTest, AWrongProcessorLeavesTheNewHeaderAndTheFormerDerivedValues) {
-  const Trial mips = TrialBuilder().Rate(200).Build().SetByte(tests::kProcessorPosition, 86);
+  const Trial mips =
+      TrialBuilder().Rate(200).Build().SetByte(tests::kProcessorPosition, tests::kProcessorMips);
   EXPECT_EQ(opener_.Open(mips), OpenResult::ProcessorNotSupported);
   EXPECT_EQ(State().Header.PointFrameRate, 200.0F);
   EXPECT_EQ(State().ProcessorType, 84);

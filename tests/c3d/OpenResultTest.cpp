@@ -21,9 +21,9 @@ using tests::ErrorNumberOf;
 using Bytes = std::vector<std::uint8_t>;
 using Integers = std::vector<std::int16_t>;
 
-constexpr int kOverflow = 6;
-constexpr int kInputPastEndOfFile = 62;
-constexpr int kBadRecordNumber = 63;
+using tests::kBadRecordNumber;
+using tests::kInputPastEndOfFile;
+using tests::kOverflow;
 
 class OpenResultTest : public testing::Test {
  protected:
@@ -172,7 +172,7 @@ const std::vector<Fault>& FaultsInOrder() {
       {OpenResult::FileKeyNotFound, nothing,
        [](Trial& trial) { trial.SetByte(tests::header::kFileID, 0); }},
       {OpenResult::ProcessorNotSupported, nothing,
-       [](Trial& trial) { trial.SetByte(tests::kProcessorPosition, 86); }},
+       [](Trial& trial) { trial.SetByte(tests::kProcessorPosition, tests::kProcessorMips); }},
       {OpenResult::NoFrames, nothing, [](Trial& trial) { trial.ClaimFrames(5, 4); }},
       {OpenResult::FrameRateNotSet,
        [](TrialBuilder& builder) {

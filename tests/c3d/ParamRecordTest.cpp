@@ -21,9 +21,9 @@ using tests::ErrorNumberOf;
 using Bytes = std::vector<std::uint8_t>;
 
 constexpr int kNoError = 0;
-constexpr int kSubscriptOutOfRange = 9;
-constexpr int kInputPastEndOfFile = 62;
-constexpr int kBadRecordNumber = 63;
+using tests::kBadRecordNumber;
+using tests::kInputPastEndOfFile;
+using tests::kSubscriptOutOfRange;
 
 Bytes operator+(Bytes left, const Bytes& right) {
   left.insert(left.end(), right.begin(), right.end());

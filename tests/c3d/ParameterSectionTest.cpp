@@ -19,7 +19,7 @@ using tests::ErrorNumberOf;
 
 using Integers = std::vector<std::int16_t>;
 
-constexpr int kInputPastEndOfFile = 62;
+using tests::kInputPastEndOfFile;
 
 // The parameter section of a trial, looked at without an open, so that damage to it can be seen.
 class ParameterSectionTest : public testing::Test {

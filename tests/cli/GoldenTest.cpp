@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <set>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -78,18 +80,44 @@ TEST(Golden, EveryReportOfTheToolPrintsItsText) {
   }
 }
 
-TEST(Golden, GcdFilesHaveTheirTexts) {
+// The strides of the sample walk whose files were read over.
+constexpr auto kReadOverLeft = "sample-walk-L1.gcd";
+constexpr auto kReadOverRight = "sample-walk-R3.gcd";
+
+TEST(Golden, GcdFilesOfBothSidesHaveTheirTexts) {
   const ToolInFolder tool;
   ASSERT_EQ(tool.Run({"gcd", tests::kSampleWalk}).Status, 0);
-  std::vector<std::string> expected;
-  for (const std::string& name : tests::NamesIn(kGolden)) {
-    if (name.ends_with(".gcd")) expected.push_back(name);
+  for (const char* name : {kReadOverLeft, kReadOverRight}) ExpectGolden(name, tool.Read(name));
+}
+
+// A GCD file's lines without those that are numbers: the names of its measures and curves.
+std::vector<std::string> NamesOfValues(const std::string& text) {
+  std::vector<std::string> names = tests::LinesOf(text, "\r\n");
+  std::erase_if(names, [](const std::string& line) {
+    return line.find_first_not_of("-.0123456789") == std::string::npos;
+  });
+  return names;
+}
+
+TEST(Golden, EveryStrideHasAGcdFileOfItsOwnWithTheValuesOfItsSide) {
+  const ToolInFolder tool;
+  ASSERT_EQ(tool.Run({"gcd", tests::kSampleWalk}).Status, 0);
+  std::vector<std::string> files;
+  std::set<std::string> texts;
+  for (const auto& [side, readOver] :
+       {std::pair{"L", kReadOverLeft}, std::pair{"R", kReadOverRight}}) {
+    const std::string golden = ReadWholeFile(kGolden / readOver);
+    for (const std::string number : {"1", "2", "3"}) {
+      const std::string& name = files.emplace_back("sample-walk-" + (side + number) + ".gcd");
+      const std::string text = tool.Read(name);
+      EXPECT_EQ(NamesOfValues(text), NamesOfValues(golden)) << name;
+      EXPECT_EQ(std::ranges::count(text, '\n'), std::ranges::count(golden, '\n')) << name;
+      EXPECT_TRUE(texts.insert(text).second) << name << " is the file of another stride";
+    }
   }
-  EXPECT_EQ(expected.size(), 6U);
-  for (const std::string& name : expected) ExpectGolden(name, tool.Read(name));
-  expected.emplace_back(tests::kSampleWalk);
-  std::ranges::sort(expected);
-  EXPECT_EQ(tests::NamesIn(tool.Path()), expected) << "and nothing else is written";
+  files.emplace_back(tests::kSampleWalk);
+  std::ranges::sort(files);
+  EXPECT_EQ(tests::NamesIn(tool.Path()), files) << "and nothing else is written";
 }
 
 TEST(Golden, EveryTextHasItsCase) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // A program that does nothing but deploy its stand-ins, with waits a twentieth as long, and writes
-// what it does to the file "log.txt" beside it.
+// what it does, and what is unusual in how it was started, to the file "log.txt" beside it.
 #include <fstream>
 #include <iterator>
 #include <string>
@@ -16,9 +16,10 @@
 
 namespace {
 
+using tests::OwnSystem;
 using namespace std::chrono_literals;
 
-class ProbeHost : public tests::OwnSystem {
+class ProbeHost : public OwnSystem {
  public:
   ProbeHost() : OwnSystem([this](const std::string& text) { Log("says " + text); }) {}
 
@@ -66,21 +67,26 @@ class ProbeHost : public tests::OwnSystem {
   }
 };
 
-bool WasStartedMinimized() {
+// How the process that started this one wants its window shown; empty where it is shown as usual.
+std::string WindowState() {
 #ifdef _WIN32
   STARTUPINFOW start{};
   ::GetStartupInfoW(&start);
-  return (start.dwFlags & STARTF_USESHOWWINDOW) != 0 && start.wShowWindow == SW_SHOWMINIMIZED;
+  if ((start.dwFlags & STARTF_USESHOWWINDOW) == 0) return "was told nothing of its window";
+  if (start.wShowWindow == SW_SHOWNORMAL) return {};
+  if (start.wShowWindow == SW_SHOWMINIMIZED) return "is minimised";
+  return "is in window state " + std::to_string(start.wShowWindow);
 #else
-  return false;  // nobody says
+  return {};  // nobody says
 #endif
 }
 
 }  // namespace
 
-int main() {
+int main(int count, char** /*arguments*/) {
   ProbeHost host;
-  if (WasStartedMinimized()) host.Log("is minimised");
+  if (count != 1) host.Log("was given arguments");
+  if (const std::string state = WindowState(); !state.empty()) host.Log(state);
   if (modVantrel_PatchUp::DeployDependencies(host)) {
     host.Log("goes on");
   } else {

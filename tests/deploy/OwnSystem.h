@@ -4,21 +4,17 @@
 #ifdef _WIN32
 #include "deploy/WindowsHost.h"
 #else
-#include "deploy/PosixHost.h"
+#include "tests/deploy/PosixHost.h"
 #endif
 
 namespace tests {
 
+// The host of the system that this runs on. A program that uses it carries the stand-ins as its
+// resources.
 #ifdef _WIN32
-using SystemBase = deploy::WindowsHost;
+using OwnSystem = deploy::WindowsHost;
 #else
-using SystemBase = deploy::PosixHost;
+using OwnSystem = PosixHost;
 #endif
-
-// The host of the system that this runs on, carrying the stand-ins.
-class OwnSystem : public SystemBase {
- public:
-  explicit OwnSystem(deploy::MessageShower showMessage);
-};
 
 }  // namespace tests

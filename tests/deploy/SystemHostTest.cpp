@@ -5,6 +5,7 @@
 #include <fstream>
 #include <span>
 #include <string>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -38,6 +39,27 @@ class SystemHost : public testing::Test {
   std::string shown_;
   tests::OwnSystem host_{[this](const std::string& text) { shown_ = text; }};
 };
+
+// A system that tells the program's path or, where that is empty, cannot.
+class Told : public deploy::SystemHost {
+ public:
+  explicit Told(std::string programPath)
+      : deploy::SystemHost(std::move(programPath), [](const std::string&) {}) {}
+
+  std::string LowerCase(const std::string& text) const override { return text; }
+  std::span<const std::byte> Resource(const std::string& /*type*/,
+                                      const std::string& /*name*/) const override {
+    return {};
+  }
+  FileTimes ReadTimes(const std::string& /*path*/) const override { return {}; }
+  void SetTimes(const std::string& /*path*/, const FileTimes& /*times*/) override {}
+  void StartProcess(const std::string& /*path*/, deploy::WindowState /*window*/) override {}
+};
+
+TEST_F(SystemHost, ThatCannotTellTheProgramsPathHasAnErrorPending) {
+  EXPECT_TRUE(Told("").ErrorIsPending());
+  EXPECT_FALSE(Told(Path("vantrel.exe")).ErrorIsPending());
+}
 
 TEST_F(SystemHost, KnowsTheProgramByItsWholePath) {
   const fs::path program = modAllPurpose::NativePath(host_.ProgramPath());

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <utility>
 #include <windows.h>
 
 #include <gtest/gtest.h>
@@ -14,6 +15,35 @@
 namespace {
 
 namespace fs = std::filesystem;
+
+// What was last handed to the system's CreateProcessW, which this program calls through SeeStart.
+struct Start {
+  std::wstring Program;
+  std::wstring CommandLine;
+  DWORD CreationFlags = 0;
+  DWORD WindowFlags = 0;
+  WORD ShowWindow = 0;
+};
+Start handedOver;
+
+}  // namespace
+
+extern "C" {
+// The places where the program finds the function, the system's own and the one that it is given.
+extern decltype(&::CreateProcessW) systemsCreateProcess __asm__("__real___imp_CreateProcessW");
+extern decltype(&::CreateProcessW) givenCreateProcess __asm__("__wrap___imp_CreateProcessW");
+
+static BOOL WINAPI SeeStart(LPCWSTR program, LPWSTR commandLine, LPSECURITY_ATTRIBUTES process,
+                            LPSECURITY_ATTRIBUTES thread, BOOL inherit, DWORD flags, LPVOID setting,
+                            LPCWSTR folder, LPSTARTUPINFOW start, LPPROCESS_INFORMATION made) {
+  handedOver = {program, commandLine, flags, start->dwFlags, start->wShowWindow};
+  return systemsCreateProcess(program, commandLine, process, thread, inherit, flags, setting,
+                              folder, start, made);
+}
+decltype(&::CreateProcessW) givenCreateProcess = &SeeStart;
+}
+
+namespace {
 
 class WindowsHost : public testing::Test {
  protected:
@@ -52,6 +82,23 @@ TEST_F(WindowsHost, CopiesOverAReadOnlyFile) {
   host_.Copy(Path("from"), Path("to"));
   EXPECT_EQ(tests::ReadWholeFile(folder_ / "to"), "new");
   EXPECT_FALSE(IsReadOnly("to"));
+}
+
+// No program is there, so that the system is asked and nothing starts.
+TEST_F(WindowsHost, StartsAProgramInAVisibleWindowWithoutArguments) {
+  const std::wstring program = (folder_ / "a b.exe").native();
+  for (const auto& [state, show] :
+       {std::pair{deploy::WindowState::NormalFocus, SW_SHOWNORMAL},
+        std::pair{deploy::WindowState::MinimizedFocus, SW_SHOWMINIMIZED}}) {
+    EXPECT_EQ(
+        tests::ErrorNumberOf([&, asked = state] { host_.StartProcess(Path("a b.exe"), asked); }),
+        53);
+    EXPECT_EQ(handedOver.Program, program);
+    EXPECT_EQ(handedOver.CommandLine, L'"' + program + L'"');
+    EXPECT_EQ(handedOver.CreationFlags, 0U) << "a console and a window as every program has them";
+    EXPECT_EQ(handedOver.WindowFlags, DWORD{STARTF_USESHOWWINDOW});
+    EXPECT_EQ(handedOver.ShowWindow, show);
+  }
 }
 
 TEST_F(WindowsHost, KnowsTheLowerCaseOfLettersOutsideAscii) {

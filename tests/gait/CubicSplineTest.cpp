@@ -21,8 +21,8 @@ using modVantrel::Component;
 using modVantrel::PointSamples;
 using tests::ErrorNumberOf;
 
-constexpr int kSubscriptOutOfRange = 9;
-constexpr int kDivisionByZero = 11;
+using tests::kDivisionByZero;
+using tests::kSubscriptOutOfRange;
 
 // Samples whose X is `curve` at `count` times from `start` on; Y is 2 X and Z is -X.
 PointSamples Sampled(const std::function<double(double)>& curve, std::int32_t count, double start,
@@ -314,7 +314,7 @@ TEST(CubicSpline, MissingSampleSpreadsAsNotANumber) {
 }
 
 TEST(CubicSpline, ValueTooLargeForAFloatIsAnOverflow) {
-  constexpr int kOverflow = 6;
+  using tests::kOverflow;
   EXPECT_EQ(ErrorNumberOf([] { SplineThrough({{0, 0}, {1e-3F, 3e38F}, {2e-3F, 0}}); }), kOverflow);
 }
 

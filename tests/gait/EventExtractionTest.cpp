@@ -21,7 +21,7 @@ using tests::Entries;
 using tests::ErrorNumberOf;
 using tests::OpenedWalk;
 
-constexpr int kInputPastEndOfFile = 62;
+using tests::kInputPastEndOfFile;
 
 OpenedWalk Open(const TrialBuilder& builder) { return {builder.Build(), FindGaitEvents}; }
 

@@ -25,8 +25,8 @@ using tests::OpenedWalk;
 using tests::ReadWholeFile;
 using tests::TemporaryFolder;
 
-constexpr int kDivisionByZero = 11;
-constexpr int kPathNotFound = 76;
+using tests::kDivisionByZero;
+using tests::kPathNotFound;
 
 // Answers as it was told and keeps the names it was asked about.
 class ToldAnswers : public OverwriteQuestion {

@@ -28,8 +28,8 @@ using tests::OpenedWalk;
 using tests::ReadWholeFile;
 using tests::TemporaryFolder;
 
-constexpr int kDiskFull = 61;
-constexpr int kPermissionDenied = 70;
+using tests::kDiskFull;
+using tests::kPermissionDenied;
 constexpr int kNotPossibleHere = 200;
 constexpr int kOldFileChanged = 201;
 

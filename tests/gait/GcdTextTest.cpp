@@ -32,10 +32,10 @@ sample::TrialBuilder TrialWithToes() {
 
 OpenedWalk Open(const sample::TrialBuilder& builder) { return {builder.Build(), FindGaitEvents}; }
 
-std::string Text(const FileState& state, const SubjectRecord& subject = {}, bool append = false,
-                 bool suppressVideoRate = false) {
+std::string Text(const FileState& state, const SubjectRecord& subject = {},
+                 const GcdTextOptions& options = {}) {
   clsGcdCalcs calcs(state);
-  return GcdText(calcs, 1, subject, {append, suppressVideoRate});
+  return GcdText(calcs, 1, subject, options);
 }
 
 Lines TextLinesOf(const sample::TrialBuilder& builder) {
@@ -136,13 +136,15 @@ TEST(GcdText, HeaderNamesTheSubject) {
 
 TEST(GcdText, AppendModeLeavesOutTheHeader) {
   OpenedWalk walk = Open(TrialWithToes());
-  EXPECT_EQ(Text(walk.State(), {}, true), std::string(kMeasures) + std::string(kVideoRate));
+  EXPECT_EQ(Text(walk.State(), {}, {.AppendMode = true}),
+            std::string(kMeasures) + std::string(kVideoRate));
 }
 
 TEST(GcdText, VideoRateCanBeSuppressed) {
   OpenedWalk walk = Open(TrialWithToes());
-  EXPECT_EQ(Text(walk.State(), {}, false, true), std::string(kHeader) + std::string(kMeasures));
-  EXPECT_EQ(Text(walk.State(), {}, true, true), kMeasures);
+  EXPECT_EQ(Text(walk.State(), {}, {.SuppressVideoRate = true}),
+            std::string(kHeader) + std::string(kMeasures));
+  EXPECT_EQ(Text(walk.State(), {}, {.AppendMode = true, .SuppressVideoRate = true}), kMeasures);
 }
 
 TEST(GcdText, WalkAlongYExchangesSagittalAndCoronal) {

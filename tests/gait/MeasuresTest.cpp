@@ -22,9 +22,9 @@ using tests::Moving;
 using tests::OpenedWalk;
 using tests::Standing;
 
-constexpr int kOverflow = 6;
-constexpr int kSubscriptOutOfRange = 9;
-constexpr int kDivisionByZero = 11;
+using tests::kDivisionByZero;
+using tests::kOverflow;
+using tests::kSubscriptOutOfRange;
 
 // The lengths' calibration: the float 1.005.
 const double kCalibration{1.005F};

@@ -19,9 +19,9 @@ using tests::Moving;
 using tests::OpenedWalk;
 using tests::Standing;
 
-constexpr int kSubscriptOutOfRange = 9;
-constexpr int kDivisionByZero = 11;
-constexpr int kInputPastEndOfFile = 62;
+using tests::kDivisionByZero;
+using tests::kInputPastEndOfFile;
+using tests::kSubscriptOutOfRange;
 
 // The whole-frame trial with one label: X, Y and Z are the frame's number times 1, -2 and 0.5.
 sample::TrialBuilder KneeTrial() {

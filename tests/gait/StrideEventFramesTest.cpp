@@ -11,7 +11,7 @@ namespace {
 
 using namespace modVantrel;
 
-constexpr int kOverflow = 6;
+using tests::kOverflow;
 
 // The frame of an event at `seconds` at 64 frames per second, where times are exact.
 std::int32_t FrameOf(float seconds, std::int16_t firstFrame = 1) {

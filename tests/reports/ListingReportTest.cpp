@@ -22,8 +22,8 @@ using sample::TrialBuilder;
 using tests::ErrorNumberOf;
 using tests::OpenedTrial;
 
-constexpr int kSubscriptOutOfRange = 9;
-constexpr int kInputPastEndOfFile = 62;
+using tests::kInputPastEndOfFile;
+using tests::kSubscriptOutOfRange;
 
 using Listing = ReportResult (*)(const FileState&, std::string_view, ReportOutput&);
 

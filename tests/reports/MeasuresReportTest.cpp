@@ -17,7 +17,7 @@ using tests::Moving;
 using tests::OpenedWalk;
 using tests::Standing;
 
-constexpr int kDivisionByZero = 11;
+using tests::kDivisionByZero;
 
 std::string MeasuresReport(const FileState& state) {
   return tests::TextOf([&](auto& output) { ShowSingleValueStrikeOffMeasures(state, output); });

@@ -13,8 +13,8 @@ namespace {
 using namespace modAllPurposeNumbers;
 using tests::ErrorNumberOf;
 
-constexpr int kOverflow = 6;
-constexpr int kDivisionByZero = 11;
+using tests::kDivisionByZero;
+using tests::kOverflow;
 
 TEST(ToSingle, RoundsToTheNearestFloat) {
   EXPECT_EQ(ToSingle(0.1), 0.1F);

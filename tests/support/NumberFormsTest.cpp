@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include "support/NumberForms.h"
+#include "tests/TestTrials.h"
 
 namespace {
 
@@ -63,6 +64,21 @@ TEST(NumberPattern, OptionalDigits) {
              Row{"0.0###########", 0.98999989032745361, "0.989999890327"}, Row{"#0.00", 0, "0.00"},
              Row{"#0.00", 12.125, "12.13"}, Row{"#0.00", 12.3456, "12.35"},
              Row{"#0.00", 100.999, "101.00"}});
+}
+
+TEST(NumberPattern, ThatIsAsLongAsItMayBePrintsAllItsPlaces) {
+  const std::string blanks(16, ' ');
+  const std::string pattern = blanks + "0000000000000000.000000000000";
+  CheckRows({Row{pattern, -1.5, "-" + blanks + "0000000000000001.500000000000"},
+             Row{pattern, -9007199254740991.0, "-" + blanks + "9007199254740991.000000000000"}});
+}
+
+TEST(NumberPattern, ThatIsTooLongOrNoPatternIsRefused) {
+  for (const std::string pattern :
+       {"                 0", "00000000000000000", "#################", "0.0000000000000",
+        "0.0############", "0,0", "0 0", "0.0.0", "0.0 ", "0#.0", "0.#0", "-0"}) {
+    EXPECT_EQ(tests::ErrorNumberOf([&] { (void)NumberPattern(pattern); }), 9) << pattern;
+  }
 }
 
 TEST(NumberPattern, TiesGoAwayFromZero) {

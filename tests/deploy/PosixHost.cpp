@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "deploy/PosixHost.h"
+#include "tests/deploy/PosixHost.h"
 
 #include <algorithm>
 #include <array>
@@ -12,8 +12,9 @@
 
 #include "support/FileSystem.h"
 #include "support/RuntimeError.h"
+#include "tests/deploy/StandIns.h"
 
-namespace deploy {
+namespace tests {
 
 namespace {
 
@@ -24,8 +25,8 @@ std::string PathOfThisProgram() {
 
 }  // namespace
 
-PosixHost::PosixHost(std::span<const PosixResource> resources, MessageShower showMessage)
-    : SystemHost(PathOfThisProgram(), std::move(showMessage)), resources_(resources) {}
+PosixHost::PosixHost(deploy::MessageShower showMessage)
+    : SystemHost(PathOfThisProgram(), std::move(showMessage)) {}
 
 std::string PosixHost::LowerCase(const std::string& text) const {
   std::string lower = text;
@@ -37,16 +38,25 @@ std::string PosixHost::LowerCase(const std::string& text) const {
 
 std::span<const std::byte> PosixHost::Resource(const std::string& type,
                                                const std::string& name) const {
-  const auto found = std::ranges::find_if(resources_, [&](const PosixResource& resource) {
-    return resource.Type == type && resource.Name == name;
+  const auto standIns = StandIns();
+  const auto found = std::ranges::find_if(standIns, [&](const StandIn& standIn) {
+    return standIn.Type == type && standIn.Name == name;
   });
-  if (found == resources_.end()) {
+  if (found == standIns.end()) {
     throw modAllPurpose::RuntimeError(modAllPurpose::ErrorNumber::FileNotFound);
   }
-  return found->Bytes;
+  return std::as_bytes(std::span(found->Bytes));
 }
 
-void PosixHost::StartProcess(const std::string& path, WindowState /*window*/) {
+modWindowsFileInfo::FileTimes PosixHost::ReadTimes(const std::string& path) const {
+  return modWindowsFileInfo::ReadFileTimes(path);
+}
+
+void PosixHost::SetTimes(const std::string& path, const modWindowsFileInfo::FileTimes& times) {
+  modWindowsFileInfo::SetFileTimes(path, times);
+}
+
+void PosixHost::StartProcess(const std::string& path, deploy::WindowState /*window*/) {
   std::string program = path;
   const std::array<char*, 2> arguments = {program.data(), nullptr};
   pid_t process = 0;
@@ -55,4 +65,4 @@ void PosixHost::StartProcess(const std::string& path, WindowState /*window*/) {
   if (failure != 0) throw modAllPurpose::FileErrorFromErrno(failure);
 }
 
-}  // namespace deploy
+}  // namespace tests
