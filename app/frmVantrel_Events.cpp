@@ -40,38 +40,17 @@ bool AcceptCopy(QDropEvent* event) {
 
 }  // namespace
 
-void frmVantrel::OnClick(QPushButton* button, Handler handler) {
-  connect(button, &QPushButton::clicked, this,
-          [this, handler] { Run([&] { (this->*handler)(); }); });
-}
-
-void frmVantrel::OnKeys(const QKeySequence& keys, Handler handler) {
+void frmVantrel::OnKeys(const QKeySequence& keys, FormHandler handler) {
   auto* shortcut = new QShortcut(keys, this);
   connect(shortcut, &QShortcut::activated, this,
           [this, handler] { Run([&] { (this->*handler)(); }); });
 }
 
 void frmVantrel::ConnectControls() {
-  OnClick(controls_.cmdOpen, &frmVantrel::cmdOpen_Click);
-  OnClick(controls_.cmdExit, &frmVantrel::cmdExit_Click);
-  OnClick(controls_.cmdShowHeaderInfo, &frmVantrel::cmdShowHeaderInfo_Click);
-  OnClick(controls_.cmdShowParameterHeader, &frmVantrel::cmdShowParameterHeader_Click);
-  OnClick(controls_.cmdShowAllGroups, &frmVantrel::cmdShowAllGroups_Click);
-  OnClick(controls_.cmdShowAllGroupsAndAllParams, &frmVantrel::cmdShowAllGroupsAndAllParams_Click);
-  OnClick(controls_.cmdShowMatchingGroupAndAllParams,
-          &frmVantrel::cmdShowMatchingGroupAndAllParams_Click);
-  OnClick(controls_.cmdShowMatchingGroupAndMatchingParam,
-          &frmVantrel::cmdShowMatchingGroupAndMatchingParam_Click);
-  OnClick(controls_.cmdShowPointLabels, &frmVantrel::cmdShowPointLabels_Click);
-  OnClick(controls_.cmdShowPointData, &frmVantrel::cmdShowPointData_Click);
-  OnClick(controls_.cmdShowPointDataWithEvents, &frmVantrel::cmdShowPointDataWithEvents_Click);
-  OnClick(controls_.cmdShowAnalogData, &frmVantrel::cmdShowAnalogData_Click);
-  OnClick(controls_.cmdShowAnalogDataWithEvents, &frmVantrel::cmdShowAnalogDataWithEvents_Click);
-  OnClick(controls_.cmdShowStrikeOffEvents, &frmVantrel::cmdShowStrikeOffEvents_Click);
-  OnClick(controls_.cmdShowSingleValueStrikeOffMeasures,
-          &frmVantrel::cmdShowSingleValueStrikeOffMeasures_Click);
-  OnClick(controls_.cmdShowNormalized, &frmVantrel::cmdShowNormalized_Click);
-  OnClick(controls_.cmdWriteGcdFiles, &frmVantrel::cmdWriteGcdFiles_Click);
+  for (const auto& [button, handler] : controls_.Buttons) {
+    connect(button, &QPushButton::clicked, this,
+            [this, run = handler] { Run([&] { (this->*run)(); }); });
+  }
   connect(controls_.tre, &NodeTree::NodeClick, this,
           [this](const QTreeWidgetItem* node) { Run([&] { tre_NodeClick(node); }); });
   connect(controls_.tre, &NodeTree::DblClick, this,
