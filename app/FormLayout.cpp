@@ -9,6 +9,7 @@
 #include <QPushButton>
 
 #include "app/CaptionButton.h"
+#include "app/FormColumn.h"
 #include "app/NodeTree.h"
 #include "app/OutputPane.h"
 
@@ -24,8 +25,7 @@ constexpr int kCaptionSize = 12;
 constexpr QRect kCheckBoxPlace(kFormMargin, 447, kColumnWidth, 34);
 constexpr QPoint kTreeLabelPlace(kFormMargin, 483);
 constexpr int kTreeLabelHeight = 37;
-constexpr QRect kTreePlace(kFormMargin, 521, kColumnWidth,
-                           kDesignSize.height() - kFormMargin - 521);
+constexpr QRect kTreePlace(kFormMargin, kTreeTop, kColumnWidth, kTreeHeight);
 constexpr QRect kPanePlace(kColumnsEnd, kFormMargin,
                            kDesignSize.width() - kColumnsEnd - kFormMargin,
                            kDesignSize.height() - 2 * kFormMargin);
@@ -40,16 +40,21 @@ QString Spoken(QString caption) {
 // Makes the controls of a form in the order in which they are asked for, which is the tab order.
 class FormBuilder {
  public:
-  FormBuilder(QWidget& form, FormControls& controls) : form_(form), controls_(controls) {}
+  FormBuilder(QWidget& form, FormControls& controls)
+      : form_(form),
+        column_(new FormColumn({kColumnsEnd, kDesignSize.height()}, &form)),
+        controls_(controls) {
+    controls_.Column = column_;
+  }
 
   void Add(const ButtonRow& row) {
-    auto* button = new CaptionButton(QString::fromUtf16(row.Caption), &form_);
+    auto* button = new CaptionButton(QString::fromUtf16(row.Caption), column_->Content());
     Finish(*button, row.Name, button->text(), row.Place);
     controls_.Buttons.push_back({button, row.Click});
   }
 
   void Add(const TextBoxRow& row) {
-    auto* box = new QLineEdit(&form_);
+    auto* box = new QLineEdit(column_->Content());
     const QString text = QString::fromUtf16(row.Label);
     Finish(*box, row.Name, text,
            {row.Place.x() + kLabelWidth, row.Place.y(), kHalfWidth - kLabelWidth, kTextBox});
@@ -58,7 +63,7 @@ class FormBuilder {
   }
 
   QLabel* AddLabel(const QString& text, const QRect& place, QWidget* buddy) {
-    auto* label = new QLabel(text, &form_);
+    auto* label = new QLabel(text, column_->Content());
     label->setTextFormat(Qt::PlainText);
     label->setBuddy(buddy);
     label->setGeometry(place);
@@ -67,12 +72,13 @@ class FormBuilder {
 
   void AddCheckBox() {
     controls_.chkOut = new CaptionCheckBox(
-        QStringLiteral("Also write output to file on your desktop (Vantrel_Output.txt)"), &form_);
+        QStringLiteral("Also write output to file on your desktop (Vantrel_Output.txt)"),
+        column_->Content());
     Finish(*controls_.chkOut, "chkOut", controls_.chkOut->text(), kCheckBoxPlace);
   }
 
   void AddTree() {
-    controls_.tre = new NodeTree(&form_);
+    controls_.tre = new NodeTree(column_->Content());
     Finish(*controls_.tre, "tre", QStringLiteral("Groups, Parameters, && Labels"), kTreePlace);
     // As wide as its second sentence, so that the run of blanks breaks it between the two.
     const QString hint = QStringLiteral("Click to select, double-click to show data.");
@@ -97,6 +103,7 @@ class FormBuilder {
   }
 
   QWidget& form_;
+  FormColumn* column_;
   FormControls& controls_;
 };
 
@@ -116,6 +123,7 @@ FormControls LayOutForm(QWidget& form) {
   }
   builder.AddCheckBox();
   builder.AddTree();
+  controls.Column->FollowTheKeys();
   builder.AddPane();
   return controls;
 }

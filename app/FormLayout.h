@@ -14,6 +14,7 @@ class QWidget;
 namespace app {
 
 class CaptionCheckBox;
+class FormColumn;
 class NodeTree;
 class OutputPane;
 
@@ -23,6 +24,8 @@ inline constexpr QSize kDesignSize(1180, 740);
 // The column of controls at the left of the form, within its margins.
 inline constexpr int kFormMargin = 8;
 inline constexpr int kColumnWidth = 414;
+inline constexpr int kTreeTop = 521;
+inline constexpr int kTreeHeight = kDesignSize.height() - kFormMargin - kTreeTop;
 inline constexpr int kHalfWidth = 203;  // of two controls side by side
 
 // A button of the form with what a press of it runs.
@@ -38,6 +41,7 @@ struct FormControls {
   QLineEdit* txtParam = nullptr;
   QLineEdit* txtPointLabel = nullptr;
   QLineEdit* txtAnalogLabel = nullptr;
+  FormColumn* Column = nullptr;  // holds all but the pane
   CaptionCheckBox* chkOut = nullptr;
   NodeTree* tre = nullptr;
   OutputPane* txt = nullptr;

@@ -88,7 +88,8 @@ class frmVantrel : public QWidget {
   void EndWithError(const modAllPurpose::RuntimeError& error);
   void Unload(int exitStatus);
 
-  void KeepFrameOnScreen();
+  void OpenWithin(const QMargins& frame);
+  void FitFrame();
   void Form_Resize();
   void Form_Unload();
 
@@ -116,7 +117,8 @@ class frmVantrel : public QWidget {
   std::string DesktopOutputPath_;
   std::string DialogFileSpec_;
   bool fileOpen_ = false;
-  bool wasActive_ = false;  // the window system has framed the form
+  bool wasPainted_ = false;
+  QSize openedSize_;
   std::optional<DesignSizes> design_;
   std::optional<int> exitStatus_;
 };
