@@ -2,6 +2,8 @@
 
 #include "app/CaptionButton.h"
 
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QStyleOptionButton>
 #include <QStylePainter>
 
@@ -35,6 +37,15 @@ QRect CaptionButton::CaptionArea() const {
   return style()
       ->subElementRect(QStyle::SE_PushButtonContents, &option, this)
       .adjusted(kEdge, 0, -kEdge, 0);
+}
+
+void CaptionButton::mouseDoubleClickEvent(QMouseEvent* event) { event->accept(); }
+
+void CaptionButton::keyPressEvent(QKeyEvent* event) {
+  if (event->isAutoRepeat() && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
+    return;
+  }
+  QPushButton::keyPressEvent(event);
 }
 
 void CaptionButton::paintEvent(QPaintEvent* /*event*/) {

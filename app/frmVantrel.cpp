@@ -91,6 +91,13 @@ void frmVantrel::Run(const std::function<void()>& handler) {
   }
 }
 
+void frmVantrel::RunCommand(const std::function<void()>& handler) {
+  gate_.Run([&] {
+    Run(handler);
+    return !IsUnloaded();
+  });
+}
+
 void frmVantrel::EndWithError(const RuntimeError& error) {
   ShowRuntimeError(this, error);
   Unload(1);

@@ -7,6 +7,7 @@
 
 #include <QWidget>
 
+#include "app/CommandGate.h"
 #include "app/DesktopCopy.h"
 #include "app/FormLayout.h"
 #include "app/FormReport.h"
@@ -85,6 +86,7 @@ class frmVantrel : public QWidget {
   void AcceptDrops();
   void OnKeys(const QKeySequence& keys, FormHandler handler);
   void Run(const std::function<void()>& handler);
+  void RunCommand(const std::function<void()>& handler);
   void EndWithError(const modAllPurpose::RuntimeError& error);
   void Unload(int exitStatus);
 
@@ -113,6 +115,7 @@ class frmVantrel : public QWidget {
   modVantrel::FileState& state_;
   FormControls controls_;
   FindBar* findBar_;
+  CommandGate gate_;
   DesktopCopy desktopCopy_;
   std::string DesktopOutputPath_;
   std::string DialogFileSpec_;

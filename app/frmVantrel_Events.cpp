@@ -42,19 +42,22 @@ bool AcceptCopy(QDropEvent* event) {
 
 void frmVantrel::OnKeys(const QKeySequence& keys, FormHandler handler) {
   auto* shortcut = new QShortcut(keys, this);
+  shortcut->setAutoRepeat(false);
   connect(shortcut, &QShortcut::activated, this,
-          [this, handler] { Run([&] { (this->*handler)(); }); });
+          [this, handler] { RunCommand([&] { (this->*handler)(); }); });
 }
 
 void frmVantrel::ConnectControls() {
   for (const auto& [button, handler] : controls_.Buttons) {
     connect(button, &QPushButton::clicked, this,
-            [this, run = handler] { Run([&] { (this->*run)(); }); });
+            [this, run = handler] { RunCommand([&] { (this->*run)(); }); });
   }
-  connect(controls_.tre, &NodeTree::NodeClick, this,
-          [this](const QTreeWidgetItem* node) { Run([&] { tre_NodeClick(node); }); });
+  // The first click of a double-click fills the boxes; the second must not be dropped for that.
+  connect(controls_.tre, &NodeTree::NodeClick, this, [this](const QTreeWidgetItem* node) {
+    if (!gate_.IsBusy()) Run([&] { tre_NodeClick(node); });
+  });
   connect(controls_.tre, &NodeTree::DblClick, this,
-          [this](const QTreeWidgetItem* node) { Run([&] { tre_DblClick(node); }); });
+          [this](const QTreeWidgetItem* node) { RunCommand([&] { tre_DblClick(node); }); });
 }
 
 void frmVantrel::AddShortcuts() {
@@ -78,7 +81,8 @@ void frmVantrel::AcceptDrops() {
   // The other program waits for the end of the drop, so a message box must not keep it.
   connect(
       this, &frmVantrel::FileDropped, this,
-      [this](const std::string& file) { Run([&] { OpenFile(file); }); }, Qt::QueuedConnection);
+      [this](const std::string& file) { RunCommand([&] { OpenFile(file); }); },
+      Qt::QueuedConnection);
   for (QLineEdit* box : {controls_.txtGroup, controls_.txtParam, controls_.txtPointLabel,
                          controls_.txtAnalogLabel}) {
     box->installEventFilter(this);
@@ -107,7 +111,7 @@ void frmVantrel::dragEnterEvent(QDragEnterEvent* event) {
 void frmVantrel::dropEvent(QDropEvent* event) {
   const std::string file = DraggedFile(event->mimeData());
   // While a message box waits, the command behind it is not done yet.
-  if (file.empty() || QApplication::activeModalWidget() != nullptr) return;
+  if (file.empty() || gate_.IsBusy() || QApplication::activeModalWidget() != nullptr) return;
   if (AcceptCopy(event)) emit FileDropped(file);
 }
 
