@@ -10,6 +10,7 @@
 #include <QToolButton>
 
 #include "app/OutputPane.h"
+#include "app/TextBox.h"
 
 namespace app {
 
@@ -41,7 +42,7 @@ QString ResultText(Found found, bool forward) {
 FindBar::FindBar(OutputPane* pane)
     : QFrame(pane),
       pane_(pane),
-      txtFind_(new QLineEdit),
+      txtFind_(new TextBox),
       lblFindResult_(new QLabel),
       escape_(new QShortcut(Qt::Key_Escape, pane->window())) {
   setObjectName(QStringLiteral("findBar"));

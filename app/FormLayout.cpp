@@ -5,13 +5,13 @@
 #include <variant>
 
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 
 #include "app/CaptionButton.h"
 #include "app/FormColumn.h"
 #include "app/NodeTree.h"
 #include "app/OutputPane.h"
+#include "app/TextBox.h"
 
 namespace app {
 
@@ -54,7 +54,7 @@ class FormBuilder {
   }
 
   void Add(const TextBoxRow& row) {
-    auto* box = new QLineEdit(column_->Content());
+    auto* box = new TextBox(column_->Content());
     const QString text = QString::fromUtf16(row.Label);
     Finish(*box, row.Name, text,
            {row.Place.x() + kLabelWidth, row.Place.y(), kHalfWidth - kLabelWidth, kTextBox});

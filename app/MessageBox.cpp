@@ -36,9 +36,10 @@ void MessageBox::ShowTextInLines() {
   label->hide();
 }
 
-void MessageBox::showEvent(QShowEvent* event) {
-  ShowTextInLines();
-  QMessageBox::showEvent(event);
+void MessageBox::setVisible(bool visible) {
+  // The box is placed by the size that it has before it is shown.
+  if (visible) ShowTextInLines();
+  QMessageBox::setVisible(visible);
 }
 
 void MessageBox::keyPressEvent(QKeyEvent* event) {

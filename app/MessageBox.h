@@ -15,8 +15,9 @@ class MessageBox : public QMessageBox {
   MessageBox(Icon icon, const QString& title, const QString& text, StandardButtons buttons,
              QWidget* owner);
 
+  void setVisible(bool visible) override;
+
  protected:
-  void showEvent(QShowEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 
 #include <QAccessible>
 #include <QAccessibleWidget>
@@ -53,8 +54,11 @@ void MessageText::FitWithin(QSize most) {
   ensurePolished();
   const int longestLine = fontMetrics().size(0, toPlainText()).width();
   int width = std::min(longestLine + 1, most.width());
-  document()->setTextWidth(width);
-  int height = static_cast<int>(std::ceil(document()->size().height()));
+  // The view lays its own document out by the size that it has so far.
+  const std::unique_ptr<QTextDocument> measured(document()->clone());
+  measured->setDefaultFont(font());
+  measured->setTextWidth(width);
+  int height = static_cast<int>(std::ceil(measured->size().height()));
   if (height > most.height()) {
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     width += verticalScrollBar()->sizeHint().width();

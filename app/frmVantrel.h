@@ -4,6 +4,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include <QWidget>
 
@@ -61,7 +62,7 @@ class frmVantrel : public QWidget {
 
  signals:
   void Unloaded(int exitStatus);
-  void FileDropped(const std::string& file);
+  void FilesDropped(const std::vector<std::string>& files);
 
  protected:
   bool event(QEvent* event) override;
@@ -99,6 +100,7 @@ class frmVantrel : public QWidget {
   void OpenAndFillTree();
   void FillTree();
   void OpenFile(const std::string& fileSpec);
+  void OpenDroppedFiles(const std::vector<std::string>& files);
 
   void tre_NodeClick(const QTreeWidgetItem* node) const;
   void tre_DblClick(const QTreeWidgetItem* node);

@@ -2,6 +2,9 @@
 
 // How mouse, keys and drops reach the handlers of the form.
 
+#include <string>
+#include <vector>
+
 #include <QApplication>
 #include <QDropEvent>
 #include <QLineEdit>
@@ -11,6 +14,7 @@
 
 #include "app/CaptionButton.h"
 #include "app/FindBar.h"
+#include "app/MessageBoxes.h"
 #include "app/NodeTree.h"
 #include "app/OutputPane.h"
 #include "app/frmVantrel.h"
@@ -19,14 +23,15 @@ namespace app {
 
 namespace {
 
-// The path of the first file among what is dragged, byte for byte, since it need not be UTF-8;
-// empty where there is none.
-std::string DraggedFile(const QMimeData* data) {
+// The paths of the files among what is dragged, byte for byte, since they need not be UTF-8.
+std::vector<std::string> DraggedFiles(const QMimeData* data) {
+  std::vector<std::string> files;
   for (const QUrl& url : data->urls()) {
     if (!url.isLocalFile()) continue;
-    return QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()).toStdString();
+    const QByteArray path = url.path(QUrl::FullyEncoded).toLatin1();
+    files.push_back(QByteArray::fromPercentEncoding(path).toStdString());
   }
-  return {};
+  return files;
 }
 
 // Accepts a file that is dragged, to be read where it is: the program it comes from must not take
@@ -80,8 +85,10 @@ void frmVantrel::AcceptDrops() {
   setAcceptDrops(true);
   // The other program waits for the end of the drop, so a message box must not keep it.
   connect(
-      this, &frmVantrel::FileDropped, this,
-      [this](const std::string& file) { RunCommand([&] { OpenFile(file); }); },
+      this, &frmVantrel::FilesDropped, this,
+      [this](const std::vector<std::string>& files) {
+        RunCommand([&] { OpenDroppedFiles(files); });
+      },
       Qt::QueuedConnection);
   for (QLineEdit* box : {controls_.txtGroup, controls_.txtParam, controls_.txtPointLabel,
                          controls_.txtAnalogLabel}) {
@@ -89,11 +96,18 @@ void frmVantrel::AcceptDrops() {
   }
 }
 
+void frmVantrel::OpenDroppedFiles(const std::vector<std::string>& files) {
+  OpenFile(files.front());
+  if (files.size() == 1) return;
+  ShowMessage(this, "One file can be open at a time.  Of the " + std::to_string(files.size()) +
+                        " files that were dropped the first was taken, the others were left.");
+}
+
 bool frmVantrel::eventFilter(QObject* watched, QEvent* event) {
   // A text box takes dropped texts, but a file dropped on it is for the form. Entering and moving
   // are kinds of dropping to the toolkit.
   if (auto* drop = dynamic_cast<QDropEvent*>(event);
-      drop != nullptr && !DraggedFile(drop->mimeData()).empty()) {
+      drop != nullptr && !DraggedFiles(drop->mimeData()).empty()) {
     if (event->type() == QEvent::Drop) {
       dropEvent(drop);
     } else {
@@ -105,14 +119,14 @@ bool frmVantrel::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void frmVantrel::dragEnterEvent(QDragEnterEvent* event) {
-  if (!DraggedFile(event->mimeData()).empty()) AcceptCopy(event);
+  if (!DraggedFiles(event->mimeData()).empty()) AcceptCopy(event);
 }
 
 void frmVantrel::dropEvent(QDropEvent* event) {
-  const std::string file = DraggedFile(event->mimeData());
+  const std::vector<std::string> files = DraggedFiles(event->mimeData());
   // While a message box waits, the command behind it is not done yet.
-  if (file.empty() || gate_.IsBusy() || QApplication::activeModalWidget() != nullptr) return;
-  if (AcceptCopy(event)) emit FileDropped(file);
+  if (files.empty() || gate_.IsBusy() || QApplication::activeModalWidget() != nullptr) return;
+  if (AcceptCopy(event)) emit FilesDropped(files);
 }
 
 }  // namespace app

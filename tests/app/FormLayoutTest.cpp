@@ -232,20 +232,46 @@ TEST_F(FormLayout, TheHiddenHeaderOfTheTreeIsReadOutByItsLabel) {
   EXPECT_EQ(Tree()->headerItem()->text(0), QStringLiteral("Groups, Parameters, & Labels"));
 }
 
-TEST_F(FormLayout, AnUntickedBoxIsSeenInDarkColours) {
-  const QPalette before = QApplication::palette();
-  QPalette dark(QColor(43, 43, 46), QColor(35, 35, 38));
-  dark.setColor(QPalette::Base, QColor(27, 27, 29));
-  QApplication::setPalette(dark);
-  Start();
+class DarkForm : public tests::FormTest {
+ protected:
+  void StartInTheDark() {
+    QPalette dark(QColor(43, 43, 46), QColor(35, 35, 38));
+    dark.setColor(QPalette::Base, QColor(27, 27, 29));
+    QApplication::setPalette(dark);
+    Start();
+  }
+  void TearDown() override { QApplication::setPalette(before_); }
+
+ private:
+  const QPalette before_ = QApplication::palette();
+};
+
+TEST_F(DarkForm, AnUntickedBoxIsSeen) {
+  StartInTheDark();
   const QImage shown = CheckBox()->grab().toImage();
-  QApplication::setPalette(before);
   // Across the box, left of the caption: its ground and its frame.
   int lightest = 0;
   for (int x = 0; x < CheckBox()->CaptionArea().left() - 2; ++x) {
     lightest = std::max(lightest, qGray(shown.pixel(x, shown.height() / 2)));
   }
   EXPECT_GT(lightest, 100);
+}
+
+TEST_F(DarkForm, TheEdgesOfTheTextBoxesAreSeen) {
+  StartInTheDark();
+  QTest::keyClick(&form_, Qt::Key_F, Qt::ControlModifier);
+  Button("cmdOpen")->setFocus();
+  for (const char* name : {"txtGroup", "txtParam", "txtPointLabel", "txtAnalogLabel", "txtFind"}) {
+    const QImage shown = Box(name)->grab().toImage();
+    const int middle = shown.height() / 2;
+    for (const int end : {0, shown.width() - 3}) {
+      int lightest = 0;
+      for (int x = end; x < end + 3; ++x) {
+        lightest = std::max(lightest, qGray(shown.pixel(x, middle)));
+      }
+      EXPECT_GT(lightest, 100) << name;
+    }
+  }
 }
 
 TEST_F(FormResize, GrowingTheFormGrowsThePaneAndTheTreeByExactlyThat) {

@@ -2,6 +2,10 @@
 
 // The text of message boxes: exact for whoever reads it, on the screen however long it is.
 
+#include <cstdlib>
+#include <functional>
+#include <stdexcept>
+
 #include <QAccessible>
 #include <QClipboard>
 #include <QGuiApplication>
@@ -97,6 +101,31 @@ TEST(MessageBox, BreaksAPathThatIsTooLongForALine) {
     ExpectEveryLetterIsShown(*ViewOf(box));
     ExpectFitsTheScreen(box);
   });
+}
+
+TEST(MessageBox, IsNoHigherThanItsTextNeeds) {
+  for (const QString& text : {QStringLiteral("Short."), TextWithPath(300), TextWithPath(800)}) {
+    Show(text, [](QDialog& box) {
+      const QTextEdit& view = *ViewOf(box);
+      EXPECT_FALSE(view.verticalScrollBar()->isVisible());
+      EXPECT_LE(view.height(), view.document()->size().height() + 2);
+    });
+  }
+}
+
+TEST(MessageBox, StandsInTheMiddleOfItsOwner) {
+  QWidget owner;
+  owner.resize(900, 450);
+  owner.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&owner));
+  Boxes boxes;
+  boxes.Expect([&](QDialog& box) {
+    const QPoint apart = box.geometry().center() - owner.geometry().center();
+    EXPECT_LE(std::abs(apart.x()), 20);
+    EXPECT_LE(std::abs(apart.y()), 40) << "a title bar and its like";
+    QTest::keyClick(&box, Qt::Key_Return);
+  });
+  app::ShowMessage(&owner, TextWithPath(300).toStdString());
 }
 
 TEST(MessageBox, ShowsAShortTextInOneLine) {
