@@ -117,6 +117,7 @@ TEST(MessageBox, StandsInTheMiddleOfItsOwner) {
   QWidget owner;
   owner.resize(900, 450);
   owner.show();
+  owner.activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&owner));
   Boxes boxes;
   boxes.Expect([&](QDialog& box) {
