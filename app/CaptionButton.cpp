@@ -2,26 +2,14 @@
 
 #include "app/CaptionButton.h"
 
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QStyleOptionButton>
 #include <QStylePainter>
 
+#include "app/DarkOutline.h"
+
 namespace app {
-
-namespace {
-
-// Frames the box of a check box where the colours are dark: common styles darken the ground for
-// that, which leaves nothing to be seen there.
-void OutlineInTheDark(QPainter& painter, const QRect& box, const QPalette& colours) {
-  constexpr int kDarkBelow = 128;
-  if (colours.color(QPalette::Window).lightness() >= kDarkBelow) return;
-  constexpr int kHalfSeen = 128;
-  QColor line = colours.color(QPalette::WindowText);
-  line.setAlpha(kHalfSeen);
-  painter.setPen(line);
-  painter.drawRect(box.adjusted(0, 0, -1, -1));
-}
-
-}  // namespace
 
 CaptionButton::CaptionButton(const QString& caption, QWidget* parent)
     : QPushButton(caption, parent) {
@@ -35,6 +23,15 @@ QRect CaptionButton::CaptionArea() const {
   return style()
       ->subElementRect(QStyle::SE_PushButtonContents, &option, this)
       .adjusted(kEdge, 0, -kEdge, 0);
+}
+
+void CaptionButton::mouseDoubleClickEvent(QMouseEvent* event) { event->accept(); }
+
+void CaptionButton::keyPressEvent(QKeyEvent* event) {
+  if (event->isAutoRepeat() && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
+    return;
+  }
+  QPushButton::keyPressEvent(event);
 }
 
 void CaptionButton::paintEvent(QPaintEvent* /*event*/) {

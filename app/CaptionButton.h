@@ -7,7 +7,7 @@
 namespace app {
 
 // A push button that breaks a long caption into lines instead of cutting it. Enter presses it as
-// the space bar does.
+// the space bar does. A double-click presses it once, and so does a key that is held down.
 class CaptionButton : public QPushButton {
   Q_OBJECT
 
@@ -18,6 +18,8 @@ class CaptionButton : public QPushButton {
   QRect CaptionArea() const;
 
  protected:
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 };
 

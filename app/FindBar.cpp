@@ -10,6 +10,7 @@
 #include <QToolButton>
 
 #include "app/OutputPane.h"
+#include "app/TextBox.h"
 
 namespace app {
 
@@ -29,12 +30,19 @@ QToolButton* AddButton(QHBoxLayout& row, const QString& objectName, Qt::ArrowTyp
   return button;
 }
 
+// What there is to say about a search.
+QString ResultText(Found found, bool forward) {
+  if (found == Found::Nowhere) return FindBar::tr("not found");
+  if (found == Found::Ahead) return {};
+  return forward ? FindBar::tr("continued from the start") : FindBar::tr("continued from the end");
+}
+
 }  // namespace
 
 FindBar::FindBar(OutputPane* pane)
     : QFrame(pane),
       pane_(pane),
-      txtFind_(new QLineEdit),
+      txtFind_(new TextBox),
       lblFindResult_(new QLabel),
       escape_(new QShortcut(Qt::Key_Escape, pane->window())) {
   setObjectName(QStringLiteral("findBar"));
@@ -91,12 +99,17 @@ void FindBar::Find(bool forward) {
     Open();
     return;
   }
-  const bool found =
+  const Found found =
       pane_->Find({wanted.constData(), static_cast<std::size_t>(wanted.size())}, forward);
-  if (!found) show();  // to say so, of this text: opening would take over the selection
-  lblFindResult_->setText(tr("not found"));
-  lblFindResult_->setVisible(!found);
+  Say(ResultText(found, forward));
   TakePlace();
+}
+
+// A bar that is closed is shown to say it, of this text: opening would take over the selection.
+void FindBar::Say(const QString& result) {
+  if (!result.isEmpty()) show();
+  lblFindResult_->setText(result);
+  lblFindResult_->setVisible(!result.isEmpty());
 }
 
 void FindBar::TakePlace() {
@@ -127,6 +140,11 @@ void FindBar::keyPressEvent(QKeyEvent* event) {
   switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
+      // A button of the bar is pressed by Enter as by the space bar.
+      if (auto* button = qobject_cast<QToolButton*>(focusWidget())) {
+        button->click();
+        break;
+      }
       Find(!event->modifiers().testFlag(Qt::ShiftModifier));
       break;
     default:

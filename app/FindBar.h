@@ -36,6 +36,7 @@ class FindBar : public QFrame {
 
  private:
   void Find(bool forward);
+  void Say(const QString& result);
   void TakePlace();
 
   OutputPane* pane_;

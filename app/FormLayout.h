@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <vector>
+
 #include <QSize>
+
+#include "app/FormRows.h"
 
 class QLineEdit;
 class QPushButton;
@@ -10,35 +14,34 @@ class QWidget;
 namespace app {
 
 class CaptionCheckBox;
+class FormColumn;
 class NodeTree;
 class OutputPane;
 
 // The size of the form as it is drawn, in device-independent pixels.
 inline constexpr QSize kDesignSize(1180, 740);
 
-// The controls of the form. The form owns them; each carries its name here as its object name.
+// The column of controls at the left of the form, within its margins.
+inline constexpr int kFormMargin = 8;
+inline constexpr int kColumnWidth = 414;
+inline constexpr int kTreeTop = 521;
+inline constexpr int kTreeHeight = kDesignSize.height() - kFormMargin - kTreeTop;
+inline constexpr int kHalfWidth = 203;  // of two controls side by side
+
+// A button of the form with what a press of it runs.
+struct PlacedButton {
+  QPushButton* Button = nullptr;
+  FormHandler Click = nullptr;
+};
+
+// The controls of the form. The form owns them; each carries its name as its object name.
 struct FormControls {
-  QPushButton* cmdOpen = nullptr;
-  QPushButton* cmdExit = nullptr;
-  QPushButton* cmdShowHeaderInfo = nullptr;
-  QPushButton* cmdShowParameterHeader = nullptr;
+  std::vector<PlacedButton> Buttons;
   QLineEdit* txtGroup = nullptr;
   QLineEdit* txtParam = nullptr;
-  QPushButton* cmdShowAllGroups = nullptr;
-  QPushButton* cmdShowAllGroupsAndAllParams = nullptr;
-  QPushButton* cmdShowMatchingGroupAndAllParams = nullptr;
-  QPushButton* cmdShowMatchingGroupAndMatchingParam = nullptr;
   QLineEdit* txtPointLabel = nullptr;
-  QPushButton* cmdShowPointLabels = nullptr;
-  QPushButton* cmdShowPointData = nullptr;
-  QPushButton* cmdShowPointDataWithEvents = nullptr;
   QLineEdit* txtAnalogLabel = nullptr;
-  QPushButton* cmdShowAnalogData = nullptr;
-  QPushButton* cmdShowAnalogDataWithEvents = nullptr;
-  QPushButton* cmdShowStrikeOffEvents = nullptr;
-  QPushButton* cmdShowSingleValueStrikeOffMeasures = nullptr;
-  QPushButton* cmdShowNormalized = nullptr;
-  QPushButton* cmdWriteGcdFiles = nullptr;
+  FormColumn* Column = nullptr;  // holds all but the pane
   CaptionCheckBox* chkOut = nullptr;
   NodeTree* tre = nullptr;
   OutputPane* txt = nullptr;

@@ -2,9 +2,9 @@
 
 #include "app/MessageBoxes.h"
 
-#include <QMessageBox>
 #include <QString>
 
+#include "app/MessageBox.h"
 #include "app/QtText.h"
 
 namespace app {
@@ -12,8 +12,7 @@ namespace app {
 namespace {
 
 void Show(QWidget* owner, QMessageBox::Icon icon, const QString& text) {
-  QMessageBox box(icon, QStringLiteral("Vantrel"), text, QMessageBox::Ok, owner);
-  box.setTextFormat(Qt::PlainText);
+  MessageBox box(icon, QStringLiteral("Vantrel"), text, QMessageBox::Ok, owner);
   box.exec();
 }
 

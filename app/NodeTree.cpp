@@ -3,6 +3,7 @@
 #include "app/NodeTree.h"
 
 #include <memory>
+#include <utility>
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -39,7 +40,7 @@ void NodeTree::Fill(const std::vector<reports::TreeNode>& groups) {
 
 void NodeTree::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-    if (currentItem() != nullptr) emit DblClick(currentItem());
+    if (currentItem() != nullptr && !event->isAutoRepeat()) emit DblClick(currentItem());
     return;
   }
   const QTreeWidgetItem* before = currentItem();
@@ -50,6 +51,7 @@ void NodeTree::keyPressEvent(QKeyEvent* event) {
 void NodeTree::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
   pressed_ = itemAt(event->pos());
+  isPressed_ = true;
   QTreeWidget::mousePressEvent(event);
 }
 
@@ -59,14 +61,23 @@ void NodeTree::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void NodeTree::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton) return;
+  // A press that was dropped while a command ran takes its release along.
+  if (event->button() != Qt::LeftButton || !std::exchange(isPressed_, false)) return;
   const bool slipped = pressed_ != nullptr && itemAt(event->pos()) != pressed_;
   QTreeWidget::mouseReleaseEvent(event);
   if (slipped && currentItem() == pressed_) emit NodeClick(currentItem());
 }
 
 void NodeTree::mouseDoubleClickEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton) QTreeWidget::mouseDoubleClickEvent(event);
+  if (event->button() != Qt::LeftButton) return;
+  isPressed_ = true;
+  QTreeWidget::mouseDoubleClickEvent(event);
+}
+
+QItemSelectionModel::SelectionFlags NodeTree::selectionCommand(const QModelIndex& index,
+                                                               const QEvent* /*event*/) const {
+  if (!index.isValid()) return QItemSelectionModel::NoUpdate;
+  return QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
 }
 
 std::int16_t NodeDepth(const QTreeWidgetItem* node) {

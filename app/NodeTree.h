@@ -13,7 +13,7 @@ namespace app {
 // The tree of groups, parameters and labels. The mouse and the keyboard do the same: moving to a
 // node by keys clicks it, Enter double-clicks it. The highlighted node is the one that was clicked
 // last: other buttons than the left one do nothing, and a node that the mouse was pressed on is
-// clicked wherever the button is let go.
+// clicked wherever the button is let go. A click beside the nodes changes nothing.
 class NodeTree : public QTreeWidget {
   Q_OBJECT
 
@@ -33,9 +33,12 @@ class NodeTree : public QTreeWidget {
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
+  QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                       const QEvent* event) const override;
 
  private:
   const QTreeWidgetItem* pressed_ = nullptr;  // only ever compared
+  bool isPressed_ = false;
 };
 
 // How many ancestors a node has: 0 for a group, 1 for a parameter, 2 for a label.

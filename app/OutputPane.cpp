@@ -11,6 +11,7 @@
 #include <QMouseEvent>
 #include <QPalette>
 
+#include "app/FoldedSearch.h"
 #include "app/OutputPaneReader.h"
 
 namespace app {
@@ -174,26 +175,48 @@ QString OutputPane::TextBetween(long start, long end) const {
   return QString::fromUtf8(text + start, end - start);
 }
 
+void OutputPane::Select(long start, long end) {
+  constexpr unsigned long kLinesAround = 3;
+  constexpr auto kKeepAway =
+      static_cast<unsigned long>(CARET_SLOP) | static_cast<unsigned long>(CARET_STRICT);
+  SendScintilla(SCI_SETYCARETPOLICY, kKeepAway | CARET_EVEN, long{kLinesAround});
+  SendScintilla(SCI_SETSEL, static_cast<unsigned long>(start), end);
+  SendScintilla(SCI_SETYCARETPOLICY, static_cast<unsigned long>(CARET_EVEN), 0L);
+}
+
 bool OutputPane::FindBetween(std::string_view text, long start, long end) {
+  if (!ascii_) {
+    const auto* shown = static_cast<const char*>(SendScintillaPtrResult(SCI_GETCHARACTERPOINTER));
+    const auto place = FindFolded({shown, static_cast<std::size_t>(length())}, text, start, end);
+    if (place) Select(place->Start, place->End);
+    return place.has_value();
+  }
+  // The editor's own search is the quicker one, and matches the cases of these letters.
   SendScintilla(SCI_SETTARGETSTART, start);
   SendScintilla(SCI_SETTARGETEND, end);
   if (SendScintilla(SCI_SEARCHINTARGET, static_cast<unsigned long>(text.size()), text.data()) < 0) {
     return false;
   }
-  const auto found = static_cast<unsigned long>(SendScintilla(SCI_GETTARGETSTART));
-  SendScintilla(SCI_SETSEL, found, SendScintilla(SCI_GETTARGETEND));
+  Select(SendScintilla(SCI_GETTARGETSTART), SendScintilla(SCI_GETTARGETEND));
   return true;
 }
 
-bool OutputPane::Find(std::string_view text, bool forward) {
-  if (text.empty()) return false;
-  SendScintilla(SCI_SETSEARCHFLAGS, 0UL);
-  const long end = length();
-  if (forward) {
-    return FindBetween(text, SendScintilla(SCI_GETSELECTIONEND), end) || FindBetween(text, 0, end);
+long OutputPane::SearchStart(bool forward) const {
+  if (hasSelectedText()) {
+    return SendScintilla(forward ? SCI_GETSELECTIONEND : SCI_GETSELECTIONSTART);
   }
-  // A target that runs backwards is searched backwards.
-  return FindBetween(text, SendScintilla(SCI_GETSELECTIONSTART), 0L) || FindBetween(text, end, 0);
+  const long caret = SendScintilla(SCI_GETCURRENTPOS);
+  if (!forward || caret < length()) return caret;
+  return SendScintilla(SCI_POSITIONFROMLINE, static_cast<unsigned long>(firstVisibleLine()));
+}
+
+Found OutputPane::Find(std::string_view text, bool forward) {
+  if (text.empty()) return Found::Nowhere;
+  SendScintilla(SCI_SETSEARCHFLAGS, 0UL);
+  // A range that runs backwards is searched backwards.
+  const long ahead = forward ? length() : 0;
+  if (FindBetween(text, SearchStart(forward), ahead)) return Found::Ahead;
+  return FindBetween(text, forward ? 0 : length(), ahead) ? Found::GoneRound : Found::Nowhere;
 }
 
 QRect OutputPane::SelectionPlace() const {

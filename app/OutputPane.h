@@ -8,6 +8,9 @@
 
 namespace app {
 
+// What came of a search; GoneRound: found after the search went on from the other end of the text.
+enum class Found { Nowhere, Ahead, GoneRound };
+
 // The read-only pane that shows the reports: one fixed-pitch font, lines never wrapped, colours of
 // the desktop's theme. Texts go in and out as UTF-8.
 class OutputPane : public QsciScintilla {
@@ -29,10 +32,11 @@ class OutputPane : public QsciScintilla {
   // All of its text, lines ended as they were handed over.
   std::string Text() const;
 
-  // Selects the next place of `text` behind the selection, or the one before it, going round at the
-  // end; the letters A to Z match in both cases. False where there is none; the selection then
-  // stays.
-  bool Find(std::string_view text, bool forward);
+  // Selects the next place of `text` behind the selection, or the one before it, with lines around
+  // it where there are any; goes round at the end. Without a selection it starts at the caret, and
+  // where that still stands behind a report, at the first line that is seen. Letters match in both
+  // cases. The selection stays where there is no such place.
+  Found Find(std::string_view text, bool forward);
 
   // Where the selection is seen, from its start to its end or to the end of the first line, in the
   // coordinates of the viewport; empty without a selection.
@@ -52,7 +56,9 @@ class OutputPane : public QsciScintilla {
  private:
   void TakeColours();
   void SetScrollWidth();
+  long SearchStart(bool forward) const;
   bool FindBetween(std::string_view text, long start, long end);
+  void Select(long start, long end);
 
   long longestLine_ = 0;  // characters
   bool ascii_ = true;     // positions are offsets

@@ -14,6 +14,7 @@
 #include <QStyleFactory>
 #include <QTimer>
 
+#include "app/FormLayout.h"
 #include "app/QtText.h"
 #include "app/frmVantrel.h"
 #include "c3d/FileState.h"
@@ -55,6 +56,7 @@ bool SavePicture(const std::vector<std::string>& arguments) {
   app::frmVantrel form(state);
   form.Form_Load(arguments[0]);
   if (refused) return false;
+  form.resize(app::kDesignSize);  // whatever screen there is
   form.show();
   const bool withLabel = arguments.size() > 2;
   if (withLabel) {

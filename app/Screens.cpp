@@ -4,7 +4,17 @@
 
 #include <algorithm>
 
+#include "app/FormLayout.h"
+
 namespace app {
+
+QSize FormSizeWithin(QSize room) {
+  constexpr int kLeastTree = 60;  // three lines
+  constexpr int kWithoutTree = kDesignSize.height() - kTreeHeight;
+  const QSize size = room.boundedTo(kDesignSize);
+  if (size.height() < kWithoutTree || size.height() >= kWithoutTree + kLeastTree) return size;
+  return {size.width(), kWithoutTree - 1};
+}
 
 QPoint FormPosition(QSize screen, QSize form) {
   return {(screen.width() - form.width()) / 2, (screen.height() - form.height()) / 3};

@@ -7,6 +7,11 @@
 
 namespace app {
 
+// The size that the form opens with where `room` is left for it by panels and its frame: as it is
+// drawn, or as much smaller as it has to be. A height that would leave the tree too few lines is
+// passed over for one at which the resize rule leaves the tree as it is drawn.
+QSize FormSizeWithin(QSize room);
+
 // Where the top left corner of a form goes: centred from left to right and a third of the way down.
 // Halves and thirds are cut towards zero, also where the form is larger than the screen.
 QPoint FormPosition(QSize screen, QSize form);

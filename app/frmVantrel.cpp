@@ -10,12 +10,14 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
+#include <QStyle>
 
 #include "app/CaptionButton.h"
 #include "app/CommandLine.h"
 #include "app/CursorOverride.h"
 #include "app/DesktopFolder.h"
 #include "app/FindBar.h"
+#include "app/FormColumn.h"
 #include "app/FormReader.h"
 #include "app/MessageBoxes.h"
 #include "app/NodeTree.h"
@@ -32,6 +34,15 @@ namespace app {
 using modAllPurpose::RuntimeError;
 using modVantrel::OpenResult;
 
+namespace {
+
+// The frame that the window system will most likely put around the form.
+QMargins UsualFrame(const QWidget& form) {
+  return {1, form.style()->pixelMetric(QStyle::PM_TitleBarHeight), 1, 1};
+}
+
+}  // namespace
+
 frmVantrel::frmVantrel(modVantrel::FileState& state)
     : state_(state), controls_(LayOutForm(*this)), findBar_(new FindBar(controls_.txt)) {
   FormReader::Install();
@@ -44,12 +55,30 @@ frmVantrel::frmVantrel(modVantrel::FileState& state)
 
 void frmVantrel::Form_Load(const std::string& commandLine) {
   design_ = DesignSizes{size(), controls_.txt->size(), controls_.tre->height()};
-  move(screen()->geometry().topLeft() + FormPosition(screen()->geometry().size(), size()));
+  OpenWithin(UsualFrame(*this));
   DesktopOutputPath_ = GetDesktopFolder() + "Vantrel_Output.txt";
   controls_.tre->clear();
   controls_.tre->setRootIsDecorated(true);
   if (commandLine.empty()) return;
   Run([&] { OpenFile(FileNameOnCommandLine(commandLine)); });
+}
+
+void frmVantrel::OpenWithin(const QMargins& frame) {
+  const QRect room = screen()->availableGeometry();
+  resize(FormSizeWithin(room.marginsRemoved(frame).size()));
+  openedSize_ = size();
+  const QRect place = screen()->geometry();
+  const QPoint corner = place.topLeft() + FormPosition(place.size(), size());
+  move(NearestPlaceInside(room, {corner, size()}));
+}
+
+void frmVantrel::FitFrame() {
+  if (isMaximized() || isFullScreen()) return;
+  const QRect room = screen()->availableGeometry();
+  // A window system that gave the form another size has its reasons.
+  if (size() == openedSize_) resize(FormSizeWithin(room.size() - (frameSize() - size())));
+  const QPoint place = NearestPlaceInside(room, {pos(), size() + (frameSize() - size())});
+  if (place != pos()) move(place);
 }
 
 void frmVantrel::Run(const std::function<void()>& handler) {
@@ -60,6 +89,13 @@ void frmVantrel::Run(const std::function<void()>& handler) {
   } catch (const std::bad_alloc&) {
     EndWithError(RuntimeError(modAllPurpose::ErrorNumber::OutOfMemory));
   }
+}
+
+void frmVantrel::RunCommand(const std::function<void()>& handler) {
+  gate_.Run([&] {
+    Run(handler);
+    return !IsUnloaded();
+  });
 }
 
 void frmVantrel::EndWithError(const RuntimeError& error) {
@@ -88,15 +124,11 @@ void frmVantrel::Form_Unload() {
 }
 
 bool frmVantrel::event(QEvent* event) {
-  if (event->type() == QEvent::WindowActivate && !std::exchange(wasActive_, true)) {
-    KeepFrameOnScreen();
+  // Framed it is when it is painted for the first time.
+  if (event->type() == QEvent::Paint && !std::exchange(wasPainted_, true)) {
+    QMetaObject::invokeMethod(this, &frmVantrel::FitFrame, Qt::QueuedConnection);
   }
   return QWidget::event(event);
-}
-
-void frmVantrel::KeepFrameOnScreen() {
-  const QPoint place = NearestPlaceInside(screen()->availableGeometry(), frameGeometry());
-  if (place != pos()) move(place);
 }
 
 void frmVantrel::resizeEvent(QResizeEvent* event) {
@@ -116,6 +148,7 @@ void frmVantrel::Form_Resize() {
   setWidth(*controls_.txt, width() - design_->Form.width() + design_->Pane.width());
   setHeight(*controls_.txt, height() - design_->Form.height() + design_->Pane.height());
   setHeight(*controls_.tre, height() - design_->Form.height() + design_->TreeHeight);
+  controls_.Column->FitInto(size(), controls_.tre->geometry().bottom() + 1 + kFormMargin);
 }
 
 bool frmVantrel::EnsureFileOpen() {

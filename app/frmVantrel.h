@@ -4,9 +4,11 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include <QWidget>
 
+#include "app/CommandGate.h"
 #include "app/DesktopCopy.h"
 #include "app/FormLayout.h"
 #include "app/FormReport.h"
@@ -39,52 +41,9 @@ class frmVantrel : public QWidget {
   bool IsUnloaded() const { return exitStatus_.has_value(); }
   int ExitStatus() const { return exitStatus_.value_or(0); }
 
- signals:
-  void Unloaded(int exitStatus);
-  void FileDropped(const std::string& file);
-
- protected:
-  bool event(QEvent* event) override;
-  void resizeEvent(QResizeEvent* event) override;
-  void closeEvent(QCloseEvent* event) override;
-  void dragEnterEvent(QDragEnterEvent* event) override;
-  void dropEvent(QDropEvent* event) override;
-  bool eventFilter(QObject* watched, QEvent* event) override;
-
- private:
-  using Handler = void (frmVantrel::*)();
-  using Report = std::function<modAllPurpose::ReportResult(modAllPurpose::ReportOutput&)>;
-
-  // The sizes of the layout as it is drawn.
-  struct DesignSizes {
-    QSize Form;
-    QSize Pane;
-    int TreeHeight;
-  };
-
-  void ConnectControls();
-  void AddShortcuts();
-  void AcceptDrops();
-  void OnClick(QPushButton* button, Handler handler);
-  void OnKeys(const QKeySequence& keys, Handler handler);
-  void Run(const std::function<void()>& handler);
-  void EndWithError(const modAllPurpose::RuntimeError& error);
-  void Unload(int exitStatus);
-
-  void KeepFrameOnScreen();
-  void Form_Resize();
-  void Form_Unload();
-
-  bool EnsureFileOpen();
-  void OpenAndFillTree();
-  void FillTree();
-  void OpenFile(const std::string& fileSpec);
-
+  // What the buttons run; FormRows says which button runs which.
   void cmdOpen_Click();
   void cmdExit_Click();
-  void tre_NodeClick(const QTreeWidgetItem* node) const;
-  void tre_DblClick(const QTreeWidgetItem* node);
-
   void cmdShowHeaderInfo_Click();
   void cmdShowParameterHeader_Click();
   void cmdShowAllGroups_Click();
@@ -101,6 +60,51 @@ class frmVantrel : public QWidget {
   void cmdShowNormalized_Click();
   void cmdWriteGcdFiles_Click();
 
+ signals:
+  void Unloaded(int exitStatus);
+  void FilesDropped(const std::vector<std::string>& files);
+
+ protected:
+  bool event(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  using Report = std::function<modAllPurpose::ReportResult(modAllPurpose::ReportOutput&)>;
+
+  // The sizes of the layout as it is drawn.
+  struct DesignSizes {
+    QSize Form;
+    QSize Pane;
+    int TreeHeight;
+  };
+
+  void ConnectControls();
+  void AddShortcuts();
+  void AcceptDrops();
+  void OnKeys(const QKeySequence& keys, FormHandler handler);
+  void Run(const std::function<void()>& handler);
+  void RunCommand(const std::function<void()>& handler);
+  void EndWithError(const modAllPurpose::RuntimeError& error);
+  void Unload(int exitStatus);
+
+  void OpenWithin(const QMargins& frame);
+  void FitFrame();
+  void Form_Resize();
+  void Form_Unload();
+
+  bool EnsureFileOpen();
+  void OpenAndFillTree();
+  void FillTree();
+  void OpenFile(const std::string& fileSpec);
+  void OpenDroppedFiles(const std::vector<std::string>& files);
+
+  void tre_NodeClick(const QTreeWidgetItem* node) const;
+  void tre_DblClick(const QTreeWidgetItem* node);
+
   // What every report command does around its report.
   void ShowReport(const Report& report);
   void ShowPlainReport(void (*report)(const modVantrel::FileState&, modAllPurpose::ReportOutput&));
@@ -113,11 +117,13 @@ class frmVantrel : public QWidget {
   modVantrel::FileState& state_;
   FormControls controls_;
   FindBar* findBar_;
+  CommandGate gate_;
   DesktopCopy desktopCopy_;
   std::string DesktopOutputPath_;
   std::string DialogFileSpec_;
   bool fileOpen_ = false;
-  bool wasActive_ = false;  // the window system has framed the form
+  bool wasPainted_ = false;
+  QSize openedSize_;
   std::optional<DesignSizes> design_;
   std::optional<int> exitStatus_;
 };

@@ -2,6 +2,9 @@
 
 // How mouse, keys and drops reach the handlers of the form.
 
+#include <string>
+#include <vector>
+
 #include <QApplication>
 #include <QDropEvent>
 #include <QLineEdit>
@@ -11,6 +14,7 @@
 
 #include "app/CaptionButton.h"
 #include "app/FindBar.h"
+#include "app/MessageBoxes.h"
 #include "app/NodeTree.h"
 #include "app/OutputPane.h"
 #include "app/frmVantrel.h"
@@ -19,14 +23,15 @@ namespace app {
 
 namespace {
 
-// The path of the first file among what is dragged, byte for byte, since it need not be UTF-8;
-// empty where there is none.
-std::string DraggedFile(const QMimeData* data) {
+// The paths of the files among what is dragged, byte for byte, since they need not be UTF-8.
+std::vector<std::string> DraggedFiles(const QMimeData* data) {
+  std::vector<std::string> files;
   for (const QUrl& url : data->urls()) {
     if (!url.isLocalFile()) continue;
-    return QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()).toStdString();
+    const QByteArray path = url.path(QUrl::FullyEncoded).toLatin1();
+    files.push_back(QByteArray::fromPercentEncoding(path).toStdString());
   }
-  return {};
+  return files;
 }
 
 // Accepts a file that is dragged, to be read where it is: the program it comes from must not take
@@ -40,42 +45,24 @@ bool AcceptCopy(QDropEvent* event) {
 
 }  // namespace
 
-void frmVantrel::OnClick(QPushButton* button, Handler handler) {
-  connect(button, &QPushButton::clicked, this,
-          [this, handler] { Run([&] { (this->*handler)(); }); });
-}
-
-void frmVantrel::OnKeys(const QKeySequence& keys, Handler handler) {
+void frmVantrel::OnKeys(const QKeySequence& keys, FormHandler handler) {
   auto* shortcut = new QShortcut(keys, this);
+  shortcut->setAutoRepeat(false);
   connect(shortcut, &QShortcut::activated, this,
-          [this, handler] { Run([&] { (this->*handler)(); }); });
+          [this, handler] { RunCommand([&] { (this->*handler)(); }); });
 }
 
 void frmVantrel::ConnectControls() {
-  OnClick(controls_.cmdOpen, &frmVantrel::cmdOpen_Click);
-  OnClick(controls_.cmdExit, &frmVantrel::cmdExit_Click);
-  OnClick(controls_.cmdShowHeaderInfo, &frmVantrel::cmdShowHeaderInfo_Click);
-  OnClick(controls_.cmdShowParameterHeader, &frmVantrel::cmdShowParameterHeader_Click);
-  OnClick(controls_.cmdShowAllGroups, &frmVantrel::cmdShowAllGroups_Click);
-  OnClick(controls_.cmdShowAllGroupsAndAllParams, &frmVantrel::cmdShowAllGroupsAndAllParams_Click);
-  OnClick(controls_.cmdShowMatchingGroupAndAllParams,
-          &frmVantrel::cmdShowMatchingGroupAndAllParams_Click);
-  OnClick(controls_.cmdShowMatchingGroupAndMatchingParam,
-          &frmVantrel::cmdShowMatchingGroupAndMatchingParam_Click);
-  OnClick(controls_.cmdShowPointLabels, &frmVantrel::cmdShowPointLabels_Click);
-  OnClick(controls_.cmdShowPointData, &frmVantrel::cmdShowPointData_Click);
-  OnClick(controls_.cmdShowPointDataWithEvents, &frmVantrel::cmdShowPointDataWithEvents_Click);
-  OnClick(controls_.cmdShowAnalogData, &frmVantrel::cmdShowAnalogData_Click);
-  OnClick(controls_.cmdShowAnalogDataWithEvents, &frmVantrel::cmdShowAnalogDataWithEvents_Click);
-  OnClick(controls_.cmdShowStrikeOffEvents, &frmVantrel::cmdShowStrikeOffEvents_Click);
-  OnClick(controls_.cmdShowSingleValueStrikeOffMeasures,
-          &frmVantrel::cmdShowSingleValueStrikeOffMeasures_Click);
-  OnClick(controls_.cmdShowNormalized, &frmVantrel::cmdShowNormalized_Click);
-  OnClick(controls_.cmdWriteGcdFiles, &frmVantrel::cmdWriteGcdFiles_Click);
-  connect(controls_.tre, &NodeTree::NodeClick, this,
-          [this](const QTreeWidgetItem* node) { Run([&] { tre_NodeClick(node); }); });
+  for (const auto& [button, handler] : controls_.Buttons) {
+    connect(button, &QPushButton::clicked, this,
+            [this, run = handler] { RunCommand([&] { (this->*run)(); }); });
+  }
+  // The first click of a double-click fills the boxes; the second must not be dropped for that.
+  connect(controls_.tre, &NodeTree::NodeClick, this, [this](const QTreeWidgetItem* node) {
+    if (!gate_.IsBusy()) Run([&] { tre_NodeClick(node); });
+  });
   connect(controls_.tre, &NodeTree::DblClick, this,
-          [this](const QTreeWidgetItem* node) { Run([&] { tre_DblClick(node); }); });
+          [this](const QTreeWidgetItem* node) { RunCommand([&] { tre_DblClick(node); }); });
 }
 
 void frmVantrel::AddShortcuts() {
@@ -98,19 +85,29 @@ void frmVantrel::AcceptDrops() {
   setAcceptDrops(true);
   // The other program waits for the end of the drop, so a message box must not keep it.
   connect(
-      this, &frmVantrel::FileDropped, this,
-      [this](const std::string& file) { Run([&] { OpenFile(file); }); }, Qt::QueuedConnection);
+      this, &frmVantrel::FilesDropped, this,
+      [this](const std::vector<std::string>& files) {
+        RunCommand([&] { OpenDroppedFiles(files); });
+      },
+      Qt::QueuedConnection);
   for (QLineEdit* box : {controls_.txtGroup, controls_.txtParam, controls_.txtPointLabel,
                          controls_.txtAnalogLabel}) {
     box->installEventFilter(this);
   }
 }
 
+void frmVantrel::OpenDroppedFiles(const std::vector<std::string>& files) {
+  OpenFile(files.front());
+  if (files.size() == 1) return;
+  ShowMessage(this, "One file can be open at a time.  Of the " + std::to_string(files.size()) +
+                        " files that were dropped the first was taken, the others were left.");
+}
+
 bool frmVantrel::eventFilter(QObject* watched, QEvent* event) {
   // A text box takes dropped texts, but a file dropped on it is for the form. Entering and moving
   // are kinds of dropping to the toolkit.
   if (auto* drop = dynamic_cast<QDropEvent*>(event);
-      drop != nullptr && !DraggedFile(drop->mimeData()).empty()) {
+      drop != nullptr && !DraggedFiles(drop->mimeData()).empty()) {
     if (event->type() == QEvent::Drop) {
       dropEvent(drop);
     } else {
@@ -122,14 +119,14 @@ bool frmVantrel::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void frmVantrel::dragEnterEvent(QDragEnterEvent* event) {
-  if (!DraggedFile(event->mimeData()).empty()) AcceptCopy(event);
+  if (!DraggedFiles(event->mimeData()).empty()) AcceptCopy(event);
 }
 
 void frmVantrel::dropEvent(QDropEvent* event) {
-  const std::string file = DraggedFile(event->mimeData());
+  const std::vector<std::string> files = DraggedFiles(event->mimeData());
   // While a message box waits, the command behind it is not done yet.
-  if (file.empty() || QApplication::activeModalWidget() != nullptr) return;
-  if (AcceptCopy(event)) emit FileDropped(file);
+  if (files.empty() || gate_.IsBusy() || QApplication::activeModalWidget() != nullptr) return;
+  if (AcceptCopy(event)) emit FilesDropped(files);
 }
 
 }  // namespace app

@@ -4,12 +4,12 @@
 
 #include <array>
 #include <cstddef>
-#include <utility>
 #include <vector>
 
-#include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
+
+#include "app/MessageBox.h"
 
 namespace modMsgBoxPlus {
 
@@ -81,30 +81,6 @@ std::vector<Button> AddButtons(QMessageBox& box, int buttonSet,
   return buttons;
 }
 
-// `text` with places where a line may end in words that are too long for a line, as paths are. The
-// places are characters without a width.
-QString WithLineBreaks(const QString& text) {
-  constexpr qsizetype kLongWord = 60;
-  constexpr qsizetype kLongPart = 40;
-  constexpr char16_t kBreak = u'\u200B';
-  QStringList words = text.split(u' ');
-  for (QString& word : words) {
-    if (word.size() <= kLongWord) continue;
-    QString broken;
-    qsizetype part = 0;
-    for (const QChar letter : std::as_const(word)) {
-      broken += letter;
-      ++part;
-      const bool ends = letter == u'/' || letter == u'\\' || part >= kLongPart;
-      if (!ends || letter.isHighSurrogate()) continue;
-      broken += kBreak;
-      part = 0;
-    }
-    word = broken;
-  }
-  return words.join(u' ');
-}
-
 QString AnswerFor(ButtonKind kind, int buttonSet, const std::array<QString, 3>& captions) {
   switch (kind) {
     case ButtonKind::Ok:
@@ -130,9 +106,7 @@ QString MsgBoxPlus(QWidget* ownerWindow, int buttonSet, const QString& caption, 
                    int style, const QString& caption1, const QString& caption2,
                    const QString& caption3, int timeoutMs) {
   const std::array captions = {caption1, caption2, caption3};
-  QMessageBox box(IconFor(style), caption, WithLineBreaks(text), QMessageBox::NoButton,
-                  ownerWindow);
-  box.setTextFormat(Qt::PlainText);
+  app::MessageBox box(IconFor(style), caption, text, QMessageBox::NoButton, ownerWindow);
   const std::vector<Button> buttons = AddButtons(box, buttonSet, captions, style);
   const bool canBeClosed = SetFor(buttonSet).Escape != ButtonKind::None;
   box.setWindowFlag(Qt::WindowCloseButtonHint, canBeClosed);

@@ -26,6 +26,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 
+#include "app/FormLayout.h"
 #include "app/OutputPane.h"
 #include "app/Startup.h"
 #include "app/frmVantrel.h"
@@ -111,6 +112,7 @@ int MeasureListing(int argc, char** argv) {
   modVantrel::FileState state;
   app::frmVantrel form(state);
   form.Form_Load(argv[2]);
+  form.resize(app::kDesignSize);  // whatever screen there is
   form.show();
   Settle();
   form.findChild<QLineEdit*>(QStringLiteral("txtAnalogLabel"))->setText(QStringLiteral("EMG"));

@@ -45,10 +45,17 @@ std::string FormTest::Write(const sample::Trial& trial, const std::string& name)
 void FormTest::Drop(const std::string& path) { DropOn(form_, path); }
 
 void FormTest::DropOn(QWidget& target, const std::string& path) {
+  DropOn(target, std::vector<std::string>{path});
+}
+
+void FormTest::DropOn(QWidget& target, const std::vector<std::string>& paths) {
   QMimeData data;
-  // Percent-encoded byte for byte, as file managers hand it over.
-  data.setUrls(
-      {QUrl::fromEncoded("file://" + QByteArray::fromStdString(path).toPercentEncoding("/"))});
+  QList<QUrl> urls;
+  for (const std::string& path : paths) {
+    // Percent-encoded byte for byte, as file managers hand it over.
+    urls << QUrl::fromEncoded("file://" + QByteArray::fromStdString(path).toPercentEncoding("/"));
+  }
+  data.setUrls(urls);
   const QPoint place(3, 3);
   QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
   QApplication::sendEvent(&target, &enter);

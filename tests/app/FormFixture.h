@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include <QLineEdit>
 #include <QPushButton>
@@ -39,6 +40,7 @@ class FormTest : public ::testing::Test {
   // Drops a file on the form as a file manager does.
   void Drop(const std::string& path);
   static void DropOn(QWidget& target, const std::string& path);
+  static void DropOn(QWidget& target, const std::vector<std::string>& paths);
 
   QPushButton* Button(const char* name) { return Control<QPushButton>(name); }
   QLineEdit* Box(const char* name) { return Control<QLineEdit>(name); }

@@ -9,11 +9,10 @@
 #include <QApplication>
 #include <QFontDatabase>
 #include <QLabel>
-#include <QScreen>
 #include <QTest>
 
+#include "app/FormColumn.h"
 #include "app/FormLayout.h"
-#include "app/Screens.h"
 #include "tests/app/FormFixture.h"
 
 namespace {
@@ -22,6 +21,12 @@ using FormLayout = tests::FormTest;
 
 class FormResize : public tests::FormTest {
  protected:
+  // On a small screen the form opens smaller.
+  void StartAsDrawn() {
+    Start();
+    Resize(app::kDesignSize.width(), app::kDesignSize.height());
+  }
+
   // Gives the form a size and waits until the window system has taken it.
   void Resize(int width, int height) {
     const QSize size(width, height);
@@ -71,6 +76,14 @@ QLabel* LabelOf(QWidget* form, const QWidget* control) {
     if (label->buddy() == control) return label;
   }
   return nullptr;
+}
+
+// The controls of the form, the pane included, with their labels.
+QList<QWidget*> ControlsOf(const app::frmVantrel& form) {
+  auto* column = form.findChild<app::FormColumn*>();
+  QList<QWidget*> controls =
+      column->Content()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+  return controls << form.findChild<app::OutputPane*>();
 }
 
 TEST_F(FormLayout, IsTitledVantrelBeforeAFileIsOpen) {
@@ -139,7 +152,7 @@ TEST_F(FormLayout, TabGoesFromLeftToRightAndThenDownwardsAndLeavesThePane) {
 
 TEST_F(FormLayout, LeavesTheLeft430PixelsToTheControlsAndTheRestToThePane) {
   EXPECT_EQ(form_.size(), QSize(1180, 740));
-  for (QWidget* control : form_.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+  for (QWidget* control : ControlsOf(form_)) {
     if (control == Pane()) continue;
     EXPECT_TRUE(QRect(0, 0, 430, 740).contains(control->geometry()))
         << control->objectName().toStdString();
@@ -148,7 +161,7 @@ TEST_F(FormLayout, LeavesTheLeft430PixelsToTheControlsAndTheRestToThePane) {
 }
 
 TEST_F(FormLayout, NoTwoControlsOverlap) {
-  const auto controls = form_.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+  const auto controls = ControlsOf(form_);
   for (const QWidget* one : controls) {
     for (const QWidget* other : controls) {
       EXPECT_TRUE(one == other || !one->geometry().intersects(other->geometry()))
@@ -170,7 +183,9 @@ void ExpectEveryCaptionFits(const app::frmVantrel& form) {
   for (const auto* box : form.findChildren<app::CaptionCheckBox*>()) {
     ExpectFits(box, box->CaptionArea().width(), app::kCheckBoxCaptionFlags, box->text());
   }
-  for (const auto* label : form.findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly)) {
+  for (const QWidget* control : ControlsOf(form)) {
+    const auto* label = qobject_cast<const QLabel*>(control);
+    if (label == nullptr) continue;
     ExpectFits(label, label->width(), Qt::TextWordWrap | Qt::TextShowMnemonic, label->text());
   }
 }
@@ -206,12 +221,6 @@ TEST_F(FormLayout, TheTreesLabelBreaksBetweenItsTwoSentences) {
             label->width());
 }
 
-TEST_F(FormLayout, StandsInTheMiddleAndAThirdOfTheWayDownTheScreen) {
-  form_.Form_Load({});
-  const QRect screen = form_.screen()->geometry();
-  EXPECT_EQ(form_.pos() - screen.topLeft(), app::FormPosition(screen.size(), app::kDesignSize));
-}
-
 TEST_F(FormLayout, IsAWindowToAScreenReader) {
   Start();
   QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(&form_);
@@ -223,37 +232,23 @@ TEST_F(FormLayout, TheHiddenHeaderOfTheTreeIsReadOutByItsLabel) {
   EXPECT_EQ(Tree()->headerItem()->text(0), QStringLiteral("Groups, Parameters, & Labels"));
 }
 
-TEST_F(FormLayout, OnceShownKeepsItsSizeAndItsCornerOnTheScreen) {
-  Start();
-  QTest::qWait(50);
-  const QRect screen = form_.screen()->availableGeometry();
-  EXPECT_EQ(form_.size(), app::kDesignSize);
-  EXPECT_TRUE(screen.contains(form_.frameGeometry().topLeft()));
-}
+class DarkForm : public tests::FormTest {
+ protected:
+  void StartInTheDark() {
+    QPalette dark(QColor(43, 43, 46), QColor(35, 35, 38));
+    dark.setColor(QPalette::Base, QColor(27, 27, 29));
+    QApplication::setPalette(dark);
+    Start();
+  }
+  void TearDown() override { QApplication::setPalette(before_); }
 
-TEST(FrameOnScreen, StaysWhereItFits) {
-  EXPECT_EQ(app::NearestPlaceInside({0, 0, 1366, 768}, {93, 9, 1180, 740}), QPoint(93, 9));
-  EXPECT_EQ(app::NearestPlaceInside({0, 0, 1366, 768}, {186, 28, 1180, 740}), QPoint(186, 28));
-}
+ private:
+  const QPalette before_ = QApplication::palette();
+};
 
-TEST(FrameOnScreen, IsPushedBackOverTheEdgeThatItCrosses) {
-  EXPECT_EQ(app::NearestPlaceInside({0, 0, 1366, 768}, {190, 9, 1180, 768}), QPoint(186, 0));
-  EXPECT_EQ(app::NearestPlaceInside({1366, 30, 1366, 738}, {1300, 9, 700, 500}), QPoint(1366, 30));
-}
-
-TEST(FrameOnScreen, KeepsItsTitleBarInSightWhereItIsTooLarge) {
-  EXPECT_EQ(app::NearestPlaceInside({0, 40, 1366, 728}, {93, 9, 1180, 768}), QPoint(93, 40));
-  EXPECT_EQ(app::NearestPlaceInside({0, 0, 800, 600}, {-190, -46, 1180, 768}), QPoint(0, 0));
-}
-
-TEST_F(FormLayout, AnUntickedBoxIsSeenInDarkColours) {
-  const QPalette before = QApplication::palette();
-  QPalette dark(QColor(43, 43, 46), QColor(35, 35, 38));
-  dark.setColor(QPalette::Base, QColor(27, 27, 29));
-  QApplication::setPalette(dark);
-  Start();
+TEST_F(DarkForm, AnUntickedBoxIsSeen) {
+  StartInTheDark();
   const QImage shown = CheckBox()->grab().toImage();
-  QApplication::setPalette(before);
   // Across the box, left of the caption: its ground and its frame.
   int lightest = 0;
   for (int x = 0; x < CheckBox()->CaptionArea().left() - 2; ++x) {
@@ -262,8 +257,25 @@ TEST_F(FormLayout, AnUntickedBoxIsSeenInDarkColours) {
   EXPECT_GT(lightest, 100);
 }
 
+TEST_F(DarkForm, TheEdgesOfTheTextBoxesAreSeen) {
+  StartInTheDark();
+  QTest::keyClick(&form_, Qt::Key_F, Qt::ControlModifier);
+  Button("cmdOpen")->setFocus();
+  for (const char* name : {"txtGroup", "txtParam", "txtPointLabel", "txtAnalogLabel", "txtFind"}) {
+    const QImage shown = Box(name)->grab().toImage();
+    const int middle = shown.height() / 2;
+    for (const int end : {0, shown.width() - 3}) {
+      int lightest = 0;
+      for (int x = end; x < end + 3; ++x) {
+        lightest = std::max(lightest, qGray(shown.pixel(x, middle)));
+      }
+      EXPECT_GT(lightest, 100) << name;
+    }
+  }
+}
+
 TEST_F(FormResize, GrowingTheFormGrowsThePaneAndTheTreeByExactlyThat) {
-  Start();
+  StartAsDrawn();
   const QRect pane = Pane()->geometry();
   const QRect tree = Tree()->geometry();
   Resize(1180 + 137, 740 + 59);
@@ -272,7 +284,7 @@ TEST_F(FormResize, GrowingTheFormGrowsThePaneAndTheTreeByExactlyThat) {
 }
 
 TEST_F(FormResize, ShrinkingTheFormShrinksThePaneAndTheTreeByExactlyThat) {
-  Start();
+  StartAsDrawn();
   const QRect pane = Pane()->geometry();
   const QRect tree = Tree()->geometry();
   Resize(1180 - 301, 740 - 101);
@@ -281,9 +293,9 @@ TEST_F(FormResize, ShrinkingTheFormShrinksThePaneAndTheTreeByExactlyThat) {
 }
 
 TEST_F(FormResize, NothingElseMoves) {
-  Start();
+  StartAsDrawn();
   std::map<const QWidget*, QRect> places;
-  const auto controls = form_.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+  const auto controls = ControlsOf(form_);
   for (const QWidget* control : controls) places[control] = control->geometry();
   Resize(1500, 900);
   for (const QWidget* control : controls) {
@@ -293,7 +305,7 @@ TEST_F(FormResize, NothingElseMoves) {
 }
 
 TEST_F(FormResize, AWidthBelowNothingIsLeftOutAndTheHeightsStillFollow) {
-  Start();
+  StartAsDrawn();
   const int paneWidth = Pane()->width();
   const int paneHeight = Pane()->height();
   const int treeHeight = Tree()->height();
@@ -304,7 +316,7 @@ TEST_F(FormResize, AWidthBelowNothingIsLeftOutAndTheHeightsStillFollow) {
 }
 
 TEST_F(FormResize, AHeightBelowNothingIsLeftOutForEachControlByItself) {
-  Start();
+  StartAsDrawn();
   const int treeHeight = Tree()->height();
   const int paneHeight = Pane()->height();
   Resize(1180, 740 - treeHeight - 50);
@@ -313,13 +325,13 @@ TEST_F(FormResize, AHeightBelowNothingIsLeftOutForEachControlByItself) {
 }
 
 TEST_F(FormResize, AWidthOfExactlyNothingIsSet) {
-  Start();
+  StartAsDrawn();
   Resize(1180 - Pane()->width(), 740);
   EXPECT_EQ(Pane()->width(), 0);
 }
 
 TEST_F(FormResize, ToTinyAndBackGivesTheDesignAgain) {
-  Start();
+  StartAsDrawn();
   const QRect pane = Pane()->geometry();
   const QRect tree = Tree()->geometry();
   for (const QSize size : {QSize(700, 500), QSize(120, 90), QSize(1, 1), QSize(1180, 740)}) {

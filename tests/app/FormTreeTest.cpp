@@ -214,4 +214,26 @@ TEST_F(FormTree, ADoubleClickWithAnotherButtonRunsNothing) {
   EXPECT_EQ(TextBoxes(), before);
 }
 
+TEST_F(FormTree, AClickOrDoubleClickBesideTheNodesChangesNothing) {
+  StartWithSample();
+  ClickNode(Path("SUBJECTS"));
+  const QStringList before = TextBoxes();
+  const QPoint beside(20, Tree()->viewport()->height() - 3);
+  ASSERT_EQ(Tree()->itemAt(beside), nullptr);
+  QTest::mouseClick(Tree()->viewport(), Qt::LeftButton, {}, beside);
+  QTest::mouseDClick(Tree()->viewport(), Qt::LeftButton, {}, beside);
+  EXPECT_EQ(Tree()->selectedItems(), QList<QTreeWidgetItem*>({Node(Path("SUBJECTS"))}));
+  EXPECT_EQ(TextBoxes(), before);
+  EXPECT_EQ(PaneText(), "");
+}
+
+TEST_F(FormTree, AClickWithCtrlHighlightsTheNodeWhoseNameStandsInTheBoxes) {
+  StartWithSample();
+  ClickNode(Path("SUBJECTS"));
+  const QPoint place = Tree()->visualItemRect(Node(Path("SUBJECTS"))).center();
+  QTest::mouseClick(Tree()->viewport(), Qt::LeftButton, Qt::ControlModifier, place);
+  EXPECT_EQ(Tree()->selectedItems(), QList<QTreeWidgetItem*>({Node(Path("SUBJECTS"))}));
+  EXPECT_EQ(Box("txtGroup")->text(), QStringLiteral("SUBJECTS"));
+}
+
 }  // namespace

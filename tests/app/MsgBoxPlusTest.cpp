@@ -65,38 +65,6 @@ TEST(MsgBoxPlus, ShowsItsTitleItsTextAndTheCaptionsInOrder) {
             QStringList({QStringLiteral("One"), QStringLiteral("Two"), QStringLiteral("Three")}));
 }
 
-TEST(MsgBoxPlus, BreaksAPathThatIsTooLongForALine) {
-  QString path;
-  for (int i = 0; i < 30; ++i) path += QStringLiteral("/a folder_of-some.length%1").arg(i);
-  path.remove(u' ');
-  path += QString(200, u'x');
-  QString shown;
-  bool fits = false;
-  Boxes boxes;
-  boxes.Expect([&](QDialog& dialog) {
-    auto* label = dialog.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
-    shown = label->text();
-    const QRect needed = label->fontMetrics().boundingRect(QRect(0, 0, label->width(), 10000),
-                                                           Qt::TextWordWrap, shown);
-    fits = needed.width() <= label->width() && needed.height() <= label->height();
-    dialog.reject();
-  });
-  modMsgBoxPlus::MsgBoxPlus(nullptr, modMsgBoxPlus::kOk, QStringLiteral("Title"),
-                            QStringLiteral("The file '%1' exists.").arg(path), 0,
-                            QStringLiteral("One"), {}, {}, 0);
-  EXPECT_TRUE(fits) << shown.toStdString();
-  EXPECT_EQ(shown.remove(u'\u200B'), QStringLiteral("The file '%1' exists.").arg(path));
-}
-
-TEST(MsgBoxPlus, LeavesWordsThatFitALineAsTheyAre) {
-  Boxes boxes;
-  boxes.ExpectAndClick(QStringLiteral("One"));
-  const QString text = QStringLiteral("A path of sixty letters: ") + QString(60, u'/');
-  modMsgBoxPlus::MsgBoxPlus(nullptr, modMsgBoxPlus::kOk, QStringLiteral("Title"), text, 0,
-                            QStringLiteral("One"), {}, {}, 0);
-  EXPECT_EQ(boxes.Seen().at(0).Text, text);
-}
-
 TEST(MsgBoxPlus, ClosedWithoutAButtonCountsAsEscape) {
   Boxes boxes;
   for (const auto& [set, answer] :

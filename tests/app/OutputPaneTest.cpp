@@ -1,18 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The pane as a reader uses it: keys, selection, search, zoom, colours.
+// The pane as a reader uses it: keys, selection, zoom, colours.
 
 #include <QApplication>
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QLabel>
 #include <QMouseEvent>
 #include <QPalette>
 #include <QScrollBar>
 #include <QTest>
-#include <QToolButton>
 
-#include "app/FindBar.h"
 #include "tests/app/FormFixture.h"
 
 namespace {
@@ -160,137 +157,6 @@ TEST_F(OutputPane, FollowsAChangeOfTheColours) {
   EXPECT_EQ(colour(QsciScintilla::SCI_STYLEGETBACK), QColor(20, 21, 22));
   EXPECT_EQ(colour(QsciScintilla::SCI_STYLEGETFORE), QColor(230, 231, 232));
   QApplication::setPalette(before);
-}
-
-class Find : public OutputPane {
- protected:
-  void StartWith(const char* text) {
-    Start();
-    Pane()->Append(text);
-    Pane()->setFocus();
-    QTest::keyClick(Pane(), Qt::Key_F, Qt::ControlModifier);
-  }
-
-  app::FindBar* Bar() { return Control<app::FindBar>("findBar"); }
-  QLineEdit* Wanted() { return Box("txtFind"); }
-};
-
-TEST_F(Find, CtrlFOpensTheBarReadyForTyping) {
-  StartWith("text");
-  EXPECT_TRUE(Bar()->isVisible());
-  EXPECT_TRUE(Wanted()->hasFocus());
-  EXPECT_TRUE(Pane()->rect().contains(Bar()->geometry()));
-}
-
-TEST_F(Find, EnterGoesFromPlaceToPlaceInAnyCaseAndRoundAtTheEnd) {
-  StartWith("Left foot\nleft hand\n");
-  QTest::keyClicks(Wanted(), QStringLiteral("LEFT"));
-  QTest::keyClick(Wanted(), Qt::Key_Return);
-  EXPECT_EQ(SelectionStart(), 0);
-  EXPECT_EQ(SelectionEnd(), 4);
-  QTest::keyClick(Wanted(), Qt::Key_Return);
-  EXPECT_EQ(SelectionStart(), 10);
-  QTest::keyClick(Wanted(), Qt::Key_Return);
-  EXPECT_EQ(SelectionStart(), 0);
-  QTest::keyClick(Wanted(), Qt::Key_Return, Qt::ShiftModifier);
-  EXPECT_EQ(SelectionStart(), 10);
-  QTest::keyClick(&form_, Qt::Key_F3);
-  EXPECT_EQ(SelectionStart(), 0);
-  QTest::mouseClick(Control<QToolButton>("cmdFindPrevious"), Qt::LeftButton);
-  EXPECT_EQ(SelectionStart(), 10);
-}
-
-TEST_F(Find, UmlautsAreFoundAsTheyAreTyped) {
-  StartWith(
-      "Stra\xC3\x9F"
-      "e \xC3\xBC"
-      "ber\n");
-  Wanted()->insert(QStringLiteral("\u00FCBER"));
-  QTest::keyClick(Wanted(), Qt::Key_Return);
-  EXPECT_EQ(Pane()->selectedText(), QStringLiteral("\u00FCber"));
-}
-
-TEST_F(Find, WhatIsNotThereIsSaidAndTheSelectionStays) {
-  StartWith("Left foot\n");
-  QTest::keyClicks(Wanted(), QStringLiteral("foot"));
-  QTest::keyClick(Wanted(), Qt::Key_Return);
-  QTest::keyClicks(Wanted(), QStringLiteral("ball"));
-  QTest::keyClick(Wanted(), Qt::Key_Return);
-  EXPECT_TRUE(Control<QLabel>("lblFindResult")->isVisible());
-  EXPECT_EQ(SelectionStart(), 5);
-  QTest::keyClick(Wanted(), Qt::Key_Backspace);
-  EXPECT_FALSE(Control<QLabel>("lblFindResult")->isVisible());
-}
-
-TEST_F(Find, EscapeClosesTheBarAndGoesBackToThePane) {
-  StartWith("text");
-  QTest::keyClick(Wanted(), Qt::Key_Escape);
-  EXPECT_FALSE(Bar()->isVisible());
-  EXPECT_TRUE(Pane()->hasFocus());
-}
-
-TEST_F(Find, EscapeClosesTheBarFromThePaneToo) {
-  StartWith("text");
-  Pane()->setFocus();
-  QTest::keyClick(Pane(), Qt::Key_Escape);
-  EXPECT_FALSE(Bar()->isVisible());
-  EXPECT_TRUE(Pane()->hasFocus());
-}
-
-TEST_F(Find, EscapeClosesTheBarFromAnywhereInTheWindow) {
-  StartWith("text");
-  Box("txtGroup")->setFocus();
-  QTest::keyClick(Box("txtGroup"), Qt::Key_Escape);
-  EXPECT_FALSE(Bar()->isVisible());
-}
-
-TEST_F(Find, F3SaysWhatIsNotThereWhereTheBarIsClosed) {
-  StartWith("text");
-  QTest::keyClicks(Wanted(), QStringLiteral("zzz"));
-  QTest::keyClick(Wanted(), Qt::Key_Escape);
-  ASSERT_FALSE(Bar()->isVisible());
-  Pane()->setSelection(0, 0, 0, 4);
-  QTest::keyClick(&form_, Qt::Key_F3);
-  EXPECT_EQ(Wanted()->text(), QStringLiteral("zzz"));
-  EXPECT_TRUE(Bar()->isVisible());
-  EXPECT_TRUE(Control<QLabel>("lblFindResult")->isVisible());
-}
-
-TEST_F(Find, TheBarNeverLiesOverWhatWasFound) {
-  // At the end of a line as wide as the pane, first on the first line, then far below.
-  const std::string wide(80, '.');
-  std::string text = wide + "toe\n";
-  for (int i = 0; i < 300; ++i) text += wide + "\n";
-  text += wide + "toe\n";
-  StartWith((text + text).c_str());
-  QTest::keyClicks(Wanted(), QStringLiteral("toe"));
-  int besideTheTop = 0;
-  for (int i = 0; i < 4; ++i) {
-    QTest::keyClick(Wanted(), Qt::Key_Return);
-    ASSERT_EQ(Pane()->selectedText(), QStringLiteral("toe"));
-    const QRect view = Pane()->viewport()->geometry();
-    const QRect found = Pane()->SelectionPlace().translated(view.topLeft());
-    EXPECT_TRUE(view.contains(found)) << i;
-    EXPECT_FALSE(Bar()->geometry().intersects(found)) << i;
-    EXPECT_TRUE(view.contains(Bar()->geometry())) << i;
-    besideTheTop += Bar()->geometry().top() == view.top() ? 1 : 0;
-  }
-  EXPECT_LT(besideTheTop, 4) << "the first line lies under the upper corner";
-}
-
-TEST_F(Find, ASelectionWithinALineIsTakenOver) {
-  Start();
-  Pane()->Append("some words\nmore\n");
-  Pane()->setSelection(0, 5, 0, 10);
-  QTest::keyClick(Pane(), Qt::Key_F, Qt::ControlModifier);
-  EXPECT_EQ(Wanted()->text(), QStringLiteral("words"));
-}
-
-TEST_F(Find, TheBarStaysInTheCornerWhenTheFormIsResized) {
-  StartWith("text");
-  form_.resize(1000, 600);
-  QApplication::processEvents();
-  EXPECT_EQ(Bar()->geometry().right(), Pane()->viewport()->geometry().right());
 }
 
 }  // namespace

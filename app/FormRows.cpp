@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/FormRows.h"
+
+#include <array>
+
+#include "app/FormLayout.h"
+#include "app/frmVantrel.h"
+
+namespace app {
+
+namespace {
+
+constexpr int kRight = kFormMargin + kColumnWidth - kHalfWidth;  // left edge of the right half
+constexpr int kOneLine = 25;  // heights of buttons by the lines of their captions
+constexpr int kTwoLines = 37;
+
+constexpr QRect Left(int top, int height) { return {kFormMargin, top, kHalfWidth, height}; }
+constexpr QRect Right(int top, int height) { return {kRight, top, kHalfWidth, height}; }
+constexpr QRect Whole(int top, int height) { return {kFormMargin, top, kColumnWidth, height}; }
+
+constexpr auto kRows = std::to_array<FormRow>({
+    ButtonRow{"cmdOpen", u"Open C3D", Left(8, kOneLine), &frmVantrel::cmdOpen_Click},
+    ButtonRow{"cmdExit", u"Exit", Right(8, kOneLine), &frmVantrel::cmdExit_Click},
+    ButtonRow{"cmdShowHeaderInfo", u"Show Header Info", Left(37, kOneLine),
+              &frmVantrel::cmdShowHeaderInfo_Click},
+    ButtonRow{"cmdShowParameterHeader", u"Show Parameter Header", Right(37, kOneLine),
+              &frmVantrel::cmdShowParameterHeader_Click},
+    TextBoxRow{"txtGroup", u"Group name", {kFormMargin, 71}, &FormControls::txtGroup},
+    TextBoxRow{"txtParam", u"Param name", {kRight, 71}, &FormControls::txtParam},
+    ButtonRow{"cmdShowAllGroups", u"Show All Groups", Left(99, kTwoLines),
+              &frmVantrel::cmdShowAllGroups_Click},
+    ButtonRow{"cmdShowAllGroupsAndAllParams", u"Show All Groups && All Params",
+              Right(99, kTwoLines), &frmVantrel::cmdShowAllGroupsAndAllParams_Click},
+    ButtonRow{"cmdShowMatchingGroupAndAllParams", u"Show Matching Group && All Params",
+              Left(140, kTwoLines), &frmVantrel::cmdShowMatchingGroupAndAllParams_Click},
+    ButtonRow{"cmdShowMatchingGroupAndMatchingParam", u"Show Matching Group && Matching Param",
+              Right(140, kTwoLines), &frmVantrel::cmdShowMatchingGroupAndMatchingParam_Click},
+    TextBoxRow{"txtPointLabel", u"Point label", {kFormMargin, 186}, &FormControls::txtPointLabel},
+    ButtonRow{"cmdShowPointLabels", u"Show Point Labels", Right(186, kOneLine),
+              &frmVantrel::cmdShowPointLabels_Click},
+    ButtonRow{"cmdShowPointData", u"Show Point Data for Matching Label", Left(215, kTwoLines),
+              &frmVantrel::cmdShowPointData_Click},
+    ButtonRow{"cmdShowPointDataWithEvents", u"Show Point Data with Events for Matching Label",
+              Right(215, kTwoLines), &frmVantrel::cmdShowPointDataWithEvents_Click},
+    TextBoxRow{
+        "txtAnalogLabel", u"Analog label", {kFormMargin, 261}, &FormControls::txtAnalogLabel},
+    ButtonRow{"cmdShowAnalogData", u"Show Analog Data for Matching Label", Left(289, kTwoLines),
+              &frmVantrel::cmdShowAnalogData_Click},
+    ButtonRow{"cmdShowAnalogDataWithEvents", u"Show Analog Data with Events for Matching Label",
+              Right(289, kTwoLines), &frmVantrel::cmdShowAnalogDataWithEvents_Click},
+    ButtonRow{"cmdShowStrikeOffEvents", u"Show Strike/Off Events", Left(335, kTwoLines),
+              &frmVantrel::cmdShowStrikeOffEvents_Click},
+    ButtonRow{"cmdShowSingleValueStrikeOffMeasures", u"Show Single-Value Strike/Off Measures",
+              Right(335, kTwoLines), &frmVantrel::cmdShowSingleValueStrikeOffMeasures_Click},
+    ButtonRow{"cmdShowNormalized",
+              u"Show Normalized (cubic spline, 51 points) Data for Label && Stride Events",
+              Whole(376, kTwoLines), &frmVantrel::cmdShowNormalized_Click},
+    ButtonRow{"cmdWriteGcdFiles", u"Write GCD Files", Whole(417, kOneLine),
+              &frmVantrel::cmdWriteGcdFiles_Click},
+});
+
+}  // namespace
+
+std::span<const FormRow> FormRows() { return kRows; }
+
+}  // namespace app
