@@ -3,6 +3,7 @@
 #include "c3d/FrameData.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <memory>
 #include <span>
@@ -92,6 +93,7 @@ void ReadCoordinates(const FileState& state, const FrameLayout& layout, PointSam
     sample.X = coordinate(0);
     sample.Y = coordinate(1);
     sample.Z = coordinate(2);
+    sample.FourthWord = StoredInteger(words.subspan(3 * kIntegerSize).first<kIntegerSize>());
   } else if (layout.ValueSize == kSingleSize) {
     const auto coordinate = [&](std::size_t i) {
       const auto bits = StoredSingleBits(words.subspan(i * kSingleSize).first<kSingleSize>());
@@ -100,6 +102,7 @@ void ReadCoordinates(const FileState& state, const FrameLayout& layout, PointSam
     sample.X = coordinate(0);
     sample.Y = coordinate(1);
     sample.Z = coordinate(2);
+    sample.FourthWord = coordinate(3);
   }
 }
 
@@ -256,6 +259,13 @@ void TagWithEvents(const FileState& state, Frames& frames) {
 }
 
 }  // namespace
+
+float ResidualOf(const PointSample& sample, float scaleFactor) {
+  constexpr double kResidualRange = 256;
+  if (!(sample.FourthWord >= 0)) return -1;
+  const double residual = std::fmod(std::trunc(double{sample.FourthWord}), kResidualRange);
+  return static_cast<float>(residual * scaleFactor);
+}
 
 std::int32_t GetPointLabelIndex(const FileState& state, std::string_view label) {
   return IndexOf(state.PointLabels, label);

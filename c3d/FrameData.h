@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cmath>
 #include <cstdint>
 #include <string_view>
 
@@ -23,7 +24,18 @@ struct PointSample {
   std::int32_t NextPointPosition = 0;  // of the next label; 0 for the last label
   GaitEventType EventType = GaitEventType::Other;
   GaitSide EventSide = GaitSide::None;
+  float FourthWord = 0;  // as stored; what it says is below
+
+  // Whether the point was seen in the frame: its fourth word is not negative, and neither that nor
+  // a coordinate is missing.
+  bool IsSeen() const {
+    return FourthWord >= 0 && !std::isnan(X) && !std::isnan(Y) && !std::isnan(Z);
+  }
 };
+
+// The residual of a point, in the data's own units: the low eight bits of its fourth word's whole
+// part times `scaleFactor`; -1 where that word is negative or not a number.
+float ResidualOf(const PointSample& sample, float scaleFactor);
 
 // Indexed by frame, 1 to PointFrameCount, like AnalogFrames; empty where there is no such label.
 using PointSamples = modAllPurpose::OneBasedTable<PointSample>;

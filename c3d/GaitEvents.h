@@ -52,6 +52,9 @@ struct GaitEventState {
   modAllPurpose::OneBasedTable<EventRecord> NonSidedEvents;
   std::int32_t ValidStrideCount = 0;
   modAllPurpose::OneBasedTable<StrideRecord> ValidStrides;
+  // The events whose own time lies more than half a frame outside the trial, with that time; in the
+  // lists above they stand at its first or last instant.
+  modAllPurpose::OneBasedTable<EventRecord> OutsideEvents;
   std::int32_t StrideEventCount = 0;
   modAllPurpose::OneBasedTable<EventRecord> StrideEvents;
 

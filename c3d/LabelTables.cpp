@@ -4,6 +4,8 @@
 
 #include <utility>
 
+#include <fmt/format.h>
+
 #include "c3d/ParameterSection.h"
 #include "support/Arithmetic.h"
 #include "support/Text.h"
@@ -22,6 +24,28 @@ void FillFrom(const ParamRecord& param, std::string_view prefix,
   for (std::int32_t i = 1; i <= table.Count() && texts.Holds(ElementAt(i)); ++i) {
     table[i] = WithoutPrefix(texts.At(ElementAt(i)), prefix);
   }
+}
+
+// Calls `take(number, text)` for each entry of the continuations of `param`, from 256 to `count`.
+template <typename Take>
+void ForFurtherEntries(const FileState& state, std::string_view group, std::string_view param,
+                       std::int32_t count, Take take) {
+  constexpr std::int32_t kMostEntries = 255;
+  for (std::int32_t first = kMostEntries; first < count; first += kMostEntries) {
+    const std::string name = fmt::format("{}{}", param, first / kMostEntries + 1);
+    const TextArray texts = FindGroupAndParam(state, group, name).Param.TextValues;
+    for (std::int32_t k = 1; first + k <= count && texts.Holds(ElementAt(k)); ++k) {
+      take(first + k, texts.At(ElementAt(k)));
+    }
+  }
+}
+
+void AddFurtherEntries(const FileState& state, std::string_view group, std::string_view param,
+                       OneBasedTable<std::string>& table) {
+  ForFurtherEntries(state, group, param, table.Count(),
+                    [&](std::int32_t i, const std::string& text) {
+                      table[i] = WithoutPrefix(text, state.LabelPrefix);
+                    });
 }
 
 }  // namespace
@@ -61,6 +85,23 @@ void FillAnalogLabels(FileState& state) {
   if (!labels.BothFound() || !descriptions.BothFound()) return;
   FillFrom(labels.Param, state.LabelPrefix, state.AnalogLabels);
   FillFrom(descriptions.Param, state.LabelPrefix, state.AnalogDescriptions);
+}
+
+OneBasedTable<std::string> ReadTextTable(const FileState& state, std::string_view group,
+                                         std::string_view param, std::int32_t count) {
+  const BinaryFile::Look look(state.C3dFileNumber);
+  OneBasedTable<std::string> table(count);
+  FillFrom(FindGroupAndParam(state, group, param).Param, "", table);
+  ForFurtherEntries(state, group, param, count,
+                    [&](std::int32_t i, std::string text) { table[i] = std::move(text); });
+  return table;
+}
+
+void AddFurtherLabels(FileState& state) {
+  const BinaryFile::Look look(state.C3dFileNumber);
+  AddFurtherEntries(state, "POINT", "LABELS", state.PointLabels);
+  AddFurtherEntries(state, "ANALOG", "LABELS", state.AnalogLabels);
+  AddFurtherEntries(state, "ANALOG", "DESCRIPTIONS", state.AnalogDescriptions);
 }
 
 }  // namespace modVantrel

@@ -24,4 +24,15 @@ void FillPointLabels(FileState& state);
 // file holds both parameters. Descriptions lose the prefix like labels.
 void FillAnalogLabels(FileState& state);
 
+// The entries 1 to `count` of the text parameter `param` of a group and of its continuations,
+// `param` with 2, 3 ... behind its name: entry k of table n is number (n - 1) * 255 + k, since a
+// dimension ends at 255. What is missing is empty. Errors as FindGroupAndParam.
+modAllPurpose::OneBasedTable<std::string> ReadTextTable(const FileState& state,
+                                                        std::string_view group,
+                                                        std::string_view param, std::int32_t count);
+
+// Fills what the tables of labels and descriptions leave empty behind their 255th entry from
+// LABELS2, LABELS3 ... and DESCRIPTIONS2 ... of POINT and ANALOG, the prefix cut like the others.
+void AddFurtherLabels(FileState& state);
+
 }  // namespace modVantrel

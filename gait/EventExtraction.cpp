@@ -65,13 +65,21 @@ EventList ListFor(GaitEventState& events, GaitSide side, GaitEventType type) {
   return {events.SidedStrikeOffCount, events.SidedStrikeOffEvents};
 }
 
+// Whether `time` lies more than half a frame outside the trial.
+bool IsOutside(const FileState& state, float time) {
+  const double halfFrame = 0.5 * state.TimeBetweenFrames;
+  return time < state.WalkStartTime - halfFrame || time > state.WalkEndTime + halfFrame;
+}
+
 void FillEventLists(FileState& state, const EventParams& params) {
   GaitEventState& events = state.GaitEvents;
   for (std::int32_t i = 1; i <= events.TotalCount; ++i) {
     const GaitSide side = SideOf(params.Context(i));
     const GaitEventType type = TypeOf(params.Label(i));
     const EventList list = ListFor(events, side, type);
-    list.Events.Append({side, type, ClampToWalk(state, params.Seconds(i))});
+    const EventRecord event{side, type, params.Seconds(i)};
+    if (IsOutside(state, event.Time)) events.OutsideEvents.Append(event);
+    list.Events.Append({side, type, ClampToWalk(state, event.Time)});
     ++list.Count;
   }
 }

@@ -257,4 +257,16 @@ TEST(ExtractGaitEvents, EventAtTheStartOfTheCaptureIsOnFrameOne) {
   EXPECT_EQ(frames[5], (EventFrameRecord{151, GaitSide::Left, GaitEventType::FootStrike}));
 }
 
+TEST(ExtractGaitEvents, KeepsTheOwnTimeOfEventsMoreThanHalfAFrameOutside) {
+  // Frames 1 to 10 at 100 Hz: the trial lasts from 0 s to 0.09 s.
+  const OpenedWalk trial = Open(TrialBuilder()
+                                    .AddEvent("Left", "Foot Strike", -0.004F)
+                                    .AddEvent("Left", "Foot Off", -0.006F)
+                                    .AddEvent("Right", "Foot Strike", 0.094F)
+                                    .AddEvent("Right", "Foot Off", 0.096F));
+  EXPECT_EQ(Entries(trial.Gait().OutsideEvents),
+            (std::vector{EventRecord{GaitSide::Left, GaitEventType::FootOff, -0.006F},
+                         EventRecord{GaitSide::Right, GaitEventType::FootOff, 0.096F}}));
+}
+
 }  // namespace

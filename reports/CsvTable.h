@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "reports/Table.h"
+#include "support/ReportOutput.h"
+
+namespace reports {
+
+// A table as comma-separated values (RFC 4180 with LF): one line of column names, a decimal point,
+// quotes only where a text needs them. A missing value is an empty field.
+class CsvTable : public TableOutput {
+ public:
+  // `output` must last as long.
+  explicit CsvTable(modAllPurpose::ReportOutput& output) : output_(output) {}
+
+  void Begin(std::span<const std::string_view> columns) override;
+  void Text(std::string_view text) override;
+  void Number(std::int64_t number) override;
+  void Number(float number) override;
+  void Number(double number) override;
+  void Missing() override { Separate(); }
+  void EndRow() override;
+  void DropRow() override;
+  void End() override {}
+  using TableOutput::Number;
+
+ private:
+  void Separate();
+
+  modAllPurpose::ReportOutput& output_;
+  std::string line_;
+  bool atStart_ = true;  // of a row
+};
+
+}  // namespace reports

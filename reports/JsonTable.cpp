@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "reports/JsonTable.h"
+
+#include <cmath>
+#include <rapidjson/stringbuffer.h>
+#include <rapidjson/writer.h>
+
+#include "reports/ShortestNumber.h"
+
+namespace reports {
+
+// Writes one row at a time.
+class JsonTable::Writer {
+ public:
+  rapidjson::Writer<rapidjson::StringBuffer>& Row() { return row_; }
+
+  std::string_view Text() const { return {buffer_.GetString(), buffer_.GetSize()}; }
+
+  void Clear() {
+    buffer_.Clear();
+    row_.Reset(buffer_);
+  }
+
+ private:
+  rapidjson::StringBuffer buffer_;
+  rapidjson::Writer<rapidjson::StringBuffer> row_{buffer_};
+};
+
+namespace {
+
+rapidjson::SizeType Size(std::string_view text) {
+  return static_cast<rapidjson::SizeType>(text.size());
+}
+
+}  // namespace
+
+JsonTable::JsonTable(modAllPurpose::ReportOutput& output)
+    : output_(output), writer_(std::make_unique<Writer>()) {}
+
+JsonTable::~JsonTable() = default;
+
+void JsonTable::Begin(std::span<const std::string_view> columns) {
+  columns_.assign(columns.begin(), columns.end());
+  output_.Piece("[");
+}
+
+void JsonTable::Name() {
+  auto& row = writer_->Row();
+  if (column_ == 0) row.StartObject();
+  const std::string_view name = columns_.at(column_++);
+  row.Key(name.data(), Size(name));
+}
+
+void JsonTable::Text(std::string_view text) {
+  Name();
+  writer_->Row().String(text.data(), Size(text));
+}
+
+void JsonTable::Number(std::int64_t number) {
+  Name();
+  writer_->Row().Int64(number);
+}
+
+void JsonTable::RawNumber() {
+  writer_->Row().RawValue(number_.data(), number_.size(), rapidjson::kNumberType);
+  number_.clear();
+}
+
+void JsonTable::Number(float number) {
+  Name();
+  if (!std::isfinite(number)) {
+    writer_->Row().Null();
+    return;
+  }
+  AppendShortest(number_, number);
+  RawNumber();
+}
+
+void JsonTable::Number(double number) {
+  Name();
+  if (!std::isfinite(number)) {
+    writer_->Row().Null();
+    return;
+  }
+  AppendShortest(number_, number);
+  RawNumber();
+}
+
+void JsonTable::Missing() {
+  Name();
+  writer_->Row().Null();
+}
+
+void JsonTable::EndRow() {
+  writer_->Row().EndObject();
+  output_.Line(isFirstRow_ ? "" : ",");
+  output_.Piece(writer_->Text());
+  isFirstRow_ = false;
+  DropRow();
+}
+
+void JsonTable::DropRow() {
+  writer_->Clear();
+  column_ = 0;
+}
+
+void JsonTable::End() {
+  output_.Line("");
+  output_.Line("]");
+}
+
+}  // namespace reports

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+
+namespace reports {
+
+// Appends the shortest decimal text that reads back to the same number: 0.1, -12, 1e-05, 1e+16.
+// `number` must be finite.
+void AppendShortest(std::string& text, float number);
+void AppendShortest(std::string& text, double number);
+
+}  // namespace reports
