@@ -24,7 +24,7 @@ class GcdWriter {
 
   // Writes the file of a stride and returns its name; empty where the user cancelled.
   std::string WriteGcdFileForStride(std::int32_t strideIndex) {
-    const std::string name = files_.Name(strideIndex);
+    std::string name = files_.Name(strideIndex);
     while (!MayReplace(name)) {
       if (cancelled_) return {};
       if (files_.WriteWhereFree(strideIndex)) return name;

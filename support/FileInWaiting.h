@@ -68,7 +68,7 @@ class FileInWaiting {
 
  private:
   void MakeNamed(const std::filesystem::path& folder, const FileToReplace* old);
-  void Write(std::string_view text);
+  void Write(std::string_view text) const;
   void Discard() noexcept;
   // On Windows alone: the file stays where it is and is not written any more.
   void StayUnderItsName();

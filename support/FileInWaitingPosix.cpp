@@ -49,7 +49,7 @@ class OpenDescriptor {
 };
 
 RuntimeError Refusal(const fs::path& name, const char* reason) {
-  return RuntimeError(ErrorNumber::PathFileAccessError, name.string() + reason);
+  return {ErrorNumber::PathFileAccessError, name.string() + reason};
 }
 
 std::vector<char> AccessListOf(int descriptor) {
@@ -214,7 +214,7 @@ void FileInWaiting::MakeNamed(const fs::path& folder, const FileToReplace* old) 
   throw FileErrorFromErrno(errno);
 }
 
-void FileInWaiting::Write(std::string_view text) {
+void FileInWaiting::Write(std::string_view text) const {
   while (!text.empty()) {
     const auto count = ::write(Descriptor(handle_), text.data(), text.size());
     if (count < 0 && errno != EINTR) throw FileErrorFromErrno(errno);

@@ -44,7 +44,7 @@ class OpenHandle {
 };
 
 RuntimeError Refusal(const fs::path& name, const char* reason) {
-  return RuntimeError(ErrorNumber::PathFileAccessError, Utf8Path(name) + reason);
+  return {ErrorNumber::PathFileAccessError, Utf8Path(name) + reason};
 }
 
 std::optional<FileIdentity> IdentityIn(HANDLE file) {
@@ -155,7 +155,7 @@ void FileInWaiting::MakeNamed(const fs::path& folder, const FileToReplace* old) 
   throw RuntimeError(ErrorNumber::PathFileAccessError);
 }
 
-void FileInWaiting::Write(std::string_view text) {
+void FileInWaiting::Write(std::string_view text) const {
   while (!text.empty()) {
     DWORD count = 0;
     const auto wanted = static_cast<DWORD>(std::min(text.size(), kMostAtOnce));

@@ -19,8 +19,8 @@ class UnbrokenWork {
   UnbrokenWork& operator=(const UnbrokenWork&) = delete;
   ~UnbrokenWork();
 
-  // Whether an interruption waits, so that long work is better taken back.
-  bool IsInterrupted() const;
+  // Whether an interruption waits for this thread, so that long work is better taken back.
+  static bool IsInterrupted();
 };
 
 }  // namespace modAllPurpose

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <csignal>
@@ -90,16 +91,13 @@ UnbrokenWork::~UnbrokenWork() {
   ::pthread_sigmask(SIG_SETMASK, &own.MaskBefore, nullptr);
 }
 
-bool UnbrokenWork::IsInterrupted() const {
+bool UnbrokenWork::IsInterrupted() {
   if (ending) return true;
   sigset_t waiting;
   ::sigpending(&waiting);
-  for (const int signal : kInterruptions) {
-    if (::sigismember(&own.HeldOff, signal) == 1 && ::sigismember(&waiting, signal) == 1) {
-      return true;
-    }
-  }
-  return false;
+  return std::ranges::any_of(kInterruptions, [&](int signal) {
+    return ::sigismember(&own.HeldOff, signal) == 1 && ::sigismember(&waiting, signal) == 1;
+  });
 }
 
 }  // namespace modAllPurpose

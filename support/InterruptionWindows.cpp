@@ -43,6 +43,6 @@ UnbrokenWork::~UnbrokenWork() {
   if (ending) AwaitTheEnd();
 }
 
-bool UnbrokenWork::IsInterrupted() const { return ending; }
+bool UnbrokenWork::IsInterrupted() { return ending; }
 
 }  // namespace modAllPurpose

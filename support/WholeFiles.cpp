@@ -70,9 +70,11 @@ class FilesOnTrial {
 };
 
 // In the order of their names, however each of them is written.
-std::multimap<std::string, const WholeFile*> InOrder(std::span<const WholeFile> files) {
-  std::multimap<std::string, const WholeFile*> ordered;
-  for (const WholeFile& file : files) ordered.emplace(OneSpelling(file.Path), &file);
+std::vector<const WholeFile*> InOrder(std::span<const WholeFile> files) {
+  std::multimap<std::string, const WholeFile*> byName;
+  for (const WholeFile& file : files) byName.emplace(OneSpelling(file.Path), &file);
+  std::vector<const WholeFile*> ordered;
+  for (const auto& entry : byName) ordered.push_back(entry.second);
   return ordered;
 }
 
@@ -91,8 +93,10 @@ bool WriteFileWhereFree(const std::string& path, std::string_view text) {
 std::string WriteFilesWhereFree(std::span<const WholeFile> files) {
   const UnbrokenWork work;
   FilesOnTrial made;
-  for (const auto& [spelling, file] : InOrder(files)) {
-    if (work.IsInterrupted()) throw RuntimeError(ErrorNumber::PathFileAccessError, file->Path);
+  for (const WholeFile* file : InOrder(files)) {
+    if (UnbrokenWork::IsInterrupted()) {
+      throw RuntimeError(ErrorNumber::PathFileAccessError, file->Path);
+    }
     const auto identity =
         Naming(file->Path, [&] { return MakeWhereFree(NativePath(file->Path), file->Text); });
     if (!identity) return file->Path;

@@ -58,7 +58,7 @@ TEST_F(Interruption, WaitsForTheEndOfTheWorkAndThenEndsTheProgramAsItself) {
         const UnbrokenWork work;
         const FileInWaiting file(folder_.Path(), "text", nullptr, FileInWaiting::Named::Always);
         std::raise(signal);
-        if (!work.IsInterrupted()) ::_exit(1);
+        if (!UnbrokenWork::IsInterrupted()) ::_exit(1);
       });
       EXPECT_EQ(end.Signal, signal) << prepared << ' ' << end.Status;
       EXPECT_TRUE(fs::is_empty(folder_.Path()));
@@ -82,7 +82,7 @@ TEST_F(Interruption, ThatTheProgramIsToIgnoreIsIgnored) {
     {
       const UnbrokenWork work;
       std::raise(SIGHUP);
-      if (work.IsInterrupted()) ::_exit(1);
+      if (UnbrokenWork::IsInterrupted()) ::_exit(1);
     }
   });
   EXPECT_EQ(end.Status, kWentOn);
