@@ -46,6 +46,10 @@ class ValueArray {
   ValueArray(const ArrayShape& shape, std::vector<Number> values)
       : shape_(shape), values_(std::move(values)) {}
 
+  std::size_t Count() const { return values_.size(); }
+  // The element at `offset`, from 0 in file order, which must be below Count().
+  Number InFileOrder(std::size_t offset) const { return values_[offset]; }
+
   Number At(const ElementIndices& indices) const { return values_[shape_.Offset(indices)]; }
 
   // The first element; nothing where the array holds none, as in a parameter that was not found or

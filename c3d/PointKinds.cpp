@@ -35,19 +35,25 @@ TextArray PointTexts(const FileState& state, std::string_view param) {
   return FindGroupAndParam(state, "POINT", param).Param.TextValues;
 }
 
+// The unit that `param` names, without what fills its field; empty for none.
+std::string UnitIn(const FileState& state, std::string_view param) {
+  const std::string unit = PointTexts(state, param).First().value_or("");
+  return std::string(modAllPurpose::WithoutFilling(unit));
+}
+
 }  // namespace
 
 PointKinds::PointKinds(const FileState& state) {
   modAllPurpose::IgnoringErrors([&] {
     const BinaryFile::Look look(state.C3dFileNumber);
-    units_[PointKind::Marker] = PointTexts(state, "UNITS").First().value_or("");
+    units_[PointKind::Marker] = UnitIn(state, "UNITS");
     for (const KindParams& params : kKindParams) {
       const TextArray labels = PointTexts(state, params.List);
       for (std::size_t i = 0; i < labels.Count(); ++i) {
         kinds_.emplace(SearchKey(WithoutPrefix(labels.InFileOrder(i), state.LabelPrefix)),
                        params.Kind);
       }
-      units_[params.Kind] = PointTexts(state, params.Unit).First().value_or("");
+      units_[params.Kind] = UnitIn(state, params.Unit);
     }
   });
 }
@@ -57,9 +63,9 @@ PointKind PointKinds::KindOf(std::string_view label) const {
   return found == kinds_.end() ? PointKind::Marker : found->second;
 }
 
-const std::string& PointKinds::UnitOf(std::string_view label) const {
+const std::string& PointKinds::UnitOf(PointKind kind) const {
   static const std::string kNone;
-  const auto unit = units_.find(KindOf(label));
+  const auto unit = units_.find(kind);
   return unit == units_.end() ? kNone : unit->second;
 }
 

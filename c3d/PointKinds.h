@@ -22,7 +22,8 @@ class PointKinds {
   PointKind KindOf(std::string_view label) const;
 
   // "deg", "Nmm", "mm" ..., as the file spells it; empty where it names none.
-  const std::string& UnitOf(std::string_view label) const;
+  const std::string& UnitOf(std::string_view label) const { return UnitOf(KindOf(label)); }
+  const std::string& UnitOf(PointKind kind) const;
 
  private:
   std::map<std::string, PointKind, std::less<>> kinds_;  // by label in upper case

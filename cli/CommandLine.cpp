@@ -3,6 +3,7 @@
 #include "cli/CommandLine.h"
 
 #include <algorithm>
+#include <map>
 #include <sstream>
 #include <string_view>
 
@@ -25,9 +26,11 @@ constexpr const char* kExitStatus =
     "Exit status: 0 all well, 1 a file failed or its report was refused (the others are still "
     "printed), 2 wrong usage.";
 
-std::string ReportNames() {
+// The names of the reports, or of those that have a table.
+std::string ReportNames(bool onlyTables = false) {
   std::string names;
   for (const auto& report : reports::kReports) {
+    if (onlyTables && report.Columns.empty()) continue;
     if (!names.empty()) names += ", ";
     names += report.Name;
   }
@@ -67,14 +70,57 @@ CLI::Validator NotEmpty(const char* refusal) {
           ""};
 }
 
+// A choice of an option and its name.
+template <typename Choice>
+using Choices = std::map<std::string, Choice>;
+
+const Choices<OutputFormat> kFormats = {
+    {"text", OutputFormat::Text}, {"csv", OutputFormat::Csv}, {"json", OutputFormat::Json}};
+
+const Choices<modVantrel::GcdAxes> kAxes = {{"walk", modVantrel::GcdAxes::Walk},
+                                            {"anatomical", modVantrel::GcdAxes::Anatomical}};
+
+template <typename Choice>
+std::string NamesOf(const Choices<Choice>& choices) {
+  std::string names;
+  for (const auto& [name, choice] : choices) names += (names.empty() ? "" : "|") + name;
+  return names;
+}
+
+// The option `name`, whose value is the name of one of `choices`.
+template <typename Choice>
+void AddChoice(CLI::App& app, const std::string& name, const Choices<Choice>& choices,
+               Choice& chosen, const std::string& description) {
+  const CLI::Validator isKnown(
+      [&choices](const std::string& text) {
+        return choices.contains(text) ? std::string()
+                                      : fmt::format("'{}' is none of {}", text, NamesOf(choices));
+      },
+      "");
+  app.add_option_function<std::string>(
+         name, [&choices, &chosen](const std::string& text) { chosen = choices.at(text); },
+         description)
+      ->type_name(NamesOf(choices))
+      ->check(isKnown);
+}
+
 void AddOptions(CLI::App& app, Request& request) {
-  app.add_option("--label", request.Label, "Point or analog label, in any case");
-  app.add_option("--group", request.Group, "Group of the parameter section");
-  app.add_option("--param", request.Param, "Parameter of that group");
+  app.add_option("--label", request.Options.Labels,
+                 "Point or analog label, in any case; several times for a table of several")
+      ->allow_extra_args(false);
+  app.add_flag("--all-labels", request.Options.AllLabels,
+               "In a table: every point or channel, by its place");
+  app.add_option("--group", request.Options.Group, "Group of the parameter section");
+  app.add_option("--param", request.Options.Param, "Parameter of that group");
+  AddChoice(app, "--format", kFormats, request.Format, "Text, or a table of all files");
+  app.add_flag("--further-labels", request.FurtherLabels,
+               "Let text reports find the labels beyond the 255th too");
   app.add_flag("--events", request.Events, "Name the stride events in a point or analog listing");
   app.add_option("--output-dir", request.Gcd.Options.OutputFolder,
                  "Folder for GCD files, instead of the trial's own")
       ->check(NotEmpty("the name of the folder is empty"));
+  AddChoice(app, "--axes", kAxes, request.Gcd.Options.Axes,
+            "Whether sagittal and coronal curves of GCD files follow the walk");
   app.add_flag("--overwrite", request.Gcd.Overwrite, "Let gcd replace existing files");
   app.add_option("--gender", request.Gcd.Options.Subject.Gender,
                  "Gender in the header of GCD files");
@@ -97,11 +143,28 @@ void AddOptions(CLI::App& app, Request& request) {
   TakeValuesOutOfWords(app);
 }
 
-void CheckRequest(const CLI::App& app, const Request& request) {
-  if (request.Param && !request.Group) throw CLI::RequiresError("--param", "--group");
-  if (reports::FindReport(request.Report)->NeedsLabel && app.count("--label") == 0) {
+void CheckLabels(const Request& request, const reports::ReportInfo& report) {
+  const bool isText = request.Format == OutputFormat::Text;
+  const auto count = request.Options.Labels.size();
+  if (isText && request.Options.AllLabels) throw CLI::RequiresError("--all-labels", "--format");
+  if (isText && count > 1 && report.NeedsLabel) {
+    throw CLI::ValidationError("--label", "a text report takes one label; tables take several");
+  }
+  if (report.NeedsLabel && count == 0 && !request.Options.AllLabels) {
     throw CLI::RequiresError("the report '" + request.Report + "'", "--label");
   }
+}
+
+void CheckRequest(const Request& request) {
+  if (request.Options.Param && !request.Options.Group) {
+    throw CLI::RequiresError("--param", "--group");
+  }
+  const reports::ReportInfo& report = *reports::FindReport(request.Report);
+  if (request.Format != OutputFormat::Text && report.Columns.empty()) {
+    throw CLI::ValidationError("--format", fmt::format("'{}' has no table; there are tables of: {}",
+                                                       request.Report, ReportNames(true)));
+  }
+  CheckLabels(request, report);
 }
 
 AskedText TextOf(const CLI::App& app, const CLI::Success& asked) {
@@ -125,7 +188,7 @@ std::variant<Request, AskedText> ParseCommandLine(const std::vector<std::string>
   try {
     std::ranges::reverse(words.Words);  // the order in which the parser takes them
     app.parse(std::move(words.Words));
-    CheckRequest(app, request);
+    CheckRequest(request);
   } catch (const CLI::Success& asked) {
     return TextOf(app, asked);
   } catch (const CLI::ParseError& error) {

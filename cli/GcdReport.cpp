@@ -63,6 +63,8 @@ class GcdRun {
       for (const std::string& name : names_) Tell(name);
     }
     output_.PaneLine("Done.");
+    request_.Remark = files_.AxesRemark();
+    if (!request_.Remark.empty()) request_.Remark += " (--axes anatomical takes 1 and 2)";
     return {};
   }
 

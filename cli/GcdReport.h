@@ -16,6 +16,8 @@ struct GcdRequest {
   bool Overwrite = false;
   // The trial of each file, both as OneSpelling.
   std::map<std::string, std::string> Written;
+  // What is to be said of the last trial's files, though they are well; empty for nothing.
+  std::string Remark;
 };
 
 // Writes the GCD files of one trial and prints their names. Without Overwrite all of them or none;

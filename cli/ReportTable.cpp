@@ -13,7 +13,9 @@
 #include "reports/NormalizedReport.h"
 #include "reports/ParameterReport.h"
 #include "reports/ReportList.h"
+#include "reports/StrideReport.h"
 #include "reports/StrikeOffReport.h"
+#include "reports/TrialTables.h"
 
 namespace cli {
 
@@ -36,62 +38,65 @@ std::string Refusing(const FileState& state, Request& request, ReportOutput& out
   return Show(state, request, output).Text();
 }
 
+// The label of a text report, which takes one.
+const std::string& LabelOf(const Request& request) { return request.Options.Labels.front(); }
+
 ReportResult Parameters(const FileState& state, const Request& request, ReportOutput& output) {
-  if (request.Group && request.Param) {
-    return reports::ShowMatchingGroupAndMatchingParam(state, *request.Group, *request.Param,
-                                                      output);
+  if (request.Options.Group && request.Options.Param) {
+    return reports::ShowMatchingGroupAndMatchingParam(state, *request.Options.Group,
+                                                      *request.Options.Param, output);
   }
-  if (request.Group) return reports::ShowMatchingGroupAndAllParams(state, *request.Group, output);
+  if (request.Options.Group)
+    return reports::ShowMatchingGroupAndAllParams(state, *request.Options.Group, output);
   reports::ShowAllGroupsAndAllParams(state, output);
   return ReportResult::Written();
 }
 
 ReportResult Point(const FileState& state, const Request& request, ReportOutput& output) {
-  return request.Events ? reports::ShowPointDataWithEvents(state, request.Label, output)
-                        : reports::ShowPointData(state, request.Label, output);
+  return request.Events ? reports::ShowPointDataWithEvents(state, LabelOf(request), output)
+                        : reports::ShowPointData(state, LabelOf(request), output);
 }
 
 ReportResult Analog(const FileState& state, const Request& request, ReportOutput& output) {
-  return request.Events ? reports::ShowAnalogDataWithEvents(state, request.Label, output)
-                        : reports::ShowAnalogData(state, request.Label, output);
+  return request.Events ? reports::ShowAnalogDataWithEvents(state, LabelOf(request), output)
+                        : reports::ShowAnalogData(state, LabelOf(request), output);
 }
 
 ReportResult Normalized(const FileState& state, const Request& request, ReportOutput& output) {
-  return reports::ShowNormalized(state, request.Label, output);
+  return reports::ShowNormalized(state, LabelOf(request), output);
 }
 
 std::string Gcd(const FileState& state, Request& request, ReportOutput& output) {
   return WriteGcdReport(state, request.Gcd, output);
 }
 
-struct ReportEntry {
-  std::string_view Name;
-  ReportFunction Run;
+constexpr std::array kTrialReports = {
+    TrialReport{"header", Plain<reports::ShowHeaderInfo>, reports::HeaderRows},
+    TrialReport{"parameter-header", Plain<reports::ShowParameterHeader>},
+    TrialReport{"groups", Plain<reports::ShowAllGroups>},
+    TrialReport{"parameters", Refusing<Parameters>, reports::ParameterRows},
+    TrialReport{"labels", Plain<reports::ShowPointLabels>, reports::LabelRows},
+    TrialReport{"point", Refusing<Point>, reports::PointRows},
+    TrialReport{"analog", Refusing<Analog>, reports::AnalogRows},
+    TrialReport{"events", Plain<reports::ShowStrikeOffEvents>, reports::EventRows},
+    TrialReport{"strides", Plain<reports::ShowStrides>, reports::StrideRows},
+    TrialReport{"measures", Plain<reports::ShowSingleValueStrikeOffMeasures>, reports::MeasureRows},
+    TrialReport{"normalized", Refusing<Normalized>, reports::NormalizedRows},
+    TrialReport{"gcd", Gcd},
+    TrialReport{"tree", Plain<reports::ShowTree>},
 };
 
-constexpr std::array kFunctions = {
-    ReportEntry{"header", Plain<reports::ShowHeaderInfo>},
-    ReportEntry{"parameter-header", Plain<reports::ShowParameterHeader>},
-    ReportEntry{"groups", Plain<reports::ShowAllGroups>},
-    ReportEntry{"parameters", Refusing<Parameters>},
-    ReportEntry{"labels", Plain<reports::ShowPointLabels>},
-    ReportEntry{"point", Refusing<Point>},
-    ReportEntry{"analog", Refusing<Analog>},
-    ReportEntry{"events", Plain<reports::ShowStrikeOffEvents>},
-    ReportEntry{"measures", Plain<reports::ShowSingleValueStrikeOffMeasures>},
-    ReportEntry{"normalized", Refusing<Normalized>},
-    ReportEntry{"gcd", Gcd},
-    ReportEntry{"tree", Plain<reports::ShowTree>},
-};
-
-static_assert(std::ranges::equal(kFunctions, reports::kReports, {}, &ReportEntry::Name,
-                                 &reports::ReportInfo::Name),
-              "every report of the list has its function here, in the same order");
+// A report of the list has its functions above, and a table there where it has columns.
+constexpr bool IsListed(const reports::ReportInfo& info) {
+  const auto* found = std::ranges::find(kTrialReports, info.Name, &TrialReport::Name);
+  return found != kTrialReports.end() && (found->Rows != nullptr) == !info.Columns.empty();
+}
+static_assert(std::ranges::all_of(reports::kReports, IsListed));
 
 }  // namespace
 
-ReportFunction FunctionOf(std::string_view report) {
-  return std::ranges::find(kFunctions, report, &ReportEntry::Name)->Run;
+const TrialReport& FindTrialReport(std::string_view name) {
+  return *std::ranges::find(kTrialReports, name, &TrialReport::Name);
 }
 
 }  // namespace cli

@@ -1,22 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <optional>
 #include <string>
 #include <vector>
 
 #include "cli/GcdReport.h"
+#include "reports/TableOptions.h"
 
 namespace cli {
+
+enum class OutputFormat { Text, Csv, Json };
 
 // What the user asked for: a report, the files to make it of, and the options as they were given.
 // An option that a report does not take says nothing to it.
 struct Request {
   std::string Report;
   std::vector<std::string> Files;
-  std::string Label;
-  std::optional<std::string> Group;
-  std::optional<std::string> Param;
+  OutputFormat Format = OutputFormat::Text;
+  reports::TableOptions Options;  // labels, group and parameter; a text report takes one label
+  bool FurtherLabels = false;     // let text reports find the labels beyond the 255th
+  std::string NormalFile;
   bool Events = false;
   GcdRequest Gcd;
 };

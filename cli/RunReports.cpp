@@ -4,20 +4,19 @@
 
 #include <algorithm>
 #include <iterator>
-#include <new>
 #include <string>
-#include <string_view>
+#include <utility>
 #include <vector>
 
 #include <fmt/format.h>
 
-#include "c3d/OpenC3dFile.h"
-#include "cli/Complaint.h"
+#include "c3d/FileState.h"
+#include "cli/OpenTrial.h"
 #include "cli/ReportTable.h"
+#include "cli/RunTables.h"
 #include "cli/StandardOutput.h"
 #include "cli/Start.h"
 #include "cli/Tool.h"
-#include "gait/EventExtraction.h"
 #include "reports/ReportList.h"
 #include "support/ReportOutput.h"
 #include "support/RuntimeError.h"
@@ -28,22 +27,6 @@ using modAllPurpose::ReportOutput;
 using modAllPurpose::RuntimeError;
 
 namespace {
-
-void ComplainOf(const std::string& file, std::string_view message, const Streams& streams) {
-  Complain(streams.Error, fmt::format("{}: {}", file, message));
-}
-
-// What `work` answers, or the message of the error that ended it. OutputClosed passes.
-template <typename Work>
-std::string MessageOf(Work work) {
-  try {
-    return work();
-  } catch (const RuntimeError& error) {
-    return modAllPurpose::RuntimeErrorLine(error);
-  } catch (const std::bad_alloc&) {
-    return modAllPurpose::RuntimeErrorLine(RuntimeError(modAllPurpose::ErrorNumber::OutOfMemory));
-  }
-}
 
 // The files that those of the command line stand for. One that cannot be told is complained about
 // and left out; `status` says so.
@@ -66,11 +49,10 @@ std::vector<std::string> FilesToRead(const std::vector<std::string>& named, cons
 // empty where all is well.
 std::string OpenAndReport(const std::string& file, Request& request, ReportOutput& output) {
   modVantrel::FileState state;
-  const auto opened = modVantrel::OpenC3dFile(state, file, modVantrel::FindGaitEvents);
-  if (opened != modVantrel::OpenResult::Success) {
-    return std::string(modVantrel::OpenFailureMessage(opened));
-  }
-  return FunctionOf(request.Report)(state, request, output);
+  std::string refusal =
+      OpenTrial(file, request.FurtherLabels ? Labels::All : Labels::First255, state);
+  if (!refusal.empty()) return refusal;
+  return FindTrialReport(request.Report).Text(state, request, output);
 }
 
 // Prints the reports of one command.
@@ -95,6 +77,8 @@ class ReportRun {
     });
     const std::string& failure = lost.empty() ? complaint : lost;
     if (!failure.empty()) ComplainOf(file, failure, streams_);
+    const std::string remark = std::exchange(request_.Gcd.Remark, {});
+    if (!remark.empty()) ComplainOf(file, remark, streams_);
     if (output.LostLines()) ComplainOfLostLines(*output.LostLines());
     return failure.empty() && !output.LostLines();
   }
@@ -114,15 +98,23 @@ class ReportRun {
   bool lostLinesNamed_ = false;
 };
 
+void RunTexts(Request& request, const Streams& streams, int& status) {
+  ReportRun run(request, streams);
+  for (const std::string& file : request.Files) {
+    if (!run.Print(file)) status = kSomeFailed;
+  }
+}
+
 }  // namespace
 
 int RunReports(Request request, const Streams& streams) {
   int status = kAllWell;
   request.Files = FilesToRead(request.Files, streams, status);
-  ReportRun run(request, streams);
   try {
-    for (const std::string& file : request.Files) {
-      if (!run.Print(file)) status = kSomeFailed;
+    if (request.Format == OutputFormat::Text) {
+      RunTexts(request, streams, status);
+    } else {
+      RunTables(request, request.Files, streams, status);
     }
   } catch (const OutputClosed&) {
     // Whoever read the output has seen enough.

@@ -35,6 +35,9 @@ class clsGcdCalcs {
   // empty where there is no such label. Errors 9 and 11 as the splines.
   NormalizedCurve NormalizeLabelForStride(std::string_view label, std::int32_t strideIndex);
 
+  // The same of the point of that number, from 1; empty where there is none.
+  NormalizedCurve NormalizePointForStride(std::int32_t point, std::int32_t strideIndex);
+
   // The same as values, X, Y and Z; none where there is no such label.
   std::vector<StrideCurve> CurvesOfLabel(std::string_view label, std::int32_t strideIndex);
 
@@ -47,6 +50,7 @@ class clsGcdCalcs {
   };
 
   // Stays valid as long as this object.
+  const modCubicSpline::SplineCurve& SplineOfPoint(std::int32_t point, Component component);
   const modCubicSpline::SplineCurve& SplineOf(std::string_view label, Component component);
   void CalcLengths(const StrideRecord& stride, SingleValueMeasures& measures);
 

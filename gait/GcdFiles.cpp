@@ -56,6 +56,7 @@ GcdFiles::GcdFiles(const FileState& state, const GcdOptions& options)
     : state_(state),
       outputFolder_(options.OutputFolder),
       subject_(FindSubject(state, options.Subject)),
+      axes_(options.Axes),
       calcs_(state) {}
 
 std::string GcdFiles::Name(std::int32_t strideIndex) const {
@@ -64,7 +65,25 @@ std::string GcdFiles::Name(std::int32_t strideIndex) const {
 }
 
 std::string GcdFiles::Text(std::int32_t strideIndex) {
-  return GcdText(calcs_, strideIndex, subject_);
+  return GcdText(calcs_, strideIndex, subject_, {.Axes = axes_});
+}
+
+std::string GcdFiles::AxesRemark() {
+  if (axes_ == GcdAxes::Anatomical) return {};
+  for (std::int32_t i = 1; i <= Count(); ++i) {
+    switch (calcs_.CalcSingleValueMeasures(i).ProgressionAxis) {
+      case WalkAxis::None:
+        return "there are no toe markers to tell the direction of the walk, so sagittal curves are "
+               "0 "
+               "and coronal ones component 1";
+      case WalkAxis::Y:
+        return "the walk goes along Y, so sagittal curves are component 2 and coronal ones "
+               "component 1";
+      case WalkAxis::X:
+        break;
+    }
+  }
+  return {};
 }
 
 void GcdFiles::RefuseTrial(const std::string& name) const {

@@ -8,6 +8,7 @@
 
 #include "c3d/FileState.h"
 #include "gait/GcdCalcs.h"
+#include "gait/GcdText.h"
 #include "gait/SubjectRecord.h"
 #include "support/WholeFiles.h"
 
@@ -17,6 +18,7 @@ struct GcdOptions {
   // The folder for the files; empty for that of the trial.
   std::string OutputFolder;
   SubjectOptions Subject;
+  GcdAxes Axes = GcdAxes::Walk;
 };
 
 // The trial's own name without its last four characters, or all of a name that has no more, then
@@ -33,6 +35,10 @@ std::string GcdFileName(const std::string& trial, const StrideRecord& stride,
 class GcdFiles {
  public:
   GcdFiles(const FileState& state, const GcdOptions& options);
+
+  // What a reader of the files must know of their curves: that the axes of the walk exchange them
+  // or leave them empty, in a sentence; empty where they do not. Errors as clsGcdCalcs.
+  std::string AxesRemark();
 
   std::int32_t Count() const { return state_.GaitEvents.ValidStrideCount; }
   std::string Name(std::int32_t strideIndex) const;
@@ -58,6 +64,7 @@ class GcdFiles {
   const FileState& state_;
   std::string outputFolder_;
   SubjectRecord subject_;
+  GcdAxes axes_;
   clsGcdCalcs calcs_;
 };
 

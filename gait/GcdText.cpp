@@ -65,8 +65,9 @@ struct Planes {
   Component Axial;
 };
 
-Planes PlanesAlong(WalkAxis axis) {
-  switch (axis) {
+Planes PlanesBy(GcdAxes axes, WalkAxis walk) {
+  if (axes == GcdAxes::Anatomical) return {Component::X, Component::Y, Component::Z};
+  switch (walk) {
     case WalkAxis::X:
       return {Component::X, Component::Y, Component::Z};
     case WalkAxis::Y:
@@ -126,7 +127,7 @@ std::string GcdText(clsGcdCalcs& calcs, std::int32_t strideIndex, const SubjectR
     AppendLine(text, "!VideoRate");
     AppendValue(text, measures.VideoRate);
   }
-  const Planes planes = PlanesAlong(measures.ProgressionAxis);
+  const Planes planes = PlanesBy(options.Axes, measures.ProgressionAxis);
   for (const GcdCurveSpec& row : GcdCurveTable()) {
     const std::string label = LabelOfRow(calcs.State(), side.substr(0, 1), row);
     if (label.empty()) continue;

@@ -2,12 +2,16 @@
 
 #include "reports/HeaderReport.h"
 
+#include <cstdint>
 #include <iterator>
-#include <string_view>
+#include <string>
+#include <variant>
+#include <vector>
 
 #include <fmt/format.h>
 
 #include "c3d/ParameterSection.h"
+#include "reports/HeaderFields.h"
 #include "support/NumberForms.h"
 #include "support/Text.h"
 
@@ -26,35 +30,28 @@ constexpr NumberPattern kEventNumber("00");
 constexpr NumberPattern kEventTime("###0.0000");
 constexpr NumberPattern kFrameTime("0.0#########");
 
-// A label, padded to the column of the values, and its value.
-void Field(ReportOutput& output, std::string_view label, int value) {
-  output.Line(fmt::format("{:<35}{}", label, value));
+// A name, padded to the column of the values, and its value.
+void Field(ReportOutput& output, const HeaderField& field, const std::string& value) {
+  output.Line(fmt::format("{:<35}{}", fmt::format("{}{}:", field.Name, field.Remark), value));
 }
 
-void Field(ReportOutput& output, std::string_view label, float value) {
-  output.Line(fmt::format("{:<35}{}", label, GeneralForm(value)));
+void Field(ReportOutput& output, const HeaderField& field) {
+  if (const auto* number = std::get_if<float>(&field.Value)) {
+    Field(output, field, GeneralForm(*number));
+  } else {
+    Field(output, field, std::to_string(std::get<std::int32_t>(field.Value)));
+  }
 }
 
 void StoredFields(const C3dHeader& header, ReportOutput& output) {
-  Field(output, "ParamBlockPointer:", header.ParamBlockPointer);
-  Field(output, "FileID:", header.FileID);
-  Field(output, "PointLabelCount:", header.PointLabelCount);
-  Field(output, "AnalogValuesPerFrame:", header.AnalogValuesPerFrame);
-  Field(output, "FirstPointFrameNumber:", header.FirstPointFrameNumber);
-  Field(output, "LastPointFrameNumber:", header.LastPointFrameNumber);
-  Field(output, "MaxInterpolationGapAllowed:", header.MaxInterpolationGapAllowed);
-  Field(output, "ScaleFactor:", header.ScaleFactor);
-  Field(output, "FirstMarkerAndAnalogBlockPointer:", header.FirstMarkerAndAnalogBlockPointer);
-  Field(output, "AnalogSamplesPerChannel:", header.AnalogSamplesPerChannel);
-  Field(output, "PointFrameRate:", header.PointFrameRate);
-  Field(output, "EventDataFlag:", header.EventDataFlag);
+  for (const HeaderField& field : StoredHeaderFields(header)) Field(output, field);
 }
 
 void HeaderEvents(const C3dHeader& header, ReportOutput& output) {
   output.Line(
       "(The following event information is the old style information, and not necessarily the PIG "
       "information.)");
-  Field(output, "TimedEventsCount:", header.TimedEventsCount);
+  Field(output, HeaderEventCount(header));
   output.Line("Event numbers, times, display switches, and labels");
   for (std::int32_t i = 1; i <= header.TimedEventsCount; ++i) {
     output.Line(fmt::format("  {}  {}  {}  '{}'", FormatNumber(kEventNumber, i),
@@ -73,18 +70,11 @@ void ReservedAreas(const C3dHeader& header, ReportOutput& output) {
 
 void DerivedFields(const FileState& state, ReportOutput& output) {
   output.Line("  --Extra calculated stuff--");
-  Field(output, "AnalogChannelsCount:", state.AnalogChannelsCount);
-  Field(output, "AnalogFrameRate:", state.AnalogFrameRate);
-  Field(output, "SeekPtrForFirstC3dParam:", state.SeekPtrForFirstC3dParam);
-  Field(output, "SeekPtrForFirstFrameData:", state.SeekPtrForFirstFrameData);
-  Field(output, "ProcessorType (0=Intel IEEE):", state.ProcessorType);
-  Field(output, "DataStoredAsIntegerOrSingle:", state.DataStoredAsIntegerOrSingle);
-  Field(output, "PointFrameCount:", state.PointFrameCount);
-  Field(output, "ElapsedTimeOfWalk:", state.ElapsedTimeOfWalk);
-  Field(output, "WalkStartTime:", state.WalkStartTime);
-  Field(output, "WalkEndTime:", state.WalkEndTime);
-  output.Line(fmt::format(
-      "{:<35}{}", "TimeBetweenFrames:", FormatNumber(kFrameTime, double{state.TimeBetweenFrames})));
+  std::vector<HeaderField> fields = DerivedHeaderFields(state);
+  const HeaderField timeBetweenFrames = fields.back();
+  fields.pop_back();
+  for (const HeaderField& field : fields) Field(output, field);
+  Field(output, timeBetweenFrames, FormatNumber(kFrameTime, double{state.TimeBetweenFrames}));
 }
 
 }  // namespace

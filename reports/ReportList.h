@@ -2,7 +2,10 @@
 #pragma once
 
 #include <array>
+#include <span>
 #include <string_view>
+
+#include "reports/TableColumns.h"
 
 namespace reports {
 
@@ -14,34 +17,47 @@ struct ReportInfo {
   bool TakesEvents = false;     // can name the stride events beside its lines
   bool TakesGroup = false;      // can be limited to a group, or to one of its parameters
   bool WritesGcdFiles = false;  // takes a folder for them and what is known of the subject
+  std::span<const std::string_view> Columns = {};  // of its table; none where it has no table
 };
 
 // Every report, in the order in which help and man page list them.
 inline constexpr std::array kReports = {
     ReportInfo{.Name = "header",
-               .Description = "Every field of the 512-byte header and what is derived from it"},
+               .Description = "Every field of the 512-byte header and what is derived from it",
+               .Columns = columns::kHeader},
     ReportInfo{.Name = "parameter-header",
                .Description = "The four bytes that open the parameter section"},
     ReportInfo{.Name = "groups", .Description = "The names of the parameter groups"},
     ReportInfo{.Name = "parameters",
                .Description = "Groups and their parameters with all values",
-               .TakesGroup = true},
-    ReportInfo{.Name = "labels", .Description = "The point labels with their numbers"},
+               .TakesGroup = true,
+               .Columns = columns::kParameters},
+    ReportInfo{.Name = "labels",
+               .Description = "The point labels with their numbers",
+               .Columns = columns::kLabels},
     ReportInfo{.Name = "point",
                .Description = "Frame number, time and coordinates of a point in every frame",
                .NeedsLabel = true,
-               .TakesEvents = true},
+               .TakesEvents = true,
+               .Columns = columns::kPoint},
     ReportInfo{.Name = "analog",
                .Description = "Frame and sample number, time and value of an analog channel",
                .NeedsLabel = true,
-               .TakesEvents = true},
+               .TakesEvents = true,
+               .Columns = columns::kAnalog},
     ReportInfo{.Name = "events",
-               .Description = "The gait events and the valid strides made of them"},
+               .Description = "The gait events and the valid strides made of them",
+               .Columns = columns::kEvents},
+    ReportInfo{.Name = "strides",
+               .Description = "The times of every valid stride's five events",
+               .Columns = columns::kStrides},
     ReportInfo{.Name = "measures",
-               .Description = "Times, support phases, lengths and speed of every valid stride"},
+               .Description = "Times, support phases, lengths and speed of every valid stride",
+               .Columns = columns::kMeasures},
     ReportInfo{.Name = "normalized",
                .Description = "The curves of a point at 51 instants of every valid stride",
-               .NeedsLabel = true},
+               .NeedsLabel = true,
+               .Columns = columns::kNormalized},
     ReportInfo{.Name = "gcd",
                .Description = "Writes a GCD file for every valid stride and prints their names",
                .WritesGcdFiles = true},

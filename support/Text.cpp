@@ -60,6 +60,28 @@ void UpperCaseTwoBytes(char& lead, char& trail) {
   }
 }
 
+unsigned ByteAt(std::string_view text, std::size_t i) {
+  return static_cast<unsigned char>(text[i]);
+}
+
+// The bytes of a character that begins with `first`; 0 where none does.
+std::size_t LengthBehind(unsigned first) {
+  if (first < 0x80) return 1;
+  if (first < 0xC2 || first > 0xF4) return 0;
+  if (first < 0xE0) return 2;
+  return first < 0xF0 ? 3 : 4;
+}
+
+// Whether `second` may follow `first`: a longer form than needed, half a pair of UTF-16 and what
+// lies behind the last character are no characters.
+bool MayFollow(unsigned first, unsigned second) {
+  if (first == 0xE0) return second >= 0xA0 && second <= 0xBF;
+  if (first == 0xED) return second >= 0x80 && second <= 0x9F;
+  if (first == 0xF0) return second >= 0x90 && second <= 0xBF;
+  if (first == 0xF4) return second >= 0x80 && second <= 0x8F;
+  return second >= 0x80 && second <= 0xBF;
+}
+
 }  // namespace
 
 std::string& TrimInPlace(std::string& text) {
@@ -92,6 +114,11 @@ std::string SearchKey(std::string_view typedName) { return UpperCase(Trimmed(typ
 
 std::string_view StripAtNul(std::string_view text) { return text.substr(0, text.find('\0')); }
 
+std::string_view WithoutFilling(std::string_view text) {
+  constexpr std::string_view kFilling("\0 ", 2);
+  return text.substr(0, text.find_last_not_of(kFilling) + 1);
+}
+
 std::string PadRightToWidth(std::string_view text, std::int32_t width) {
   const auto wanted = static_cast<std::size_t>(std::max(width, 0));
   const auto lengthWithoutTrailingBlanks = text.find_last_not_of(' ') + 1;
@@ -110,6 +137,27 @@ std::string_view WithoutExtension(std::string_view path) {
     path.remove_suffix(1);
   }
   return path;
+}
+
+std::size_t CharacterLength(std::string_view text) {
+  const std::size_t length = LengthBehind(ByteAt(text, 0));
+  if (length > text.size()) return 0;
+  if (length > 1 && !MayFollow(ByteAt(text, 0), ByteAt(text, 1))) return 0;
+  for (std::size_t i = 2; i < length; ++i) {
+    if ((ByteAt(text, i) & 0xC0U) != 0x80U) return 0;
+  }
+  return length;
+}
+
+std::string WithReplacements(std::string_view text) {
+  constexpr std::string_view kReplacement = "\xEF\xBF\xBD";  // U+FFFD
+  std::string valid;
+  while (!text.empty()) {
+    const std::size_t length = CharacterLength(text);
+    valid += length == 0 ? kReplacement : text.substr(0, length);
+    text.remove_prefix(std::max<std::size_t>(length, 1));
+  }
+  return valid;
 }
 
 std::string FromWindows1252(std::span<const std::byte> bytes) {

@@ -26,12 +26,22 @@ std::string SearchKey(std::string_view typedName);
 // The text before the first NUL character, or all of it.
 std::string_view StripAtNul(std::string_view text);
 
+// `text` without the NUL characters and blanks at its end, with which some writers fill a field.
+std::string_view WithoutFilling(std::string_view text);
+
 // `text` brought to `width` characters by adding blanks or dropping trailing ones; a text that is
 // longer without its trailing blanks comes back unchanged. For ASCII texts: a byte is a character.
 std::string PadRightToWidth(std::string_view text, std::int32_t width);
 
 // `path` without its last four characters, the dot and three letters of its extension.
 std::string_view WithoutExtension(std::string_view path);
+
+// The bytes of the UTF-8 character that `text`, which must not be empty, begins with; 0 where it
+// begins with none.
+std::size_t CharacterLength(std::string_view text);
+
+// `text` with U+FFFD in place of each byte that is no UTF-8.
+std::string WithReplacements(std::string_view text);
 
 // Windows-1252 bytes as UTF-8. The five codes that the code page leaves open keep their number.
 std::string FromWindows1252(std::span<const std::byte> bytes);

@@ -2,15 +2,23 @@
 # Completion of vantrel-report for bash.
 _vantrel_report() {
   local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
-  local reports="header parameter-header groups parameters labels point analog events measures
-    normalized gcd tree"
-  local options="--label --group --param --events --output-dir --overwrite --gender
-    --date-of-birth --visit-date --help --version"
+  local reports="header parameter-header groups parameters labels point analog events strides
+    measures normalized gcd tree"
+  local options="--label --all-labels --group --param --format --further-labels --events --output-dir
+    --axes --overwrite --gender --date-of-birth --visit-date --help --version"
 
   case $previous in
     --output-dir)
       mapfile -t COMPREPLY < <(compgen -d -- "$current")
       compopt -o filenames
+      return
+      ;;
+    --format)
+      mapfile -t COMPREPLY < <(compgen -W "text csv json" -- "$current")
+      return
+      ;;
+    --axes)
+      mapfile -t COMPREPLY < <(compgen -W "walk anatomical" -- "$current")
       return
       ;;
     --gender)

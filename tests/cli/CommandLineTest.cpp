@@ -38,9 +38,9 @@ TEST(ToolCommandLine, WithoutOptionsLeavesThemAllOpen) {
   const Request request = Parsed({"groups", "a.c3d", "b.c3d"});
   EXPECT_EQ(request.Report, "groups");
   EXPECT_THAT(request.Files, ElementsAre("a.c3d", "b.c3d"));
-  EXPECT_EQ(request.Label, "");
-  EXPECT_EQ(request.Group, std::nullopt);
-  EXPECT_EQ(request.Param, std::nullopt);
+  EXPECT_TRUE(request.Options.Labels.empty());
+  EXPECT_EQ(request.Options.Group, std::nullopt);
+  EXPECT_EQ(request.Options.Param, std::nullopt);
   EXPECT_FALSE(request.Events);
   EXPECT_FALSE(request.Gcd.Overwrite);
   EXPECT_EQ(request.Gcd.Options.OutputFolder, "");
@@ -49,10 +49,10 @@ TEST(ToolCommandLine, WithoutOptionsLeavesThemAllOpen) {
 TEST(ToolCommandLine, TakesOptionsOnEitherSideOfTheReportAndItsFiles) {
   const Request request = Parsed({"--label", "LTOE", "--events", "point", "a.c3d", "--group=G",
                                   "--param", "P", "--overwrite", "--output-dir", "out"});
-  EXPECT_EQ(request.Label, "LTOE");
+  EXPECT_EQ(request.Options.Labels, std::vector<std::string>{"LTOE"});
   EXPECT_TRUE(request.Events);
-  EXPECT_EQ(request.Group, "G");
-  EXPECT_EQ(request.Param, "P");
+  EXPECT_EQ(request.Options.Group, "G");
+  EXPECT_EQ(request.Options.Param, "P");
   EXPECT_TRUE(request.Gcd.Overwrite);
   EXPECT_EQ(request.Gcd.Options.OutputFolder, "out");
   EXPECT_THAT(request.Files, ElementsAre("a.c3d"));
@@ -70,9 +70,9 @@ TEST(ToolCommandLine, TakesTheSubjectOfGcdFiles) {
 TEST(ToolCommandLine, TakesAValueAsItStands) {
   for (const std::string label : {"A=", "=", "A=B", "==", "[a,b]", "[a]", "", "--", "--events",
                                   "--group=", "-x", "a b", "\"a\""}) {
-    EXPECT_EQ(Parsed({"--label", label, "point", "a.c3d"}).Label, label);
-    EXPECT_EQ(Parsed({"--label=" + label, "point", "a.c3d"}).Label, label);
-    EXPECT_EQ(Parsed({"point", "a.c3d", "--label=" + label}).Label, label);
+    EXPECT_EQ(Parsed({"--label", label, "point", "a.c3d"}).Options.Labels.front(), label);
+    EXPECT_EQ(Parsed({"--label=" + label, "point", "a.c3d"}).Options.Labels.front(), label);
+    EXPECT_EQ(Parsed({"point", "a.c3d", "--label=" + label}).Options.Labels.front(), label);
   }
 }
 
@@ -107,8 +107,8 @@ TEST(ToolCommandLine, AsksForHelpBesideAnUnknownOptionToo) {
 }
 
 TEST(ToolCommandLine, TellsAnEmptyGroupFromNone) {
-  EXPECT_EQ(Parsed({"--group", "", "parameters", "a.c3d"}).Group, "");
-  EXPECT_EQ(Parsed({"--group=", "parameters", "a.c3d"}).Group, "");
+  EXPECT_EQ(Parsed({"--group", "", "parameters", "a.c3d"}).Options.Group, "");
+  EXPECT_EQ(Parsed({"--group=", "parameters", "a.c3d"}).Options.Group, "");
 }
 
 TEST(ToolCommandLine, OfHelpOrVersionAsksForItsText) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <array>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -132,13 +133,50 @@ TEST(GcdCommandLine, ClosedPipeKeepsNoFileBack) {
   Put(tool, "b-L1.gcd", "old");
   tests::WholeFrameTrial().Build().WriteTo(tool / "b.c3d");
   const ToolResult run =
-      tests::RunTool({"gcd", "a.c3d", "b.c3d", kSampleWalk}, {.ClosedPipe = true}, tool.Path());
+      tests::RunTool({"--axes", "anatomical", "gcd", "a.c3d", "b.c3d", kSampleWalk},
+                     {.ClosedPipe = true}, tool.Path());
   EXPECT_EQ(run.Status, 1) << "of b.c3d alone";
   EXPECT_EQ(run.Err, Complaint("b.c3d", "b-L1.gcd exists already (--overwrite replaces it)"));
   EXPECT_EQ(NamesIn(tool.Path()).size(), 11U);
   EXPECT_EQ(
       tests::RunTool({"--overwrite", "gcd", kSampleWalk}, {.ClosedPipe = true}, tool.Path()).Status,
       0);
+}
+
+sample::TrialBuilder WalkAlong(const std::array<float, 3>& step) {
+  sample::TrialBuilder builder = tests::WholeFrameTrial();
+  builder.AddPoint("LTOE", tests::Moving({}, step)).AddPoint("RTOE", tests::Standing(0, 0, 0));
+  builder.AddPoint("LKneeAngles", tests::Standing(10, 20, 30));
+  return builder;
+}
+
+TEST(GcdCommandLine, SaysWhereTheAxesOfTheWalkExchangeOrEmptyCurves) {
+  const ToolInFolder tool;
+  WalkAlong({0, 16, 0}).Build().WriteTo(tool / "along-y.c3d");
+  WalkAlong({16, 0, 0}).Build().WriteTo(tool / "along-x.c3d");
+  tests::WholeFrameTrial().Build().WriteTo(tool / "no-toes.c3d");
+  const ToolResult run = tool.Run({"gcd", "along-y.c3d", "along-x.c3d", "no-toes.c3d"});
+  EXPECT_EQ(run.Status, 0);
+  EXPECT_EQ(
+      run.Err,
+      Complaint("along-y.c3d",
+                "the walk goes along Y, so sagittal curves are component 2 and coronal ones "
+                "component 1 (--axes anatomical takes 1 and 2)") +
+          Complaint("no-toes.c3d",
+                    "there are no toe markers to tell the direction of the walk, so sagittal "
+                    "curves are 0 and coronal ones component 1 (--axes anatomical takes 1 and "
+                    "2)"));
+}
+
+TEST(GcdCommandLine, AnatomicalAxesTakeTheFirstComponentAsSagittalWhateverTheWalk) {
+  const ToolInFolder tool;
+  WalkAlong({0, 16, 0}).Build().WriteTo(tool / "walk.c3d");
+  const ToolResult run = tool.Run({"--axes", "anatomical", "gcd", "walk.c3d"});
+  EXPECT_EQ(run.Err, "");
+  const std::string text = tool.Read("walk-L1.gcd");
+  EXPECT_NE(text.find("!LeftKneeFlexExt\r\n10.0\r\n"), std::string::npos);
+  EXPECT_NE(text.find("!LeftKneeValgVar\r\n20.0\r\n"), std::string::npos);
+  EXPECT_NE(text.find("!LeftKneeRotation\r\n30.0\r\n"), std::string::npos);
 }
 
 TEST(GcdCommandLine, WrongUsageWritesNothing) {

@@ -122,8 +122,8 @@ TEST(GcdInterrupted, LeavesEveryReplacedFileWhole) {
 TEST(GcdLines, ThatAreLostOnAFullDiskAreStandardOutputsFailureAlone) {
   const ToolInFolder tool;
   tests::WholeFrameTrial().Build().WriteTo(tool / "a.c3d");
-  const ToolResult run =
-      tests::RunTool({"gcd", "a.c3d", kSampleWalk}, {.Path = "/dev/full"}, tool.Path());
+  const ToolResult run = tests::RunTool({"--axes", "anatomical", "gcd", "a.c3d", kSampleWalk},
+                                        {.Path = "/dev/full"}, tool.Path());
   EXPECT_EQ(run.Status, 1);
   EXPECT_EQ(run.Err, "vantrel-report: standard output: Run-time error '61': Disk full\n");
   EXPECT_EQ(GcdFilesIn(tool).size(), kStrides + 1);

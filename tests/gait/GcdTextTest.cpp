@@ -302,4 +302,14 @@ TEST(GcdText, CurvesStandInTheOrderOfTheTable) {
   }
 }
 
+TEST(GcdText, AnatomicalAxesNeedNoToeMarkers) {
+  sample::TrialBuilder builder = tests::WholeFrameTrial();
+  builder.AddPoint("LKneeAngles", Standing(10, 20, 30));
+  OpenedWalk walk = Open(builder);
+  const Lines lines = tests::LinesOf(Text(walk.State(), {}, {.Axes = GcdAxes::Anatomical}), "\r\n");
+  EXPECT_EQ(CurveNamed(lines, "!LeftKneeFlexExt"), Lines(51, "10.0"));
+  EXPECT_EQ(CurveNamed(lines, "!LeftKneeValgVar"), Lines(51, "20.0"));
+  EXPECT_EQ(CurveNamed(lines, "!LeftKneeRotation"), Lines(51, "30.0"));
+}
+
 }  // namespace

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "cli/RunTables.h"
+
+#include <memory>
+
+#include "c3d/FileState.h"
+#include "cli/OpenTrial.h"
+#include "cli/ReportTable.h"
+#include "cli/StandardOutput.h"
+#include "cli/Tool.h"
+#include "reports/CsvTable.h"
+#include "reports/JsonTable.h"
+#include "reports/ReportList.h"
+#include "support/Text.h"
+
+namespace cli {
+
+namespace {
+
+std::unique_ptr<reports::TableOutput> MakeTable(OutputFormat format, StandardOutput& output) {
+  if (format == OutputFormat::Json) return std::make_unique<reports::JsonTable>(output);
+  return std::make_unique<reports::CsvTable>(output);
+}
+
+// Writes the rows of one file; false where something is complained of.
+bool WriteRows(const Request& request, const std::string& file, reports::TableOutput& table,
+               const Streams& streams) {
+  reports::Complaints complaints;
+  const std::string failure = MessageOf([&] {
+    modVantrel::FileState state;
+    std::string refusal = OpenTrial(file, Labels::All, state);
+    if (!refusal.empty()) return refusal;
+    complaints = FindTrialReport(request.Report)
+                     .Rows(state, modAllPurpose::WithReplacements(file), request.Options, table);
+    return std::string();
+  });
+  if (!failure.empty()) {
+    table.DropRow();
+    complaints.push_back(failure);
+  }
+  for (const std::string& complaint : complaints) ComplainOf(file, complaint, streams);
+  return complaints.empty();
+}
+
+}  // namespace
+
+void RunTables(const Request& request, const std::vector<std::string>& files,
+               const Streams& streams, int& status) {
+  StandardOutput output(streams.Output, {});
+  const auto table = MakeTable(request.Format, output);
+  table->Begin(reports::FindReport(request.Report)->Columns);
+  for (const std::string& file : files) {
+    if (!WriteRows(request, file, *table, streams)) status = kSomeFailed;
+  }
+  const std::string lost = MessageOf([&] {
+    table->End();
+    output.Flush();
+    return std::string();
+  });
+  if (lost.empty()) return;
+  ComplainOf("standard output", lost, streams);
+  status = kSomeFailed;
+}
+
+}  // namespace cli
