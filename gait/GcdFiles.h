@@ -32,6 +32,8 @@ std::string GcdFileName(const std::string& trial, const StrideRecord& stride,
 // file, whatever way its name leads there. Errors as clsGcdCalcs and WholeFiles.
 class GcdFiles {
  public:
+  // Takes the strides and the subject of the open file, which must outlive this object. Errors as
+  // FindSubject.
   GcdFiles(const FileState& state, const GcdOptions& options);
 
   std::int32_t Count() const { return state_.GaitEvents.ValidStrideCount; }
