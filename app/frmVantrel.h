@@ -61,7 +61,9 @@ class frmVantrel : public QWidget {
   void cmdWriteGcdFiles_Click();
 
  signals:
+  // The form was closed, for good: the program ends with that status.
   void Unloaded(int exitStatus);
+  // The drop of these files, one at least, is over for the program that they come from.
   void FilesDropped(const std::vector<std::string>& files);
 
  protected:

@@ -51,6 +51,7 @@ class AnalogFrames {
             tag.EventType, tag.EventSide};
   }
 
+  // Tags the frame on which the event falls; a frame's earlier event gives way.
   void SetEvent(const EventFrameRecord& event) {
     Tag& tag = tags_[event.Frame];
     tag.EventSide = event.Side;

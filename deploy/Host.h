@@ -53,6 +53,7 @@ class Host {
   // is there stays, where anything has that name.
   virtual void WriteNewFile(const std::string& path, std::span<const std::byte> bytes) = 0;
 
+  // As ReadFileTimes and SetFileTimes.
   virtual modWindowsFileInfo::FileTimes ReadTimes(const std::string& path) const = 0;
   virtual void SetTimes(const std::string& path, const modWindowsFileInfo::FileTimes& times) = 0;
 

@@ -34,6 +34,8 @@ std::string GcdFileName(const std::string& trial, const StrideRecord& stride,
 // file, whatever way its name leads there. Errors as clsGcdCalcs and WholeFiles.
 class GcdFiles {
  public:
+  // Takes the strides and the subject of the open file, which must outlive this object. Errors as
+  // FindSubject.
   GcdFiles(const FileState& state, const GcdOptions& options);
 
   // What a reader of the files must know of their curves: that the axes of the walk exchange them

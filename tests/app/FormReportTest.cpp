@@ -4,11 +4,15 @@
 
 #include <array>
 #include <functional>
+#include <set>
+#include <string>
+#include <variant>
 
 #include <QApplication>
 #include <QEvent>
 #include <QTest>
 
+#include "app/FormRows.h"
 #include "sample/TrialBuilder.h"
 #include "tests/app/FormFixture.h"
 
@@ -89,6 +93,16 @@ class AtNextPaint : public QObject {
  private:
   std::function<void()> action_;
 };
+
+TEST_F(FormReport, EveryButtonOfTheFormIsTriedHereOrWithItsOwnKind) {
+  std::set<std::string> tried = {"cmdOpen", "cmdExit", "cmdWriteGcdFiles"};
+  for (const Command& command : EveryReport()) tried.insert(command.Button);
+  std::set<std::string> buttons;
+  for (const app::FormRow& row : app::FormRows()) {
+    if (const auto* button = std::get_if<app::ButtonRow>(&row)) buttons.insert(button->Name);
+  }
+  EXPECT_EQ(tried, buttons);
+}
 
 TEST_F(FormReport, EveryReportPutsIntoThePaneWhatTheToolPrints) {
   StartWithSample();

@@ -8,9 +8,9 @@
 
 namespace tests {
 
-// The text of every report on an opened sample walk by its name, and of the GCD file of each of its
-// strides. The header report is left out, as
-// it names the file.
+// The text of every report on an opened sample walk by its name, of each label where it needs one,
+// and of the GCD file of each of its strides. Left out are "header", which names the file, and
+// "parameter-header", which names its number format.
 std::map<std::string, std::string> AllReportsOf(const modVantrel::FileState& state);
 
 }  // namespace tests

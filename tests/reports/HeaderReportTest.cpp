@@ -67,58 +67,58 @@ class HeaderReportTest : public testing::Test {
   tests::TrialOpener opener_;
 };
 
+// The lines of the header's own fields, of a trial whose frames begin at that block.
+std::string StoredLines(std::int32_t dataBlock) {
+  return "ParamBlockPointer:                 2\n"
+         "FileID:                            80\n"
+         "PointLabelCount:                   2\n"
+         "AnalogValuesPerFrame:              20\n"
+         "FirstPointFrameNumber:             5\n"
+         "LastPointFrameNumber:              64\n"
+         "MaxInterpolationGapAllowed:        10\n"
+         "ScaleFactor:                       0.5\n"
+         "FirstMarkerAndAnalogBlockPointer:  " +
+         std::to_string(dataBlock) +
+         "\n"
+         "AnalogSamplesPerChannel:           10\n"
+         "PointFrameRate:                    120\n"
+         "EventDataFlag:                     12345\n"
+         "(The following event information is the old style information, and not necessarily the "
+         "PIG information.)\n"
+         "TimedEventsCount:                  1\n"
+         "Event numbers, times, display switches, and labels\n"
+         "  01  0.5000  1  'RHS'\n"
+         "Reserved1: " +
+         Repeated(" 0", 274) +
+         "\nReserved2:  0 0\nReserved3:  0 0\nReserved4: " + Repeated(" 0", 44) + "\n";
+}
+
+// The lines of what is derived from them.
+std::string DerivedLines(std::int32_t dataPosition) {
+  return "  --Extra calculated stuff--\n"
+         "AnalogChannelsCount:               2\n"
+         "AnalogFrameRate:                   1200\n"
+         "SeekPtrForFirstC3dParam:           517\n"
+         "SeekPtrForFirstFrameData:          " +
+         std::to_string(dataPosition) +
+         "\n"
+         "ProcessorType (0=Intel IEEE):      84\n"
+         "DataStoredAsIntegerOrSingle:       1\n"
+         "PointFrameCount:                   60\n"
+         "ElapsedTimeOfWalk:                 0.4916667\n"
+         "WalkStartTime:                     0.03333334\n"
+         "WalkEndTime:                       0.525\n"
+         "TimeBetweenFrames:                 0.0083333338\n"
+         "\n";
+}
+
 TEST_F(HeaderReportTest, PrintsEveryLineOfAnIntelTrialInItsPlace) {
   const Trial trial = Walk().AddHeaderEvent("RHS", 0.5F, 1).Build();
   Given(trial);
   const std::int32_t dataPosition = trial.FrameDataPosition();
-  const std::string expected =
-      "OpenC3dFileSpec: " + opener_.File() +
-      "\n"
-      "\n"
-      "ParamBlockPointer:                 2\n"
-      "FileID:                            80\n"
-      "PointLabelCount:                   2\n"
-      "AnalogValuesPerFrame:              20\n"
-      "FirstPointFrameNumber:             5\n"
-      "LastPointFrameNumber:              64\n"
-      "MaxInterpolationGapAllowed:        10\n"
-      "ScaleFactor:                       0.5\n"
-      "FirstMarkerAndAnalogBlockPointer:  " +
-      std::to_string((dataPosition - 1) / 512 + 1) +
-      "\n"
-      "AnalogSamplesPerChannel:           10\n"
-      "PointFrameRate:                    120\n"
-      "EventDataFlag:                     12345\n"
-      "(The following event information is the old style information, and not necessarily the PIG "
-      "information.)\n"
-      "TimedEventsCount:                  1\n"
-      "Event numbers, times, display switches, and labels\n"
-      "  01  0.5000  1  'RHS'\n"
-      "Reserved1: " +
-      Repeated(" 0", 274) +
-      "\n"
-      "Reserved2:  0 0\n"
-      "Reserved3:  0 0\n"
-      "Reserved4: " +
-      Repeated(" 0", 44) +
-      "\n"
-      "\n"
-      "  --Extra calculated stuff--\n"
-      "AnalogChannelsCount:               2\n"
-      "AnalogFrameRate:                   1200\n"
-      "SeekPtrForFirstC3dParam:           517\n"
-      "SeekPtrForFirstFrameData:          " +
-      std::to_string(dataPosition) +
-      "\n"
-      "ProcessorType (0=Intel IEEE):      84\n"
-      "DataStoredAsIntegerOrSingle:       1\n"
-      "PointFrameCount:                   60\n"
-      "ElapsedTimeOfWalk:                 0.4916667\n"
-      "WalkStartTime:                     0.03333334\n"
-      "WalkEndTime:                       0.525\n"
-      "TimeBetweenFrames:                 0.0083333338\n"
-      "\n";
-  EXPECT_EQ(Report(), expected);
+  EXPECT_EQ(Report(), "OpenC3dFileSpec: " + opener_.File() + "\n\n" +
+                          StoredLines((dataPosition - 1) / 512 + 1) + "\n" +
+                          DerivedLines(dataPosition));
 }
 
 TEST_F(HeaderReportTest, ADecTrialDiffersInProcessorOnly) {

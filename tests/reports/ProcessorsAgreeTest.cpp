@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <algorithm>
 #include <map>
 #include <string>
 
@@ -7,6 +8,7 @@
 
 #include "c3d/C3dFormat.h"
 #include "gait/EventExtraction.h"
+#include "reports/ReportList.h"
 #include "sample/SampleWalk.h"
 #include "tests/GaitTrials.h"
 #include "tests/reports/AllReports.h"
@@ -42,6 +44,19 @@ TEST_P(ProcessorsAgree, IntelAndDecFileOfAWalkPrintTheSameCharacters) {
   for (const auto& [name, text] : intel) {
     EXPECT_FALSE(text.empty()) << name;
     EXPECT_TRUE(text == dec.at(name)) << name;
+  }
+}
+
+// What the tests run in place of every report must not lag behind the list.
+TEST(AllReports, AreThoseOfTheListButTheTwoThatNameTheFileOrItsFormat) {
+  const auto texts = ReportsOfWalk(modVantrel::kProcessorIntel, Storage::Integer);
+  for (const reports::ReportInfo& report : reports::kReports) {
+    const std::string name(report.Name);
+    const bool leftOut = name == "header" || name == "parameter-header";
+    const bool isThere = std::ranges::any_of(texts, [&](const auto& entry) {
+      return entry.first == name || entry.first.starts_with(name + ' ');
+    });
+    EXPECT_NE(isThere, leftOut) << name;
   }
 }
 

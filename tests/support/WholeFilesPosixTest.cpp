@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <csignal>
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -7,7 +8,9 @@
 #include <functional>
 #include <grp.h>
 #include <string>
+#include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <sys/xattr.h>
 #include <unistd.h>
@@ -15,20 +18,42 @@
 
 #include <gtest/gtest.h>
 
+#include "support/FileInWaiting.h"
+#include "support/RuntimeError.h"
 #include "support/WholeFiles.h"
 #include "tests/TestTrials.h"
 
 // Which files are replaced on a POSIX system, and who may do what with a new one.
 namespace {
 
+// What a file could be done with, and how much it held, when it was given to somebody.
+struct GivenFile {
+  mode_t Mode;
+  off_t Size;
+};
+std::vector<GivenFile> givenFiles;
+
+}  // namespace
+
+// In place of the system's own, which it calls: what the program gives away is taken down.
+extern "C" int fchown(int file, uid_t owner, gid_t group) noexcept {
+  struct stat status {};
+  ::fstat(file, &status);
+  givenFiles.push_back({status.st_mode & ~static_cast<mode_t>(S_IFMT), status.st_size});
+  return static_cast<int>(::syscall(SYS_fchown, file, owner, group));
+}
+
+namespace {
+
 namespace fs = std::filesystem;
+using modAllPurpose::FileInWaiting;
 using modAllPurpose::WriteFileInOneStep;
 using modAllPurpose::WriteFileWhereFree;
 using tests::ErrorNumberOf;
+using tests::kPathFileAccessError;
 using tests::ReadWholeFile;
 
 constexpr uid_t kNobody = 65534;
-constexpr int kRefused = 75;
 constexpr int kNotPossibleHere = 200;
 
 // What a process ends with that does `work` and nothing else.
@@ -48,6 +73,16 @@ int StatusAsNobody(const std::function<int()>& work) {
     }
     return work();
   });
+}
+
+// 0 where writing that file ends in that error, and the error's line names the file.
+int NamesTheFile(const std::string& path, int number, const std::function<void()>& write) {
+  try {
+    write();
+  } catch (const modAllPurpose::RuntimeError& error) {
+    return static_cast<int>(error.Number()) == number && error.About() == path ? 0 : 1;
+  }
+  return 2;
 }
 
 class PosixFiles : public testing::Test {
@@ -87,7 +122,7 @@ TEST_F(PosixFiles, ALinkIsFollowedToTheRegularFileItNames) {
 
 TEST_F(PosixFiles, ALinkThatLeadsNowhereIsNeitherReplacedNorFollowed) {
   fs::create_symlink("nowhere", folder_ / "link");
-  EXPECT_EQ(ErrorNumberOf([&] { WriteFileInOneStep(Path("link"), "new"); }), kRefused);
+  EXPECT_EQ(ErrorNumberOf([&] { WriteFileInOneStep(Path("link"), "new"); }), kPathFileAccessError);
   EXPECT_FALSE(WriteFileWhereFree(Path("link"), "new"));
   EXPECT_TRUE(fs::is_symlink(folder_ / "link"));
   EXPECT_EQ(NamesInFolder(), 1);
@@ -97,7 +132,8 @@ TEST_F(PosixFiles, APipeStaysOneAndIsNotWaitedFor) {
   ASSERT_EQ(::mkfifo(Path("pipe").c_str(), 0600), 0);
   fs::create_symlink("pipe", folder_ / "link");
   for (const std::string name : {"pipe", "link"}) {
-    EXPECT_EQ(ErrorNumberOf([&] { WriteFileInOneStep(Path(name), "new"); }), kRefused) << name;
+    EXPECT_EQ(ErrorNumberOf([&] { WriteFileInOneStep(Path(name), "new"); }), kPathFileAccessError)
+        << name;
   }
   EXPECT_TRUE(fs::is_fifo(folder_ / "pipe"));
   EXPECT_EQ(NamesInFolder(), 2);
@@ -105,7 +141,7 @@ TEST_F(PosixFiles, APipeStaysOneAndIsNotWaitedFor) {
 
 TEST_F(PosixFiles, ADeviceBehindALinkIsNoRegularFile) {
   fs::create_symlink("/dev/null", folder_ / "link");
-  EXPECT_EQ(ErrorNumberOf([&] { WriteFileInOneStep(Path("link"), "new"); }), kRefused);
+  EXPECT_EQ(ErrorNumberOf([&] { WriteFileInOneStep(Path("link"), "new"); }), kPathFileAccessError);
 }
 
 TEST_F(PosixFiles, ANewFileHasTheRightsOfAnyNewFile) {
@@ -154,6 +190,43 @@ TEST_F(PosixFiles, WhatCannotBeKeptOpensTheFileToNobody) {
     EXPECT_EQ(StatusOf("file").st_uid, kNobody);
     EXPECT_EQ(ModeOf("file"), after) << std::oct << before;
   }
+}
+
+TEST_F(PosixFiles, ANewOneIsItsOwnersAloneUntilItHasTheRightsOfTheOld) {
+  for (const auto named : {FileInWaiting::Named::WhereItMust, FileInWaiting::Named::Always}) {
+    Put("file", 0666);
+    const auto old = modAllPurpose::FindFileToReplace(folder_ / "file");
+    ASSERT_TRUE(old);
+    givenFiles.clear();
+    const FileInWaiting file(folder_.Path(), "the new text", &*old, named);
+    ASSERT_FALSE(givenFiles.empty()) << "the first that it gets is its group";
+    for (const auto& [mode, size] : givenFiles) EXPECT_EQ(mode, mode_t{0600}) << std::oct << mode;
+    EXPECT_EQ(givenFiles.front().Size, 12);
+  }
+}
+
+TEST_F(PosixFiles, AFileThatMayNotBeWrittenIsNamed) {
+  Put("file", 0444);
+  for (const std::string name : {"file", "new"}) {
+    const std::string path = Path(name);
+    const int status = StatusAsNobody([&] {
+      return NamesTheFile(path, tests::kPermissionDenied, [&] { WriteFileInOneStep(path, "new"); });
+    });
+    if (status == kNotPossibleHere) GTEST_SKIP() << "not for this user";
+    EXPECT_EQ(status, 0) << name;
+  }
+}
+
+TEST_F(PosixFiles, AFileThatTheDiskCannotTakeIsNamed) {
+  const std::string path = Path("file");
+  const int status = StatusOfChild([&] {
+    std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit limit{2, 2};
+    if (::setrlimit(RLIMIT_FSIZE, &limit) != 0) return kNotPossibleHere;
+    return NamesTheFile(path, tests::kDiskFull, [&] { (void)WriteFileWhereFree(path, "new"); });
+  });
+  EXPECT_EQ(status, 0);
+  EXPECT_EQ(NamesInFolder(), 0);
 }
 
 // An access list that lets the user 1234 write, in the form in which Linux keeps it.
