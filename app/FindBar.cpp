@@ -2,6 +2,8 @@
 
 #include "app/FindBar.h"
 
+#include <algorithm>
+
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -15,6 +17,9 @@
 namespace app {
 
 namespace {
+
+constexpr int kFindWidth = 180;
+constexpr int kLeastFindWidth = 60;
 
 QToolButton* AddButton(QHBoxLayout& row, const QString& objectName, Qt::ArrowType arrow,
                        const QString& text, const QString& hint) {
@@ -55,8 +60,6 @@ FindBar::FindBar(OutputPane* pane)
   txtFind_->setObjectName(QStringLiteral("txtFind"));
   txtFind_->setPlaceholderText(tr("Find"));
   txtFind_->setAccessibleName(tr("Find"));
-  constexpr int kFindWidth = 180;
-  txtFind_->setFixedWidth(kFindWidth);
   lblFindResult_->setObjectName(QStringLiteral("lblFindResult"));
   row->addWidget(txtFind_);
   row->addWidget(lblFindResult_);
@@ -112,10 +115,24 @@ void FindBar::Say(const QString& result) {
   lblFindResult_->setVisible(!result.isEmpty());
 }
 
-void FindBar::TakePlace() {
+void FindBar::FitInto(int room) {
+  txtFind_->setFixedWidth(kFindWidth);
+  lblFindResult_->setWordWrap(false);
   adjustSize();
+  if (width() <= room) return;
+  txtFind_->setFixedWidth(std::max(kLeastFindWidth, kFindWidth - (width() - room)));
+  adjustSize();
+  if (width() <= room) return;
+  lblFindResult_->setWordWrap(true);
+  const int fitting = std::max(room, layout()->totalMinimumSize().width());
+  resize(fitting, layout()->totalHeightForWidth(fitting));
+}
+
+void FindBar::TakePlace() {
   const QRect inside = pane_->viewport()->geometry();
-  const QPoint upperCorner(inside.right() + 1 - width(), inside.top());
+  FitInto(inside.width());
+  // Where it cannot fit, its end is cut, not what is typed.
+  const QPoint upperCorner(std::max(inside.left(), inside.right() + 1 - width()), inside.top());
   const QPoint lowerCorner(upperCorner.x(), inside.bottom() + 1 - height());
   const QRect selected = pane_->SelectionPlace().translated(inside.topLeft());
   move(QRect(upperCorner, size()).intersects(selected) ? lowerCorner : upperCorner);

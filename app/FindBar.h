@@ -12,8 +12,8 @@ namespace app {
 class OutputPane;
 
 // The bar for searching the output pane. It lies over the pane's upper right corner, so it moves
-// nothing, or over the lower one where it would hide what was found; it is hidden until it is asked
-// for.
+// nothing, or over the lower one where it would hide what was found; in a narrow pane it is
+// narrower. It is hidden until it is asked for.
 class FindBar : public QFrame {
   Q_OBJECT
 
@@ -37,6 +37,7 @@ class FindBar : public QFrame {
  private:
   void Find(bool forward);
   void Say(const QString& result);
+  void FitInto(int room);
   void TakePlace();
 
   OutputPane* pane_;

@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <memory>
 
+#include <QApplication>
 #include <QClipboard>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLayout>
@@ -15,6 +15,15 @@
 #include "app/MessageText.h"
 
 namespace app {
+
+namespace {
+
+bool PressesButtons(int key) {
+  return key == Qt::Key_Space || key == Qt::Key_Select || key == Qt::Key_Return ||
+         key == Qt::Key_Enter || key == Qt::Key_Escape;
+}
+
+}  // namespace
 
 MessageBox::MessageBox(Icon icon, const QString& title, const QString& text,
                        StandardButtons buttons, QWidget* owner)
@@ -38,13 +47,25 @@ void MessageBox::ShowTextInLines() {
 
 void MessageBox::setVisible(bool visible) {
   // The box is placed by the size that it has before it is shown.
-  if (visible) ShowTextInLines();
+  if (visible) {
+    ShowTextInLines();
+    qApp->installEventFilter(this);
+  } else {
+    qApp->removeEventFilter(this);
+  }
   QMessageBox::setVisible(visible);
+}
+
+// The box is modal, so that whatever key is pressed meanwhile is meant for it.
+bool MessageBox::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::KeyPress) return QMessageBox::eventFilter(watched, event);
+  const auto& key = dynamic_cast<const QKeyEvent&>(*event);
+  return key.isAutoRepeat() && PressesButtons(key.key());
 }
 
 void MessageBox::keyPressEvent(QKeyEvent* event) {
   if (event->matches(QKeySequence::Copy)) {
-    QGuiApplication::clipboard()->setText(text());
+    QApplication::clipboard()->setText(text());
   } else {
     QMessageBox::keyPressEvent(event);
   }

@@ -194,6 +194,9 @@ std::variant<Request, AskedText> ParseCommandLine(const std::vector<std::string>
   } catch (const CLI::ParseError& error) {
     refusal = error.what();
   }
+  if (!words.FlagWithValue.empty()) {
+    refusal = fmt::format("{} takes no value", words.FlagWithValue);
+  }
   if (!words.UnknownOption.empty()) {
     refusal = fmt::format("there is no option '{}'", words.UnknownOption);
   }

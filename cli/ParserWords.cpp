@@ -40,10 +40,14 @@ ParserWords WordsOf(const std::vector<std::string>& arguments, const CLI::App& a
     const std::string name = argument.substr(0, equals);
     const CLI::Option* option = app.get_option_no_throw(name);
     if (option == nullptr && parsed.UnknownOption.empty()) parsed.UnknownOption = name;
-    parsed.Words.push_back(TakesValue(option) ? name : argument);
-    if (!TakesValue(option)) continue;
-    valueFollows = equals == std::string::npos;
-    if (!valueFollows) parsed.Words.push_back(Shielded(argument.substr(equals + 1)));
+    const bool valueStandsHere = equals != std::string::npos;
+    const bool takesValue = TakesValue(option);
+    const bool isFlag = option != nullptr && !takesValue;
+    if (isFlag && valueStandsHere && parsed.FlagWithValue.empty()) parsed.FlagWithValue = name;
+    parsed.Words.push_back(takesValue ? name : argument);
+    if (!takesValue) continue;
+    valueFollows = !valueStandsHere;
+    if (valueStandsHere) parsed.Words.push_back(Shielded(argument.substr(equals + 1)));
   }
   return parsed;
 }

@@ -9,10 +9,12 @@
 namespace cli {
 
 // A command line in words that the parser cannot misread, and the name of the first option in it
-// that the parser does not know; empty where it knows them all.
+// that the parser does not know, and of the first that is given a value and takes none, as in
+// "--overwrite=no"; empty where there is no such option.
 struct ParserWords {
   std::vector<std::string> Words;
   std::string UnknownOption;
+  std::string FlagWithValue;
 };
 
 // What begins with a dash is an option, but for a lone dash, the value of an option, and what

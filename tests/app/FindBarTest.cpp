@@ -155,6 +155,29 @@ TEST_F(Find, TheBarStaysInTheCornerWhenTheFormIsResized) {
   EXPECT_EQ(Bar()->geometry().right(), Pane()->viewport()->geometry().right());
 }
 
+// A screen of 1366 x 768 at 200 % leaves the pane so wide.
+TEST_F(Find, InANarrowPaneTheBarIsNarrowerWhateverItSays) {
+  StartWith("Left foot\n");
+  form_.resize(683, 352);
+  Want(QStringLiteral("ball"));
+  for (const QString& result :
+       {QStringLiteral("not found"), QStringLiteral("continued from the start")}) {
+    QTest::keyClick(Wanted(), Qt::Key_Return);
+    QTest::keyClick(Wanted(), Qt::Key_Return);
+    EXPECT_EQ(Result()->text(), result);
+    EXPECT_TRUE(Pane()->viewport()->geometry().contains(Bar()->geometry()));
+    EXPECT_GE(Wanted()->width(), 60);
+    EXPECT_LE(Result()->heightForWidth(Result()->width()), Result()->height());
+    for (QWidget* part : Bar()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+      EXPECT_TRUE(Bar()->rect().contains(part->geometry())) << part->objectName().toStdString();
+    }
+    Want(QStringLiteral("foot"));
+  }
+  form_.resize(1180, 740);
+  EXPECT_EQ(Wanted()->width(), 180);
+  EXPECT_FALSE(Result()->wordWrap());
+}
+
 TEST_F(Find, ItsButtonsDoWhatTheySayWhenEnterIsPressedOnThem) {
   StartWith("toe 1\ntoe 2\ntoe 3\n");
   Want(QStringLiteral("toe"));

@@ -4,6 +4,8 @@
 
 #include <fstream>
 
+#include <QApplication>
+#include <QKeyEvent>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -113,6 +115,24 @@ TEST_F(FormGcd, YesToAllHoldsForOneCommandOnly) {
   boxes_.ExpectAndClick(QStringLiteral("Yes to All"));
   Click("cmdWriteGcdFiles");
   EXPECT_EQ(boxes_.Seen().size(), 2U);
+}
+
+TEST_F(FormGcd, AKeyThatIsStillHeldDownAnswersNothing) {
+  StartWithSample();
+  WriteOld("L1");
+  boxes_.Expect([this](QDialog& box) {
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space, Qt::Key_Escape}) {
+      for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent held(type, key, Qt::NoModifier, QString(), type == QEvent::KeyPress);
+        QApplication::sendEvent(box.focusWidget(), &held);
+      }
+      EXPECT_TRUE(box.isVisible()) << key;
+    }
+    EXPECT_FALSE(IsNew("L1"));
+    QTest::keyClick(&box, Qt::Key_Return);
+  });
+  Click("cmdWriteGcdFiles");
+  EXPECT_TRUE(IsNew("L1"));
 }
 
 TEST_F(FormGcd, CancelKeepsTheFilesSoFarSaysSoAndEndsTheProgram) {

@@ -101,6 +101,15 @@ TEST(ToolCommandLine, TakesWhateverBeginsWithADashForAnOption) {
   }
 }
 
+TEST(ToolCommandLine, RefusesAValueOfAnOptionThatTakesNone) {
+  for (const std::string value : {"", "true", "no", "0", "2", "maybe"}) {
+    EXPECT_EQ(WhyRefused({"--overwrite=" + value, "gcd", "a.c3d"}), "--overwrite takes no value");
+    EXPECT_EQ(WhyRefused({"gcd", "a.c3d", "--events=" + value}), "--events takes no value");
+  }
+  EXPECT_TRUE(Parsed({"--overwrite", "gcd", "a.c3d"}).Gcd.Overwrite);
+  EXPECT_EQ(WhyRefused({"--overwrite=", "--all", "gcd", "a.c3d"}), "there is no option '--all'");
+}
+
 TEST(ToolCommandLine, AsksForHelpBesideAnUnknownOptionToo) {
   EXPECT_TRUE(std::holds_alternative<AskedText>(ParseCommandLine({"--all", "--help"})));
   EXPECT_TRUE(std::holds_alternative<AskedText>(ParseCommandLine({"--version", "--all"})));

@@ -12,6 +12,7 @@
 #include "reports/NavigationTree.h"
 #include "reports/NormalizedReport.h"
 #include "reports/ParameterReport.h"
+#include "reports/StrideReport.h"
 #include "reports/StrikeOffReport.h"
 #include "tests/GaitTrials.h"
 
@@ -46,6 +47,7 @@ std::map<std::string, std::string> AllReportsOf(const FileState& state) {
       {"tree", reports::ShowTree},
       {"labels", reports::ShowPointLabels},
       {"events", reports::ShowStrikeOffEvents},
+      {"strides", reports::ShowStrides},
       {"measures", reports::ShowSingleValueStrikeOffMeasures}};
   for (const auto& [name, report] : plain) {
     texts[name] = TextOf([&, show = report](ReportOutput& output) { show(state, output); });
