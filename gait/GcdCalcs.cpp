@@ -92,10 +92,14 @@ void clsGcdCalcs::CalcLengths(const StrideRecord& stride, SingleValueMeasures& m
 
 NormalizedCurve clsGcdCalcs::NormalizeLabelForStride(std::string_view label,
                                                      std::int32_t strideIndex) {
-  if (!PointLabelExists(state_, label)) return {};
-  const SplineCurve& x = SplineOf(label, Component::X);
-  const SplineCurve& y = SplineOf(label, Component::Y);
-  const SplineCurve& z = SplineOf(label, Component::Z);
+  return NormalizePointForStride(GetPointLabelIndex(state_, label), strideIndex);
+}
+
+NormalizedCurve clsGcdCalcs::NormalizePointForStride(std::int32_t point, std::int32_t strideIndex) {
+  if (point < 1 || point > state_.PointLabels.Count()) return {};
+  const SplineCurve& x = SplineOfPoint(point, Component::X);
+  const SplineCurve& y = SplineOfPoint(point, Component::Y);
+  const SplineCurve& z = SplineOfPoint(point, Component::Z);
   const StrideRecord& stride = state_.GaitEvents.ValidStrides[strideIndex];
   const double start = stride.StartStrikeTime;
   const float step = ToSingle((stride.StopStrikeTime - start) / (kNormalizedPoints - 1));
@@ -128,19 +132,30 @@ const PointKinds& clsGcdCalcs::Kinds() {
 }
 
 const SplineCurve& clsGcdCalcs::SplineOf(std::string_view label, Component component) {
-  const std::int32_t index = GetPointLabelIndex(state_, label);
-  auto curves = curves_.find(index);
-  if (curves == curves_.end()) {
-    LabelCurves read{ReadPointDataForIndex(state_, index), {}};
-    curves = curves_.emplace(index, std::move(read)).first;
-  }
-  auto& [samples, splines] = curves->second;
+  return SplineOfPoint(GetPointLabelIndex(state_, label), component);
+}
+
+const PointSamples& clsGcdCalcs::SamplesOfPoint(std::int32_t point) {
+  return CurvesOfPoint(point).Samples;
+}
+
+const SplineCurve& clsGcdCalcs::SplineOfPoint(std::int32_t point, Component component) {
+  auto& [samples, splines] = CurvesOfPoint(point);
   auto spline = splines.find(component);
   if (spline == splines.end()) {
     SplineCurve built = BuildComponentSpline(samples, state_.PointFrameCount, component);
     spline = splines.emplace(component, std::move(built)).first;
   }
   return spline->second;
+}
+
+clsGcdCalcs::LabelCurves& clsGcdCalcs::CurvesOfPoint(std::int32_t point) {
+  auto curves = curves_.find(point);
+  if (curves == curves_.end()) {
+    LabelCurves read{ReadPointDataForIndex(state_, point), {}};
+    curves = curves_.emplace(point, std::move(read)).first;
+  }
+  return curves->second;
 }
 
 }  // namespace modVantrel

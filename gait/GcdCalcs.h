@@ -35,8 +35,16 @@ class clsGcdCalcs {
   // empty where there is no such label. Errors 9 and 11 as the splines.
   NormalizedCurve NormalizeLabelForStride(std::string_view label, std::int32_t strideIndex);
 
+  // The same of the point of that number, from 1; empty where there is none.
+  NormalizedCurve NormalizePointForStride(std::int32_t point, std::int32_t strideIndex);
+
   // The same as values, X, Y and Z; none where there is no such label.
   std::vector<StrideCurve> CurvesOfLabel(std::string_view label, std::int32_t strideIndex);
+
+  // The samples of the point of that number, from 1, and the spline through one coordinate. Both
+  // stay valid as long as this object. Errors as ReadPointDataForIndex and BuildComponentSpline.
+  const PointSamples& SamplesOfPoint(std::int32_t point);
+  const modCubicSpline::SplineCurve& SplineOfPoint(std::int32_t point, Component component);
 
  private:
   // A label's samples and its splines, each made when it is first asked for: a coordinate that is
@@ -46,7 +54,7 @@ class clsGcdCalcs {
     std::map<Component, modCubicSpline::SplineCurve> Splines;
   };
 
-  // Stays valid as long as this object.
+  LabelCurves& CurvesOfPoint(std::int32_t point);
   const modCubicSpline::SplineCurve& SplineOf(std::string_view label, Component component);
   void CalcLengths(const StrideRecord& stride, SingleValueMeasures& measures);
 
