@@ -41,6 +41,7 @@ std::string ReportNames(bool onlyTables = false) {
 std::string RemarkOf(const reports::ReportInfo& report) {
   std::vector<std::string_view> remarks;
   if (report.NeedsLabel) remarks.emplace_back("needs --label");
+  if (report.NeedsNormals) remarks.emplace_back("needs --normal");
   if (report.TakesEvents) remarks.emplace_back("takes --events");
   if (report.TakesGroup) remarks.emplace_back("takes --group and --param");
   if (report.WritesGcdFiles) remarks.emplace_back("takes --output-dir and --overwrite");
@@ -115,6 +116,8 @@ void AddOptions(CLI::App& app, Request& request) {
   AddChoice(app, "--format", kFormats, request.Format, "Text, or a table of all files");
   app.add_flag("--further-labels", request.FurtherLabels,
                "Let text reports find the labels beyond the 255th too");
+  app.add_option("--normal", request.NormalFile,
+                 "File of normal values: the csv of norms, or a GCD file of means and deviations");
   app.add_flag("--events", request.Events, "Name the stride events in a point or analog listing");
   app.add_option("--output-dir", request.Gcd.Options.OutputFolder,
                  "Folder for GCD files, instead of the trial's own")
@@ -155,6 +158,12 @@ void CheckLabels(const Request& request, const reports::ReportInfo& report) {
   }
 }
 
+void CheckNormals(const Request& request, const reports::ReportInfo& report) {
+  if (report.NeedsNormals && request.NormalFile.empty()) {
+    throw CLI::RequiresError("the report '" + request.Report + "'", "--normal");
+  }
+}
+
 void CheckRequest(const Request& request) {
   if (request.Options.Param && !request.Options.Group) {
     throw CLI::RequiresError("--param", "--group");
@@ -165,6 +174,7 @@ void CheckRequest(const Request& request) {
                                                        request.Report, ReportNames(true)));
   }
   CheckLabels(request, report);
+  CheckNormals(request, report);
 }
 
 AskedText TextOf(const CLI::App& app, const CLI::Success& asked) {

@@ -15,6 +15,7 @@
 #include "reports/ReportList.h"
 #include "reports/StrideReport.h"
 #include "reports/StrikeOffReport.h"
+#include "reports/SummaryReport.h"
 #include "reports/TrialTables.h"
 
 namespace cli {
@@ -22,6 +23,7 @@ namespace cli {
 using modAllPurpose::ReportOutput;
 using modAllPurpose::ReportResult;
 using modVantrel::FileState;
+using reports::Complaints;
 
 namespace {
 
@@ -70,6 +72,12 @@ std::string Gcd(const FileState& state, Request& request, ReportOutput& output) 
   return WriteGcdReport(state, request.Gcd, output);
 }
 
+Complaints Summary(const FileState& state, std::string_view file,
+                   const reports::TableOptions& /*options*/, reports::TableOutput& table) {
+  reports::SummaryRows(state, file, table);
+  return {};
+}
+
 constexpr std::array kTrialReports = {
     TrialReport{"header", Plain<reports::ShowHeaderInfo>, reports::HeaderRows},
     TrialReport{"parameter-header", Plain<reports::ShowParameterHeader>},
@@ -82,12 +90,15 @@ constexpr std::array kTrialReports = {
     TrialReport{"strides", Plain<reports::ShowStrides>, reports::StrideRows},
     TrialReport{"measures", Plain<reports::ShowSingleValueStrikeOffMeasures>, reports::MeasureRows},
     TrialReport{"normalized", Refusing<Normalized>, reports::NormalizedRows},
+    TrialReport{"summary", Plain<reports::ShowSummary>, Summary},
     TrialReport{"gcd", Gcd},
     TrialReport{"tree", Plain<reports::ShowTree>},
 };
 
-// A report of the list has its functions above, and a table there where it has columns.
+// A report of the list that is made of one trial has its functions above, and a table there where
+// it has columns.
 constexpr bool IsListed(const reports::ReportInfo& info) {
+  if (info.Pools) return true;
   const auto* found = std::ranges::find(kTrialReports, info.Name, &TrialReport::Name);
   return found != kTrialReports.end() && (found->Rows != nullptr) == !info.Columns.empty();
 }

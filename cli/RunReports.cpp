@@ -13,6 +13,7 @@
 #include "c3d/FileState.h"
 #include "cli/OpenTrial.h"
 #include "cli/ReportTable.h"
+#include "cli/RunPooled.h"
 #include "cli/RunTables.h"
 #include "cli/StandardOutput.h"
 #include "cli/Start.h"
@@ -49,8 +50,8 @@ std::vector<std::string> FilesToRead(const std::vector<std::string>& named, cons
 // empty where all is well.
 std::string OpenAndReport(const std::string& file, Request& request, ReportOutput& output) {
   modVantrel::FileState state;
-  std::string refusal =
-      OpenTrial(file, request.FurtherLabels ? Labels::All : Labels::First255, state);
+  const bool all = request.FurtherLabels || reports::FindReport(request.Report)->KnowsFurtherLabels;
+  std::string refusal = OpenTrial(file, all ? Labels::All : Labels::First255, state);
   if (!refusal.empty()) return refusal;
   return FindTrialReport(request.Report).Text(state, request, output);
 }
@@ -111,7 +112,9 @@ int RunReports(Request request, const Streams& streams) {
   int status = kAllWell;
   request.Files = FilesToRead(request.Files, streams, status);
   try {
-    if (request.Format == OutputFormat::Text) {
+    if (reports::FindReport(request.Report)->Pools) {
+      RunPooled(request, request.Files, streams, status);
+    } else if (request.Format == OutputFormat::Text) {
       RunTexts(request, streams, status);
     } else {
       RunTables(request, request.Files, streams, status);

@@ -2,26 +2,18 @@
 
 #include "cli/RunTables.h"
 
-#include <memory>
-
 #include "c3d/FileState.h"
 #include "cli/OpenTrial.h"
 #include "cli/ReportTable.h"
 #include "cli/StandardOutput.h"
+#include "cli/TableOfRequest.h"
 #include "cli/Tool.h"
-#include "reports/CsvTable.h"
-#include "reports/JsonTable.h"
 #include "reports/ReportList.h"
 #include "support/Text.h"
 
 namespace cli {
 
 namespace {
-
-std::unique_ptr<reports::TableOutput> MakeTable(OutputFormat format, StandardOutput& output) {
-  if (format == OutputFormat::Json) return std::make_unique<reports::JsonTable>(output);
-  return std::make_unique<reports::CsvTable>(output);
-}
 
 // Writes the rows of one file; false where something is complained of.
 bool WriteRows(const Request& request, const std::string& file, reports::TableOutput& table,
@@ -48,7 +40,7 @@ bool WriteRows(const Request& request, const std::string& file, reports::TableOu
 void RunTables(const Request& request, const std::vector<std::string>& files,
                const Streams& streams, int& status) {
   StandardOutput output(streams.Output, {});
-  const auto table = MakeTable(request.Format, output);
+  const auto table = MakeTable(request, output);
   table->Begin(reports::FindReport(request.Report)->Columns);
   for (const std::string& file : files) {
     if (!WriteRows(request, file, *table, streams)) status = kSomeFailed;

@@ -135,19 +135,27 @@ const SplineCurve& clsGcdCalcs::SplineOf(std::string_view label, Component compo
   return SplineOfPoint(GetPointLabelIndex(state_, label), component);
 }
 
+const PointSamples& clsGcdCalcs::SamplesOfPoint(std::int32_t point) {
+  return CurvesOfPoint(point).Samples;
+}
+
 const SplineCurve& clsGcdCalcs::SplineOfPoint(std::int32_t point, Component component) {
-  auto curves = curves_.find(point);
-  if (curves == curves_.end()) {
-    LabelCurves read{ReadPointDataForIndex(state_, point), {}};
-    curves = curves_.emplace(point, std::move(read)).first;
-  }
-  auto& [samples, splines] = curves->second;
+  auto& [samples, splines] = CurvesOfPoint(point);
   auto spline = splines.find(component);
   if (spline == splines.end()) {
     SplineCurve built = BuildComponentSpline(samples, state_.PointFrameCount, component);
     spline = splines.emplace(component, std::move(built)).first;
   }
   return spline->second;
+}
+
+clsGcdCalcs::LabelCurves& clsGcdCalcs::CurvesOfPoint(std::int32_t point) {
+  auto curves = curves_.find(point);
+  if (curves == curves_.end()) {
+    LabelCurves read{ReadPointDataForIndex(state_, point), {}};
+    curves = curves_.emplace(point, std::move(read)).first;
+  }
+  return curves->second;
 }
 
 }  // namespace modVantrel

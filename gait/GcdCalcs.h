@@ -41,6 +41,11 @@ class clsGcdCalcs {
   // The same as values, X, Y and Z; none where there is no such label.
   std::vector<StrideCurve> CurvesOfLabel(std::string_view label, std::int32_t strideIndex);
 
+  // The samples of the point of that number, from 1, and the spline through one coordinate. Both
+  // stay valid as long as this object. Errors as ReadPointDataForIndex and BuildComponentSpline.
+  const PointSamples& SamplesOfPoint(std::int32_t point);
+  const modCubicSpline::SplineCurve& SplineOfPoint(std::int32_t point, Component component);
+
  private:
   // A label's samples and its splines, each made when it is first asked for: a coordinate that is
   // not used cannot fail.
@@ -49,8 +54,7 @@ class clsGcdCalcs {
     std::map<Component, modCubicSpline::SplineCurve> Splines;
   };
 
-  // Stays valid as long as this object.
-  const modCubicSpline::SplineCurve& SplineOfPoint(std::int32_t point, Component component);
+  LabelCurves& CurvesOfPoint(std::int32_t point);
   const modCubicSpline::SplineCurve& SplineOf(std::string_view label, Component component);
   void CalcLengths(const StrideRecord& stride, SingleValueMeasures& measures);
 

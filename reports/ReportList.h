@@ -14,9 +14,12 @@ struct ReportInfo {
   std::string_view Name;
   std::string_view Description;
   bool NeedsLabel = false;
-  bool TakesEvents = false;     // can name the stride events beside its lines
-  bool TakesGroup = false;      // can be limited to a group, or to one of its parameters
-  bool WritesGcdFiles = false;  // takes a folder for them and what is known of the subject
+  bool TakesEvents = false;         // can name the stride events beside its lines
+  bool TakesGroup = false;          // can be limited to a group, or to one of its parameters
+  bool WritesGcdFiles = false;      // takes a folder for them and what is known of the subject
+  bool Pools = false;               // one report over the strides of all files
+  bool NeedsNormals = false;        // compares with a file of normal values
+  bool KnowsFurtherLabels = false;  // finds the labels beyond the 255th as a text too
   std::span<const std::string_view> Columns = {};  // of its table; none where it has no table
 };
 
@@ -58,6 +61,28 @@ inline constexpr std::array kReports = {
                .Description = "The curves of a point at 51 instants of every valid stride",
                .NeedsLabel = true,
                .Columns = columns::kNormalized},
+    ReportInfo{
+        .Name = "summary",
+        .Description = "The conventional gait measures of a trial, mean and deviation by side",
+        .KnowsFurtherLabels = true,
+        .Columns = columns::kSummary},
+    ReportInfo{.Name = "visit",
+               .Description = "The same over the strides of all files",
+               .Pools = true,
+               .Columns = columns::kVisit},
+    ReportInfo{.Name = "variability",
+               .Description = "How much the curves of a label differ from stride to stride",
+               .Pools = true,
+               .Columns = columns::kVariability},
+    ReportInfo{.Name = "norms",
+               .Description = "Mean and deviation of curves and measures over trials of controls",
+               .Pools = true,
+               .Columns = columns::kNorms},
+    ReportInfo{.Name = "scores",
+               .Description = "Gait Variable Scores and Gait Profile Scores against normal values",
+               .Pools = true,
+               .NeedsNormals = true,
+               .Columns = columns::kScores},
     ReportInfo{.Name = "gcd",
                .Description = "Writes a GCD file for every valid stride and prints their names",
                .WritesGcdFiles = true},

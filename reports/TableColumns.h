@@ -4,7 +4,7 @@
 #include <array>
 #include <string_view>
 
-// The columns of the tables that are made of one trial, in their order. Their names are what
+// The columns of the tables, in their order. Their names are what
 // scripts and spreadsheets of users hold on to.
 namespace reports::columns {
 
@@ -27,5 +27,16 @@ inline constexpr std::array<Name, 8> kPoint = {"file", "label", "frame", "time",
                                                "x",    "y",     "z",     "residual"};
 inline constexpr std::array<Name, 6> kAnalog = {"file",   "label", "frame",
                                                 "sample", "time",  "value"};
+inline constexpr std::array<Name, 10> kSummary = {"file",    "measure",  "unit",       "left_mean",
+                                                  "left_sd", "left_n",   "right_mean", "right_sd",
+                                                  "right_n", "asymmetry"};
+inline constexpr std::array<Name, 9> kVisit = {"measure",  "unit",    "left_mean",
+                                               "left_sd",  "left_n",  "right_mean",
+                                               "right_sd", "right_n", "asymmetry"};
+inline constexpr std::array<Name, 6> kVariability = {"side", "label", "component",
+                                                     "n",    "sd",    "unit"};
+inline constexpr std::array<Name, 7> kNorms = {"label", "component", "percent", "mean",
+                                               "sd",    "n",         "unit"};
+inline constexpr std::array<Name, 5> kScores = {"side", "variable", "score", "n", "unit"};
 
 }  // namespace reports::columns

@@ -23,9 +23,10 @@ const std::map<std::string, std::vector<std::string>> kMayInclude = {
     {"c3d", {"support"}},
     {"gait", {"support", "c3d"}},
     {"deploy", {"support"}},
-    {"reports", {"support", "c3d", "gait"}},
-    {"app", {"support", "c3d", "gait", "deploy", "reports"}},
-    {"cli", {"support", "c3d", "gait", "reports"}},
+    {"visit", {"support", "c3d", "gait"}},
+    {"reports", {"support", "c3d", "gait", "visit"}},
+    {"app", {"support", "c3d", "gait", "visit", "deploy", "reports"}},
+    {"cli", {"support", "c3d", "gait", "visit", "reports"}},
     {"sample", {"support", "c3d"}},
 };
 

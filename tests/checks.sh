@@ -11,7 +11,7 @@ cd "$(dirname "$0")/.."
 
 ./setup.sh --checks
 
-core=(support c3d gait deploy reports)
+core=(support c3d gait visit deploy reports)
 
 clang() {
   cmake -S . -B build/clang -G Ninja -DCMAKE_CXX_COMPILER=clang++-14 -DCMAKE_BUILD_TYPE=Release \

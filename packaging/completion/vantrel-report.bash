@@ -3,8 +3,8 @@
 _vantrel_report() {
   local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
   local reports="header parameter-header groups parameters labels point analog events strides
-    measures normalized gcd tree"
-  local options="--label --all-labels --group --param --format --further-labels --events --output-dir
+    measures normalized summary visit variability norms scores gcd tree"
+  local options="--label --all-labels --group --param --format --further-labels --normal --events --output-dir
     --axes --overwrite --gender --date-of-birth --visit-date --help --version"
 
   case $previous in
@@ -19,6 +19,11 @@ _vantrel_report() {
       ;;
     --axes)
       mapfile -t COMPREPLY < <(compgen -W "walk anatomical" -- "$current")
+      return
+      ;;
+    --normal)
+      mapfile -t COMPREPLY < <(compgen -f -- "$current")
+      compopt -o filenames
       return
       ;;
     --gender)

@@ -75,6 +75,7 @@ TEST(Golden, EveryReportOfTheToolPrintsItsText) {
     ExpectGolden(words[0], run.Out);
   }
   for (const reports::ReportInfo& report : reports::kReports) {
+    if (report.NeedsNormals) continue;  // its text is that of other files too
     EXPECT_NE(std::ranges::find(printed, report.Name), printed.end())
         << report.Name << " has no text";
   }

@@ -14,6 +14,7 @@
 #include "reports/ParameterReport.h"
 #include "reports/StrideReport.h"
 #include "reports/StrikeOffReport.h"
+#include "reports/SummaryReport.h"
 #include "tests/GaitTrials.h"
 
 namespace tests {
@@ -48,7 +49,8 @@ std::map<std::string, std::string> AllReportsOf(const FileState& state) {
       {"labels", reports::ShowPointLabels},
       {"events", reports::ShowStrikeOffEvents},
       {"strides", reports::ShowStrides},
-      {"measures", reports::ShowSingleValueStrikeOffMeasures}};
+      {"measures", reports::ShowSingleValueStrikeOffMeasures},
+      {"summary", reports::ShowSummary}};
   for (const auto& [name, report] : plain) {
     texts[name] = TextOf([&, show = report](ReportOutput& output) { show(state, output); });
   }

@@ -48,9 +48,10 @@ TEST_P(ProcessorsAgree, IntelAndDecFileOfAWalkPrintTheSameCharacters) {
 }
 
 // What the tests run in place of every report must not lag behind the list.
-TEST(AllReports, AreThoseOfTheListButTheTwoThatNameTheFileOrItsFormat) {
+TEST(AllReports, AreThoseOfOneTrialButTheTwoThatNameTheFileOrItsFormat) {
   const auto texts = ReportsOfWalk(modVantrel::kProcessorIntel, Storage::Integer);
   for (const reports::ReportInfo& report : reports::kReports) {
+    if (report.Pools) continue;
     const std::string name(report.Name);
     const bool leftOut = name == "header" || name == "parameter-header";
     const bool isThere = std::ranges::any_of(texts, [&](const auto& entry) {

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "reports/PooledNumbers.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <cmath>
+#include <cstddef>
+
+#include <fmt/format.h>
+
+#include "support/NumberForms.h"
+
+namespace reports {
+
+using modAllPurposeNumbers::NumberPattern;
+
+void NumberOrMissing(TableOutput& table, std::optional<double> number) {
+  if (number) {
+    table.Number(*number);
+  } else {
+    table.Missing();
+  }
+}
+
+void StatisticsValues(TableOutput& table, const visit::Statistics& statistics) {
+  NumberOrMissing(table, statistics.Mean());
+  NumberOrMissing(table, statistics.Deviation());
+  table.Number(statistics.Count());
+}
+
+std::string NumberText(std::optional<double> number, int decimals) {
+  static constexpr std::array kPatterns = {NumberPattern("0"),       NumberPattern("0.0"),
+                                           NumberPattern("0.00"),    NumberPattern("0.000"),
+                                           NumberPattern("0.0000"),  NumberPattern("0.00000"),
+                                           NumberPattern("0.000000")};
+  if (!number || !std::isfinite(*number)) return "-";
+  return FormatNumber(kPatterns.at(static_cast<std::size_t>(decimals)), *number);
+}
+
+std::string StatisticsText(std::optional<double> mean, std::optional<double> deviation,
+                           std::int64_t count, int decimals) {
+  if (!mean || !deviation) return CountedText(mean, count, decimals);
+  return fmt::format("{} ± {} ({})", NumberText(mean, decimals), NumberText(deviation, decimals),
+                     count);
+}
+
+std::string CountedText(std::optional<double> number, std::int64_t count, int decimals) {
+  if (!number) return "-";
+  return fmt::format("{} ({})", NumberText(number, decimals), count);
+}
+
+int DecimalsFor(std::string_view unit) {
+  constexpr std::array<std::string_view, 3> kSmall = {"m", "s", "m/s"};
+  return std::ranges::find(kSmall, unit) == kSmall.end() ? 1 : 2;
+}
+
+std::string MeasureTitle(std::string_view name) {
+  std::string title(name);
+  std::ranges::replace(title, '_', ' ');
+  if (!title.empty()) title[0] = static_cast<char>(std::toupper(title[0]));
+  return title;
+}
+
+}  // namespace reports

@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <fstream>
+#include <rapidjson/document.h>
+#include <string>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "tests/GaitTrials.h"
+#include "tests/cli/ToolInside.h"
+
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+using tests::RunInside;
+using tests::ToolResult;
+
+// A walk of one left stride along X, a metre long, and its knee at 30 degrees.
+sample::TrialBuilder Walk() {
+  sample::TrialBuilder builder = tests::WholeFrameTrial();
+  builder.AddPoint("LTOE", tests::Moving({}, {20, 0, 0}))
+      .AddPoint("RTOE", tests::Standing(840, 100, 0))
+      .AddPoint("LKneeAngles", tests::Standing(30, 1, 2));
+  return builder;
+}
+
+class PooledTest : public testing::Test {
+ protected:
+  std::string Given(const std::string& name, const sample::Trial& trial) {
+    trial.WriteTo(folder_ / name);
+    return (folder_ / name).string();
+  }
+  std::string GivenText(const std::string& name, const std::string& text) {
+    std::ofstream(folder_ / name, std::ios::binary) << text;
+    return (folder_ / name).string();
+  }
+
+ private:
+  tests::TemporaryFolder folder_;
+};
+
+TEST_F(PooledTest, VisitIsOneTextOverAllFiles) {
+  const std::string first = Given("a.c3d", Walk().Build());
+  const std::string second = Given("b.c3d", Walk().Build());
+  const ToolResult run = RunInside({"visit", first, second});
+  EXPECT_EQ(run.Status, 0) << run.Err;
+  EXPECT_THAT(run.Out, StartsWith("Measure "));
+  EXPECT_THAT(run.Out, HasSubstr("1.00 \xC2\xB1 0.00 (2)"));
+  EXPECT_EQ(run.Out.find("==>"), std::string::npos);
+}
+
+TEST_F(PooledTest, FileThatFailsIsNamedAndLeftOutWhole) {
+  const std::string good = Given("good.c3d", Walk().Build());
+  sample::Trial cut = Walk().Build();
+  const std::string bad = Given("bad.c3d", cut.TruncateTo(cut.Size() - 600));
+  const ToolResult alone = RunInside({"--format", "csv", "visit", good});
+  const ToolResult both = RunInside({"--format", "csv", "visit", bad, good});
+  EXPECT_EQ(both.Status, 1);
+  EXPECT_EQ(both.Out, alone.Out);
+  EXPECT_EQ(both.Err, "vantrel-report: " + bad + ": Run-time error '62': Input past end of file\n");
+}
+
+TEST_F(PooledTest, NormsAreReadBackAsNormalValues) {
+  const std::string file = Given("a.c3d", Walk().Build());
+  const ToolResult norms = RunInside({"--format", "csv", "norms", file});
+  ASSERT_EQ(norms.Status, 0) << norms.Err;
+  const std::string normal = GivenText("norms.csv", norms.Out);
+  const ToolResult scores = RunInside({"--format", "csv", "--normal", normal, "scores", file});
+  EXPECT_THAT(scores.Out, HasSubstr("Left,KneeAngles.x,0,1,deg\n")) << "its own mean";
+  EXPECT_THAT(scores.Err, HasSubstr("scores: "));
+}
+
+TEST_F(PooledTest, NormalFileThatIsNoneIsNamedWithItsLineAndNothingIsPrinted) {
+  const std::string file = Given("a.c3d", Walk().Build());
+  const std::string normal = GivenText("norms.csv", "label,component\nnonsense\n");
+  const ToolResult run = RunInside({"--format", "csv", "--normal", normal, "scores", file});
+  EXPECT_EQ(run.Status, 1);
+  EXPECT_EQ(run.Out, "");
+  EXPECT_THAT(run.Err, StartsWith("vantrel-report: " + normal + ", line 1: "));
+}
+
+TEST_F(PooledTest, SummaryHasTwelveRowsAlsoWithoutStrides) {
+  const std::string file = Given("a.c3d", sample::TrialBuilder().Build());
+  rapidjson::Document document;
+  document.Parse(RunInside({"--format", "json", "summary", file}).Out.c_str());
+  ASSERT_EQ(document.Size(), 12U);
+  EXPECT_EQ(document[0]["left_n"].GetInt(), 0);
+  EXPECT_TRUE(document[0]["left_mean"].IsNull());
+}
+
+TEST(PooledCommandLine, ScoresWithoutNormalValuesIsWrongUsage) {
+  EXPECT_EQ(RunInside({"scores", "x.c3d"}).Status, 2);
+}
+
+}  // namespace
