@@ -62,6 +62,7 @@ class frmVantrel : public QWidget {
 
  signals:
   void Unloaded(int exitStatus);
+  void Framed();  // shown in the frame of the window system
   void FilesDropped(const std::vector<std::string>& files);
 
  protected:
