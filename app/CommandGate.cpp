@@ -14,7 +14,7 @@ namespace {
 // Shuts the gate while it lives.
 class Shut {
  public:
-  explicit Shut(bool& shut) : shut_(shut) { shut_ = true; }
+  explicit Shut(bool& shut) : shut_(shut) { shut = true; }
   Shut(const Shut&) = delete;
   Shut& operator=(const Shut&) = delete;
   ~Shut() { shut_ = false; }

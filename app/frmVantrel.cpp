@@ -48,6 +48,8 @@ frmVantrel::frmVantrel(modVantrel::FileState& state)
   FormReader::Install();
   setObjectName(QStringLiteral("frmVantrel"));
   setWindowTitle(QStringLiteral("Vantrel"));
+  // Not within the painting that tells of it.
+  connect(this, &frmVantrel::Framed, this, &frmVantrel::FitFrame, Qt::QueuedConnection);
   ConnectControls();
   AddShortcuts();
   AcceptDrops();
@@ -126,7 +128,7 @@ void frmVantrel::Form_Unload() {
 bool frmVantrel::event(QEvent* event) {
   // Framed it is when it is painted for the first time.
   if (event->type() == QEvent::Paint && !std::exchange(wasPainted_, true)) {
-    QMetaObject::invokeMethod(this, &frmVantrel::FitFrame, Qt::QueuedConnection);
+    emit Framed();
   }
   return QWidget::event(event);
 }

@@ -63,6 +63,8 @@ class frmVantrel : public QWidget {
  signals:
   // The form was closed, for good: the program ends with that status.
   void Unloaded(int exitStatus);
+  // It is shown in the frame of the window system.
+  void Framed();
   // The drop of these files, one at least, is over for the program that they come from.
   void FilesDropped(const std::vector<std::string>& files);
 

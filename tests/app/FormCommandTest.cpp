@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QTest>
+#include <QTimer>
 #include <QWindow>
 #include <QtGui/private/qhighdpiscaling_p.h>
 #include <qpa/qwindowsysteminterface.h>
@@ -157,10 +158,10 @@ TEST_F(FormCommand, ADropWhileItRunsIsRefused) {
   const std::string other = Write(SampleTrial(), "other.c3d");
   const std::string walk = WriteSampleWalk();
   Start(walk);
-  ReportWatch watch(Pane(), [&] {
-    QMetaObject::invokeMethod(
-        &form_, [&] { Drop(other); }, Qt::QueuedConnection);
-  });
+  QTimer drop;
+  drop.setSingleShot(true);
+  QObject::connect(&drop, &QTimer::timeout, [&] { Drop(other); });
+  ReportWatch watch(Pane(), [&] { drop.start(0); });
   Click("cmdShowHeaderInfo");
   Settle();
   EXPECT_EQ(form_.windowTitle().toStdString(), walk);
