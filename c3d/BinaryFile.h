@@ -24,6 +24,9 @@ class BinaryFile {
   bool IsOpen() const { return file_.IsOpen(); }
   void Close() noexcept;
 
+  // Bytes in the file now.
+  std::uint64_t Size() const { return file_.Size(); }
+
   // Error 63 where `position` is below 1. A position past the end is an error only when read.
   void Seek(std::int32_t position) {
     if (position < 1) {

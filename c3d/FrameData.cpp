@@ -11,6 +11,7 @@
 #include <utility>
 #include <vector>
 
+#include "c3d/FrameLayout.h"
 #include "c3d/StoredNumbers.h"
 #include "support/Arithmetic.h"
 #include "support/RuntimeError.h"
@@ -33,23 +34,6 @@ namespace {
 constexpr std::int64_t kWidestGapToReadAlong = 8192;
 constexpr std::size_t kManyFrames = std::size_t{256} * 1024;
 
-// Sizes of the frame data in bytes; 0 where the storage is unknown.
-struct FrameLayout {
-  std::int32_t ValueSize = 0;
-  std::int32_t PointSize = 0;
-  std::int32_t FrameSize = 0;
-};
-
-FrameLayout LayoutOf(const FileState& state) {
-  FrameLayout layout;
-  if (state.DataStoredAsIntegerOrSingle == kStoredAsInteger) layout.ValueSize = kIntegerSize;
-  if (state.DataStoredAsIntegerOrSingle == kStoredAsSingle) layout.ValueSize = kSingleSize;
-  layout.PointSize = kWordsPerPoint * layout.ValueSize;
-  layout.FrameSize = state.Header.PointLabelCount * layout.PointSize +
-                     state.Header.AnalogValuesPerFrame * layout.ValueSize;
-  return layout;
-}
-
 // Where a position lies in the frame data.
 struct FramePlace {
   std::int32_t FrameIndex = 0;     // from 0
@@ -69,12 +53,9 @@ std::int32_t NextFrame(const FileState& state, const FrameLayout& layout, const 
   return ToLong(std::int64_t{position} + layout.FrameSize);
 }
 
-// `secondsPerFrame` is 1 / PointFrameRate, not rounded to a float.
 float FrameTime(const FileState& state, double secondsPerFrame, const FramePlace& place) {
-  return ToSingle(secondsPerFrame * place.FrameIndex + double{state.WalkStartTime});
+  return TimeOfFrame(state, secondsPerFrame, place.FrameIndex);
 }
-
-double SecondsPerFrame(const FileState& state) { return 1.0 / state.Header.PointFrameRate; }
 
 // How far to read ahead when `used` bytes of each frame are wanted.
 std::size_t ReadAheadFor(const FrameLayout& layout, std::int64_t used) {
@@ -84,26 +65,8 @@ std::size_t ReadAheadFor(const FrameLayout& layout, std::int64_t used) {
 
 // Fills the coordinates of `sample` with those that the file stands at.
 void ReadCoordinates(const FileState& state, const FrameLayout& layout, PointSample& sample) {
-  const auto words = state.C3dFileNumber.Read(static_cast<std::size_t>(layout.PointSize));
-  if (layout.ValueSize == kIntegerSize) {
-    const double scale = state.Header.ScaleFactor;
-    const auto coordinate = [&](std::size_t i) {
-      return ToSingle(StoredInteger(words.subspan(i * kIntegerSize).first<kIntegerSize>()) * scale);
-    };
-    sample.X = coordinate(0);
-    sample.Y = coordinate(1);
-    sample.Z = coordinate(2);
-    sample.FourthWord = StoredInteger(words.subspan(3 * kIntegerSize).first<kIntegerSize>());
-  } else if (layout.ValueSize == kSingleSize) {
-    const auto coordinate = [&](std::size_t i) {
-      const auto bits = StoredSingleBits(words.subspan(i * kSingleSize).first<kSingleSize>());
-      return SingleFromBits(bits, state.ProcessorType);
-    };
-    sample.X = coordinate(0);
-    sample.Y = coordinate(1);
-    sample.Z = coordinate(2);
-    sample.FourthWord = coordinate(3);
-  }
+  DecodePoint(state, layout, state.C3dFileNumber.Read(static_cast<std::size_t>(layout.PointSize)),
+              sample);
 }
 
 // Reads samples of points; what all frames share is worked out once.

@@ -5,6 +5,7 @@
 #include <array>
 #include <cmath>
 #include <optional>
+#include <span>
 
 #include "c3d/LabelTables.h"
 #include "c3d/MacSideFiles.h"
@@ -66,6 +67,11 @@ OpenResult DeriveFromHeader(FileState& state) {
         ToSingle(Divide(header.AnalogValuesPerFrame, header.AnalogSamplesPerChannel));
   }
   state.AnalogFrameRate = ToSingle(double{header.PointFrameRate} * header.AnalogSamplesPerChannel);
+  return OpenResult::Success;
+}
+
+OpenResult DeriveFrames(FileState& state) {
+  const C3dHeader& header = state.Header;
   state.SeekPtrForFirstFrameData =
       (UnsignedWord(header.FirstMarkerAndAnalogBlockPointer) - 1) * kBlockSize + 1;
   state.PointFrameCount =
@@ -117,16 +123,124 @@ OpenResult DeriveTimes(FileState& state) {
   return OpenResult::Success;
 }
 
-// The steps of an open in the order in which a fault is reported.
-OpenResult RunSteps(FileState& state) {
-  constexpr std::array kSteps = {OpenForReading,   ReadHeader,     ReadProcessorType,
-                                 DeriveFromHeader, TakeCameraRate, CheckSubjects,
-                                 CheckScaleFactor, ReadLabels,     DeriveTimes};
-  for (const auto step : kSteps) {
+using OpenStep = OpenResult (*)(FileState&);
+
+// The steps of an open in the order in which a fault is reported: those that make out the file, and
+// those that take what it says.
+constexpr std::array<OpenStep, 3> kFirstSteps = {OpenForReading, ReadHeader, ReadProcessorType};
+constexpr std::array<OpenStep, 7> kFurtherSteps = {
+    DeriveFromHeader, DeriveFrames, TakeCameraRate, CheckSubjects,
+    CheckScaleFactor, ReadLabels,   DeriveTimes};
+
+OpenResult RunSteps(FileState& state, std::span<const OpenStep> steps) {
+  for (const auto step : steps) {
     const OpenResult result = step(state);
     if (result != OpenResult::Success) return result;
   }
   return OpenResult::Success;
+}
+
+// Names the files of an open and closes those of the one before.
+OpenResult TakeFileSpecs(FileState& state, const std::string& fileSpec) {
+  SideFileSpecs sideFiles;
+  if constexpr (giTypeOfMotionSystem == MotionSystem::Mac) {
+    sideFiles = SideFilesOf(fileSpec);
+    if (!FileExists(sideFiles.Evt) || !FileExists(sideFiles.Data)) {
+      CloseC3dFile(state);
+      return OpenResult::SideFilesMissing;
+    }
+  }
+  CloseC3dFile(state);
+  state.OpenC3dFileSpec = fileSpec;
+  state.EvtFileSpec = sideFiles.Evt;
+  state.DataFileSpec = sideFiles.Data;
+  return OpenResult::Success;
+}
+
+// Runs the steps of an open behind a fault too and keeps the first one.
+class Examination {
+ public:
+  explicit Examination(FileState& state) : state_(state) {}
+
+  // False where the step found a fault or ended in an error.
+  template <typename Step>
+  bool Try(const Step& step) {
+    OpenOutcome met;
+    try {
+      met.Result = step(state_);
+    } catch (const modAllPurpose::RuntimeError& error) {
+      met.Error = error;
+    }
+    if (outcome_.IsSuccess()) outcome_ = met;
+    return met.IsSuccess();
+  }
+
+  const OpenOutcome& Outcome() const { return outcome_; }
+
+ private:
+  FileState& state_;
+  OpenOutcome outcome_;
+};
+
+// The group that every C3D file has.
+bool HasPointGroup(const FileState& state) {
+  bool found = false;
+  IgnoringErrors([&] { found = FindGroup(state, "POINT").Id > 0; });
+  return found;
+}
+
+bool IsPlausibleRate(float rate) {
+  constexpr float kHighestRate = 100000;
+  return rate >= 1.0F && rate < kHighestRate;
+}
+
+// Whether the file can be read on though its key or its processor is wrong: its parameters are
+// there, and where the processor is not known, the header's rate tells it.
+bool MakeOut(FileState& state) {
+  constexpr std::uint8_t kProcessorMips = 86;
+  const std::uint8_t stored = state.ProcessorType;
+  if (stored == 0 && ReadParamBlockHeader(state).ProcessorType == kProcessorMips) return false;
+  state.SeekPtrForFirstC3dParam = state.C3dFileNumber.Position();
+  for (const std::uint8_t processor : {kProcessorIntel, kProcessorDec}) {
+    if (stored != 0 && stored != processor) continue;
+    float rate = state.Header.PointFrameRate;
+    ConvertDecFloatInPlace(rate, processor);
+    state.ProcessorType = processor;
+    if ((stored != 0 || IsPlausibleRate(rate)) && HasPointGroup(state)) return true;
+  }
+  state.ProcessorType = 0;
+  return false;
+}
+
+// Takes how the frames are stored from the sign of either scale factor.
+void GuessStorage(FileState& state) {
+  float scale = state.Header.ScaleFactor;
+  if (scale == 0.0F || std::isnan(scale)) {
+    IgnoringErrors([&] {
+      const GroupAndParam param = FindGroupAndParam(state, "POINT", "SCALE");
+      scale = param.Param.SingleValues.First().value_or(scale);
+    });
+  }
+  state.DataStoredAsIntegerOrSingle = scale < 0 ? kStoredAsSingle : kStoredAsInteger;
+  state.Header.ScaleFactor = std::fabs(scale);
+}
+
+// The steps behind those that made out the file. What cannot be known stays 0.
+void TakeWhatIsThere(FileState& state, Examination& examination, const EventSteps& findEvents) {
+  const C3dHeader& header = state.Header;
+  examination.Try(DeriveFromHeader);
+  if (!examination.Try(DeriveFrames)) state.PointFrameCount = 0;
+  const float ownRate = header.PointFrameRate;
+  if (!examination.Try(TakeCameraRate)) state.Header.PointFrameRate = ownRate;
+  examination.Try(CheckSubjects);
+  if (!examination.Try(CheckScaleFactor)) GuessStorage(state);
+  examination.Try(ReadLabels);
+  const bool hasTimes = header.PointFrameRate >= 1.0F && state.PointFrameCount > 0;
+  if (!hasTimes || !examination.Try(DeriveTimes)) return;
+  examination.Try([&findEvents](FileState& trial) {
+    findEvents(trial);
+    return OpenResult::Success;
+  });
 }
 
 }  // namespace
@@ -163,21 +277,11 @@ std::string_view OpenFailureMessage(OpenResult result) {
 
 OpenResult OpenC3dFile(FileState& state, const std::string& fileSpec,
                        const EventSteps& findEvents) {
-  SideFileSpecs sideFiles;
-  if constexpr (giTypeOfMotionSystem == MotionSystem::Mac) {
-    sideFiles = SideFilesOf(fileSpec);
-    if (!FileExists(sideFiles.Evt) || !FileExists(sideFiles.Data)) {
-      CloseC3dFile(state);
-      return OpenResult::SideFilesMissing;
-    }
-  }
-  CloseC3dFile(state);
-  state.OpenC3dFileSpec = fileSpec;
-  state.EvtFileSpec = sideFiles.Evt;
-  state.DataFileSpec = sideFiles.Data;
+  if (TakeFileSpecs(state, fileSpec) != OpenResult::Success) return OpenResult::SideFilesMissing;
   try {
     const BinaryFile::Look look(state.C3dFileNumber);
-    const OpenResult result = RunSteps(state);
+    OpenResult result = RunSteps(state, kFirstSteps);
+    if (result == OpenResult::Success) result = RunSteps(state, kFurtherSteps);
     if (result != OpenResult::Success) {
       CloseC3dFile(state);
       return result;
@@ -188,6 +292,24 @@ OpenResult OpenC3dFile(FileState& state, const std::string& fileSpec,
     CloseC3dFile(state);
     throw;
   }
+}
+
+OpenOutcome ExamineC3dFile(FileState& state, const std::string& fileSpec,
+                           const EventSteps& findEvents) {
+  if (TakeFileSpecs(state, fileSpec) != OpenResult::Success) {
+    return {OpenResult::SideFilesMissing, {}};
+  }
+  const BinaryFile::Look look(state.C3dFileNumber);
+  Examination examination(state);
+  bool madeOut = examination.Try(OpenForReading);
+  if (!madeOut) return examination.Outcome();
+  for (const OpenStep step : {ReadHeader, ReadProcessorType}) {
+    madeOut &= examination.Try(step);
+    if (examination.Outcome().Error) return examination.Outcome();
+  }
+  if (!madeOut) IgnoringErrors([&] { madeOut = MakeOut(state); });
+  if (madeOut) TakeWhatIsThere(state, examination, findEvents);
+  return examination.Outcome();
 }
 
 }  // namespace modVantrel

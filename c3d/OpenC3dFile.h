@@ -3,10 +3,12 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "c3d/FileState.h"
+#include "support/RuntimeError.h"
 
 namespace modVantrel {
 
@@ -38,5 +40,20 @@ using EventSteps = std::function<void(FileState&)>;
 // code (a 16-bit overflow of the frame count, a chain that leaves the file) are run-time errors;
 // they close the file too.
 OpenResult OpenC3dFile(FileState& state, const std::string& fileSpec, const EventSteps& findEvents);
+
+// What an open ends in: success, a result code, or a run-time error.
+struct OpenOutcome {
+  OpenResult Result = OpenResult::Success;
+  std::optional<modAllPurpose::RuntimeError> Error;
+
+  bool IsSuccess() const { return Result == OpenResult::Success && !Error; }
+};
+
+// Fills a fresh `state` like OpenC3dFile, but goes on behind a fault with all that the file still
+// tells, and leaves the file open. Comes back with what OpenC3dFile would have ended in. A
+// ProcessorType of 0 says that nothing behind the header could be made out, a TimeBetweenFrames of
+// 0 that the times and so the events are not known.
+OpenOutcome ExamineC3dFile(FileState& state, const std::string& fileSpec,
+                           const EventSteps& findEvents);
 
 }  // namespace modVantrel

@@ -3,7 +3,6 @@
 #include "c3d/ParamRecord.h"
 
 #include <algorithm>
-#include <span>
 
 #include "support/RuntimeError.h"
 #include "support/Text.h"
@@ -45,8 +44,7 @@ std::string TextArray::At(const ElementIndices& indices) const {
 }
 
 std::string TextArray::InFileOrder(std::size_t offset) const {
-  std::string text =
-      modAllPurpose::FromWindows1252(std::span(characters_).subspan(offset * length_, length_));
+  std::string text = modAllPurpose::FromWindows1252(BytesInFileOrder(offset));
   modAllPurpose::TrimInPlace(text);
   return text;
 }

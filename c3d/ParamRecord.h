@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <utility>
 #include <vector>
@@ -52,6 +53,10 @@ class ValueArray {
 
   Number At(const ElementIndices& indices) const { return values_[shape_.Offset(indices)]; }
 
+  bool Holds(const ElementIndices& indices) const {
+    return !values_.empty() && shape_.Holds(indices);
+  }
+
   // The first element; nothing where the array holds none, as in a parameter that was not found or
   // that is of another type.
   std::optional<Number> First() const {
@@ -85,6 +90,10 @@ class TextArray {
   std::size_t Count() const { return length_ == 0 ? 0 : characters_.size() / length_; }
   // The element at `offset`, from 0 in file order, which must be below Count().
   std::string InFileOrder(std::size_t offset) const;
+  // The same as the file has it.
+  std::span<const std::byte> BytesInFileOrder(std::size_t offset) const {
+    return std::span(characters_).subspan(offset * length_, length_);
+  }
 
  private:
   ArrayShape shape_;

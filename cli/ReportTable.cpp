@@ -98,7 +98,7 @@ constexpr std::array kTrialReports = {
 // A report of the list that is made of one trial has its functions above, and a table there where
 // it has columns.
 constexpr bool IsListed(const reports::ReportInfo& info) {
-  if (info.Pools) return true;
+  if (info.Pools || info.ReadsAnyFile) return true;
   const auto* found = std::ranges::find(kTrialReports, info.Name, &TrialReport::Name);
   return found != kTrialReports.end() && (found->Rows != nullptr) == !info.Columns.empty();
 }

@@ -13,6 +13,7 @@
 #include "c3d/FileState.h"
 #include "cli/OpenTrial.h"
 #include "cli/ReportTable.h"
+#include "cli/RunChecks.h"
 #include "cli/RunPooled.h"
 #include "cli/RunTables.h"
 #include "cli/StandardOutput.h"
@@ -112,7 +113,9 @@ int RunReports(Request request, const Streams& streams) {
   int status = kAllWell;
   request.Files = FilesToRead(request.Files, streams, status);
   try {
-    if (reports::FindReport(request.Report)->Pools) {
+    if (reports::FindReport(request.Report)->ReadsAnyFile) {
+      RunChecks(request, request.Files, streams, status);
+    } else if (reports::FindReport(request.Report)->Pools) {
       RunPooled(request, request.Files, streams, status);
     } else if (request.Format == OutputFormat::Text) {
       RunTexts(request, streams, status);

@@ -86,7 +86,7 @@ void clsGcdCalcs::CalcLengths(const StrideRecord& stride, SingleValueMeasures& m
   const float strideX = Distance(SplineValueAt(stride.StopStrikeTime, sameX), startX);
   measures.StrideLength = CalibratedLength(strideX, strideY);
   measures.StepLength = CalibratedLength(stepX, stepY);
-  measures.ProgressionAxis = strideY <= strideX ? WalkAxis::X : WalkAxis::Y;
+  measures.ProgressionAxis = AxisOfStride(strideX, strideY);
   measures.Speed = ToSingle(Divide(measures.StrideLength, measures.StrideTime));
 }
 

@@ -14,6 +14,11 @@ namespace modVantrel {
 // The axis along which a stride goes on; none where there are no toe markers to tell.
 enum class WalkAxis : std::int32_t { None = 0, X = 1, Y = 2 };
 
+// The axis of a stride that covers those two distances.
+inline WalkAxis AxisOfStride(float alongX, float alongY) {
+  return alongY <= alongX ? WalkAxis::X : WalkAxis::Y;
+}
+
 // The measures of one stride. All 0 before they are worked out.
 struct SingleValueMeasures {
   WalkAxis ProgressionAxis = WalkAxis::None;

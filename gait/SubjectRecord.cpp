@@ -26,16 +26,24 @@ constexpr std::array kVisitParams = {"DATE", "VISIT_DATE", "TRIAL_DATE"};
 
 constexpr double kDaysPerYear = 365.0;
 
-// Calls `take` with the text of each parameter of those names, group by group, until it answers
-// true.
-template <typename Take>
-void TryParams(const FileState& state, std::span<const char* const> names, Take take) {
+// Calls `take` with the text of each parameter of those names and the names of group and parameter,
+// group by group, until it answers true. `find` is given both names.
+template <typename Find, typename Take>
+void TryParamsBy(const Find& find, std::span<const char* const> names, Take take) {
   for (const char* group : kGroups) {
     for (const char* name : names) {
-      const auto text = FindGroupAndParam(state, group, name).Param.TextValues.First();
-      if (text && take(StripAtNul(*text))) return;
+      const std::optional<std::string> text = find(group, name);
+      if (text && take(StripAtNul(*text), group, name)) return;
     }
   }
+}
+
+template <typename Take>
+void TryParams(const FileState& state, std::span<const char* const> names, Take take) {
+  const auto find = [&state](const char* group, const char* name) {
+    return FindGroupAndParam(state, group, name).Param.TextValues.First();
+  };
+  TryParamsBy(find, names, [&](std::string_view text, auto...) { return take(text); });
 }
 
 Date FindDate(const FileState& state, const std::string& option,
@@ -60,6 +68,37 @@ std::string FindGender(const FileState& state, const std::string& option,
   return gender.empty() ? std::string(iniValue) : gender;
 }
 
+// The texts of a kind that are given, dates or not.
+std::vector<GivenDate> DatesGiven(const ParamCatalog& params, std::span<const char* const> names,
+                                  std::string_view iniValue) {
+  std::vector<GivenDate> dates;
+  const auto find = [&params](const char* group, const char* name) {
+    return params.Param(group, name).TextValues.First();
+  };
+  TryParamsBy(find, names, [&](std::string_view text, const char* group, const char* name) {
+    if (Trimmed(text).empty()) return false;
+    dates.push_back(
+        {std::string(group) + ':' + name, std::string(Trimmed(text)), ParseIsoDate(text)});
+    return false;
+  });
+  if (!iniValue.empty()) {
+    dates.push_back({"subject.ini", std::string(iniValue), ParseIsoDate(iniValue)});
+  }
+  return dates;
+}
+
+std::string GenderGiven(const ParamCatalog& params, std::string_view iniValue) {
+  std::string gender;
+  const auto find = [&params](const char* group, const char* name) {
+    return params.Param(group, name).TextValues.First();
+  };
+  TryParamsBy(find, kGenderParams, [&gender](std::string_view text, auto...) {
+    gender = Trimmed(text);
+    return !gender.empty();
+  });
+  return gender.empty() ? std::string(iniValue) : gender;
+}
+
 // The number that `digits` write; nothing where anything but digits stands there.
 std::optional<int> DigitsOnly(std::string_view digits) {
   int number = 0;
@@ -77,6 +116,13 @@ SubjectRecord FindSubject(const FileState& state, const SubjectOptions& options)
   return {FindGender(state, options.Gender, IniValue(file, "GENDER")),
           FindDate(state, options.DateOfBirth, kBirthParams, IniValue(file, "DOB")),
           FindDate(state, options.VisitDate, kVisitParams, IniValue(file, "DATE"))};
+}
+
+SubjectSources FindSubjectSources(const std::string& trial, const ParamCatalog& params) {
+  const std::string file = ReadSubjectFile(trial);
+  return {GenderGiven(params, IniValue(file, "GENDER")),
+          DatesGiven(params, kBirthParams, IniValue(file, "DOB")),
+          DatesGiven(params, kVisitParams, IniValue(file, "DATE"))};
 }
 
 Date ParseIsoDate(std::string_view text) {

@@ -5,8 +5,10 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "c3d/FileState.h"
+#include "c3d/ParamCatalog.h"
 
 namespace modVantrel {
 
@@ -29,6 +31,24 @@ struct SubjectOptions {
 // "subject.ini" in the trial's folder. Nothing is guessed. Errors while reading parameters are
 // passed on.
 SubjectRecord FindSubject(const FileState& state, const SubjectOptions& options);
+
+// A date of the subject as it is given.
+struct GivenDate {
+  std::string Place;  // "SUBJECTS:DOB", or "subject.ini"
+  std::string Text;
+  std::optional<std::chrono::year_month_day> Date;  // none where the text is no date
+};
+
+// What the trial itself and the file "subject.ini" in its folder give, whether it can be used or
+// not. Dates stand in the order in which FindSubject looks for them.
+struct SubjectSources {
+  std::string Gender;
+  std::vector<GivenDate> BirthDates;
+  std::vector<GivenDate> VisitDates;
+};
+
+// Errors while reading parameters are passed on.
+SubjectSources FindSubjectSources(const std::string& trial, const ParamCatalog& params);
 
 // The calendar date that `text` writes as YYYY-MM-DD, blanks around it aside.
 std::optional<std::chrono::year_month_day> ParseIsoDate(std::string_view text);

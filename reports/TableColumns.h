@@ -38,5 +38,6 @@ inline constexpr std::array<Name, 6> kVariability = {"side", "label", "component
 inline constexpr std::array<Name, 7> kNorms = {"label", "component", "percent", "mean",
                                                "sd",    "n",         "unit"};
 inline constexpr std::array<Name, 5> kScores = {"side", "variable", "score", "n", "unit"};
+inline constexpr std::array<Name, 5> kCheck = {"file", "severity", "code", "place", "message"};
 
 }  // namespace reports::columns

@@ -3,7 +3,7 @@
 _vantrel_report() {
   local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
   local reports="header parameter-header groups parameters labels point analog events strides
-    measures normalized summary visit variability norms scores gcd tree"
+    measures normalized summary visit variability norms scores check gcd tree"
   local options="--label --all-labels --group --param --format --further-labels --normal --events --output-dir
     --axes --overwrite --gender --date-of-birth --visit-date --help --version"
 

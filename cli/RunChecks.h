@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "cli/Request.h"
+#include "cli/Streams.h"
+
+namespace cli {
+
+// Writes what is unusual in each of `files`, which need not be ones that can be opened, as texts or
+// as one table. A finding that is an error makes `status` kSomeFailed; the error stream is told of
+// output alone that cannot be written. OutputClosed passes.
+void RunChecks(const Request& request, const std::vector<std::string>& files,
+               const Streams& streams, int& status);
+
+}  // namespace cli

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "gait/CheckUnits.h"
+
+#include <fmt/format.h>
+
+#include "gait/CheckText.h"
+#include "gait/Checks.h"
+#include "support/Text.h"
+
+namespace modVantrel {
+
+namespace {
+
+// The unit without blanks and zero bytes at its end, in upper case.
+std::string UnitKey(std::string_view unit) {
+  return modAllPurpose::SearchKey(unit.substr(0, unit.find_last_not_of('\0') + 1));
+}
+
+bool IsMomentUnit(std::string unit) {
+  std::erase(unit, ' ');
+  std::string_view force = unit;
+  if (force.ends_with("/KG")) force.remove_suffix(std::string_view("/KG").size());
+  return force == "NMM" || force == "N.MM";
+}
+
+// A point that the file lists as a moment; empty where there is none.
+std::string AnyMoment(const CheckedTrial& trial) {
+  for (const std::string& label : trial.State.PointLabels) {
+    if (!label.empty() && trial.Kinds->KindOf(label) == PointKind::Moment) return label;
+  }
+  return {};
+}
+
+void CheckMomentUnits(const CheckedTrial& trial, Findings& findings) {
+  const std::string moment = AnyMoment(trial);
+  if (moment.empty()) return;
+  const std::string& unit = trial.Kinds->UnitOf(moment);
+  const std::string key = UnitKey(unit);
+  if (key.empty() || IsMomentUnit(key)) return;
+  findings.Add("moment-units", "POINT:MOMENT_UNITS",
+               fmt::format("Moments are in {}, but GCD files are made as if they were in Nmm, one "
+                           "thousandth of each value: theirs come out wrong.",
+                           Shown(unit)));
+}
+
+}  // namespace
+
+std::optional<double> MetresPerUnit(const CheckedTrial& trial) {
+  const auto unit = trial.Param("POINT", "UNITS").TextValues.First();
+  if (!unit) return std::nullopt;
+  const std::string key = UnitKey(*unit);
+  if (key == "MM") return 0.001;
+  if (key == "CM") return 0.01;
+  if (key == "M") return 1.0;
+  return std::nullopt;
+}
+
+void CheckUnits(const CheckedTrial& trial, Findings& findings) {
+  CheckMomentUnits(trial, findings);
+  if (MetresPerUnit(trial)) return;
+  const auto unit = trial.Param("POINT", "UNITS").TextValues.First();
+  const std::string found =
+      unit && !UnitKey(*unit).empty()
+          ? fmt::format("POINT:UNITS is \"{}\" and neither mm, cm nor m", Shown(*unit))
+          : "POINT:UNITS does not say in which unit positions are";
+  findings.Add("units", "POINT:UNITS",
+               fmt::format("{}: lengths and speeds are worked out as if it were mm.", found));
+}
+
+}  // namespace modVantrel
