@@ -5,6 +5,7 @@
 #include <bit>
 #include <utility>
 
+#include "gait/StrideEvents.h"
 #include "support/Arithmetic.h"
 
 namespace modVantrel {
@@ -72,13 +73,7 @@ void FillValidStrides(FileState& state) {
 
 void FillStrideEvents(GaitEventState& gait) {
   for (const StrideRecord& stride : gait.ValidStrides) {
-    const GaitSide same = stride.Side;
-    const GaitSide opposite = OppositeSide(same);
-    gait.StrideEvents.Append({same, GaitEventType::FootStrike, stride.StartStrikeTime});
-    gait.StrideEvents.Append({opposite, GaitEventType::FootOff, stride.OppositeFootOffTime});
-    gait.StrideEvents.Append({opposite, GaitEventType::FootStrike, stride.OppositeFootStrikeTime});
-    gait.StrideEvents.Append({same, GaitEventType::FootOff, stride.SameFootOffTime});
-    gait.StrideEvents.Append({same, GaitEventType::FootStrike, stride.StopStrikeTime});
+    for (const EventRecord& event : EventsOf(stride)) gait.StrideEvents.Append(event);
   }
   RemoveRepeatedEvents(gait.StrideEvents);
   gait.StrideEventCount = gait.StrideEvents.Count();

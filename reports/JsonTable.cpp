@@ -62,30 +62,21 @@ void JsonTable::Number(std::int64_t number) {
   writer_->Row().Int64(number);
 }
 
-void JsonTable::RawNumber() {
-  writer_->Row().RawValue(number_.data(), number_.size(), rapidjson::kNumberType);
+template <typename Float>
+void JsonTable::FloatNumber(Float number) {
+  if (!std::isfinite(number)) {
+    Missing();
+    return;
+  }
+  Name();
   number_.clear();
+  AppendShortest(number_, number);
+  writer_->Row().RawValue(number_.data(), number_.size(), rapidjson::kNumberType);
 }
 
-void JsonTable::Number(float number) {
-  Name();
-  if (!std::isfinite(number)) {
-    writer_->Row().Null();
-    return;
-  }
-  AppendShortest(number_, number);
-  RawNumber();
-}
+void JsonTable::Number(float number) { FloatNumber(number); }
 
-void JsonTable::Number(double number) {
-  Name();
-  if (!std::isfinite(number)) {
-    writer_->Row().Null();
-    return;
-  }
-  AppendShortest(number_, number);
-  RawNumber();
-}
+void JsonTable::Number(double number) { FloatNumber(number); }
 
 void JsonTable::Missing() {
   Name();

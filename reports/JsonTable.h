@@ -37,7 +37,8 @@ class JsonTable : public TableOutput {
   class Writer;
 
   void Name();
-  void RawNumber();
+  template <typename Float>
+  void FloatNumber(Float number);
 
   modAllPurpose::ReportOutput& output_;
   std::unique_ptr<Writer> writer_;

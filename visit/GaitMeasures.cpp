@@ -10,6 +10,7 @@
 #include "c3d/FrameData.h"
 #include "c3d/ParameterSection.h"
 #include "gait/GcdCalcs.h"
+#include "gait/StrideEvents.h"
 #include "support/Arithmetic.h"
 #include "support/RuntimeError.h"
 #include "support/Text.h"
@@ -102,7 +103,8 @@ class MeasuresOfTrial {
  private:
   // Missing where the marker is not seen.
   std::optional<FloorVector> PlaceAt(std::int32_t toe, float time) {
-    if (!calcs_.SamplesOfPoint(toe)[NearestFrame(state_, time)].IsSeen()) return std::nullopt;
+    if (!calcs_.SamplesOfPoint(toe)[modVantrel::FrameNearestTo(state_, time)].IsSeen())
+      return std::nullopt;
     const double x = SplineValueAt(time, calcs_.SplineOfPoint(toe, Component::X));
     const double y = SplineValueAt(time, calcs_.SplineOfPoint(toe, Component::Y));
     return FloorVector{x * metres_, y * metres_};

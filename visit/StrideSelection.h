@@ -11,11 +11,6 @@
 // Which strides and curves of a trial enter its means.
 namespace visit {
 
-// The index, from 1, of the frame nearest to `time` (seconds of the trial); of two equally near
-// ones the later. A time outside the trial gives its first or last frame. Errors 6 and 11 where the
-// time between frames gives no number of frames.
-std::int32_t NearestFrame(const modVantrel::FileState& state, float time);
-
 // False where an event of the stride lay more than half a frame outside the trial and was moved to
 // its edge: the stride's times then are not those of the walk.
 bool IsComplete(const modVantrel::FileState& state, const modVantrel::StrideRecord& stride);
@@ -24,7 +19,7 @@ bool IsComplete(const modVantrel::FileState& state, const modVantrel::StrideReco
 std::vector<std::int32_t> CompleteStrides(const modVantrel::FileState& state);
 
 // Whether a point of these samples is seen in every frame of the stride, from the one nearest to
-// its first strike to the one nearest to its closing strike. Errors as NearestFrame.
+// its first strike to the one nearest to its closing strike. Errors as FrameNearestTo.
 bool IsSeenThrough(const modVantrel::FileState& state, const modVantrel::PointSamples& samples,
                    const modVantrel::StrideRecord& stride);
 
