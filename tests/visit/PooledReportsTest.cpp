@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <memory>
@@ -167,6 +168,22 @@ TEST(PooledReports, TrialThatFailsLeavesNothingBehind) {
     AddTo(*report, Walk(31));
     EXPECT_NE(CsvOf(columns, *report), before) << "a good one behind it counts";
   }
+}
+
+TEST(PooledReports, NormsForgetTheCurvesOfATrialWhoseToesFail) {
+  // The knee stands in front of the toes, so the cut leaves its curves whole.
+  sample::TrialBuilder builder = TrialOfOneStride("Left");
+  builder.AddPoint("LKneeAngles", Standing(30, 0, 0))
+      .AddPoint("RTOE", Standing(900, 120, 0))
+      .AddPoint("LTOE", Moving({0, 0, 0}, {24, 0, 0}));
+  OpenedWalk walk = Opened(builder);
+  const auto report = reports::MakeNormsReport(Asking({"KneeAngles"}));
+  const std::string before = CsvOf(reports::kNormsColumns, *report);
+  const auto frameData = static_cast<std::uintmax_t>(walk.State().SeekPtrForFirstFrameData - 1);
+  constexpr std::uintmax_t kFrameSize = 3 * 4 * 4;
+  std::filesystem::resize_file(walk.File(), frameData + 81 * kFrameSize - 10);
+  EXPECT_EQ(tests::ErrorNumberOf([&] { report->Add(walk.State()); }), tests::kInputPastEndOfFile);
+  EXPECT_EQ(CsvOf(reports::kNormsColumns, *report), before);
 }
 
 TEST(VariabilityReport, RowsOfTheLabelsAskedFor) {
