@@ -44,7 +44,8 @@ Component ComponentIn(const CsvRecord& record) {
   if (key == "X") return Component::X;
   if (key == "Y") return Component::Y;
   if (key == "Z") return Component::Z;
-  throw NormalFault{record.Line, fmt::format("the component is x, y or z, not {}", Quoted(key))};
+  throw NormalFault{record.Line, fmt::format("the component is x, y or z, not {}",
+                                             Quoted(record.Fields[kComponent]))};
 }
 
 std::size_t InstantIn(const CsvRecord& record) {
@@ -75,18 +76,19 @@ class Reader {
   }
 
   Normals WhenComplete() {
-    for (const auto& [name, curve] : curves_) {
+    for (const auto& [key, curve] : curves_) {
       if (curve.Instants.all()) continue;
       std::size_t missing = 0;
       while (curve.Instants[missing]) ++missing;
       throw NormalFault{curve.LastLine, fmt::format("{} has no row for {} %, this is its last",
-                                                    name, PercentOf(missing))};
+                                                    curve.Name, PercentOf(missing))};
     }
     return std::move(normals_);
   }
 
  private:
   struct Filled {
+    std::string Name;  // as its last row spells it
     std::bitset<kInstants> Instants;
     std::int64_t LastLine = 0;
   };
@@ -104,14 +106,14 @@ class Reader {
     const std::string& label = record.Fields[kLabel];
     const Component component = ComponentIn(record);
     const std::size_t i = InstantIn(record);
-    const std::string name = fmt::format("{}.{}", modAllPurpose::SearchKey(label),
-                                         modAllPurpose::SearchKey(record.Fields[kComponent]));
-    Filled& filled = curves_[name];
+    const std::string name = fmt::format("{}.{}", label, record.Fields[kComponent]);
+    Filled& filled = curves_[modAllPurpose::SearchKey(name)];
     if (filled.Instants[i]) {
       throw NormalFault{record.Line,
                         fmt::format("{} stands here a second time for {} %", name, PercentOf(i))};
     }
     filled.Instants.set(i);
+    filled.Name = name;
     filled.LastLine = record.Line;
     NormalCurve& curve = normals_.CurveAt(label, component);
     curve.Mean[i] = NumberIn(record, kMean).value_or(kMissing);

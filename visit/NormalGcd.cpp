@@ -3,6 +3,7 @@
 #include "visit/NormalGcd.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <optional>
 #include <set>
@@ -98,16 +99,22 @@ class Reader {
 
   void TakeInstant(std::string_view line) {
     const std::size_t gap = std::min(line.find_first_of(kWhite), line.size());
-    const auto mean = PlainNumber(line.substr(0, gap));
-    const auto deviation = PlainNumber(TrimmedOfWhite(line.substr(gap)));
+    const auto mean = Scaled(PlainNumber(line.substr(0, gap)));
+    const auto deviation = Scaled(PlainNumber(TrimmedOfWhite(line.substr(gap))));
     if (!mean || !deviation) {
       Refuse(fmt::format("a mean and a deviation of {} should stand here", name_));
     }
     if (instants_ == kInstants) Refuse(fmt::format("{} has more than {} values", name_, kInstants));
-    const double scale = variable_->Row->Scale == 1 ? 1.0 : kNmmPerNm;
-    curve_.Mean[instants_] = *mean * scale;
-    curve_.Deviation[instants_] = *deviation * scale;
+    curve_.Mean[instants_] = *mean;
+    curve_.Deviation[instants_] = *deviation;
     ++instants_;
+  }
+
+  // A value in the unit of trials; none where that would be infinite.
+  std::optional<double> Scaled(std::optional<double> value) const {
+    if (value && variable_->Row->Scale != 1) *value *= kNmmPerNm;
+    if (value && !std::isfinite(*value)) return std::nullopt;
+    return value;
   }
 
   void Keep(const GcdCurveSpec& row) {
