@@ -16,6 +16,7 @@
 #include "reports/NormsReport.h"
 #include "reports/ScoresReport.h"
 #include "reports/SummaryReport.h"
+#include "reports/TableColumns.h"
 #include "reports/VariabilityReport.h"
 #include "reports/VisitReport.h"
 #include "tests/visit/VisitWalks.h"
@@ -87,7 +88,7 @@ sample::TrialBuilder IncompleteWalk() {
 
 TEST(SummaryReport, HasARowForEachMeasure) {
   OpenedWalk walk = Opened(Walk());
-  const std::string csv = CsvOf(reports::kSummaryColumns, [&](reports::TableOutput& table) {
+  const std::string csv = CsvOf(reports::columns::kSummary, [&](reports::TableOutput& table) {
     reports::SummaryRows(walk.State(), "a.c3d", table);
   });
   const auto lines = tests::LinesOf(csv);
@@ -101,7 +102,7 @@ TEST(SummaryReport, HasARowForEachMeasure) {
 TEST(SummaryReport, TrialWithoutCompleteStridesHasAllRowsWithoutNumbers) {
   for (const auto& builder : {sample::TrialBuilder(), IncompleteWalk()}) {
     OpenedWalk walk = Opened(builder);
-    const std::string csv = CsvOf(reports::kSummaryColumns, [&](reports::TableOutput& table) {
+    const std::string csv = CsvOf(reports::columns::kSummary, [&](reports::TableOutput& table) {
       reports::SummaryRows(walk.State(), "a.c3d", table);
     });
     const auto lines = tests::LinesOf(csv);
@@ -127,7 +128,7 @@ TEST(VisitReport, PoolsTheStridesOfAllTrials) {
   EXPECT_THAT(AddTo(*report, Walk()), IsEmpty());
   EXPECT_THAT(AddTo(*report, Walk(30, "Right")), IsEmpty());
   EXPECT_THAT(AddTo(*report, IncompleteWalk()), IsEmpty());
-  const auto lines = tests::LinesOf(CsvOf(reports::kVisitColumns, *report));
+  const auto lines = tests::LinesOf(CsvOf(reports::columns::kVisit, *report));
   ASSERT_EQ(lines.size(), 13U);
   EXPECT_EQ(lines[0],
             "measure,unit,left_mean,left_sd,left_n,right_mean,right_sd,right_n,asymmetry");
@@ -137,7 +138,7 @@ TEST(VisitReport, PoolsTheStridesOfAllTrials) {
 
 TEST(VisitReport, WithoutATrialHasAllRows) {
   const auto report = reports::MakeVisitReport({});
-  EXPECT_EQ(tests::LinesOf(CsvOf(reports::kVisitColumns, *report)).size(), 13U);
+  EXPECT_EQ(tests::LinesOf(CsvOf(reports::columns::kVisit, *report)).size(), 13U);
 }
 
 // Adds a trial whose frames end before the last one, which `report` must answer with an error and
@@ -156,10 +157,10 @@ TEST(PooledReports, TrialThatFailsLeavesNothingBehind) {
     std::span<const std::string_view> Columns;
   };
   std::vector<Case> cases;
-  cases.push_back({reports::MakeVisitReport({}), reports::kVisitColumns});
-  cases.push_back({reports::MakeVariabilityReport({}), reports::kVariabilityColumns});
-  cases.push_back({reports::MakeNormsReport({}), reports::kNormsColumns});
-  cases.push_back({reports::MakeScoresReport({}, {}), reports::kScoresColumns});
+  cases.push_back({reports::MakeVisitReport({}), reports::columns::kVisit});
+  cases.push_back({reports::MakeVariabilityReport({}), reports::columns::kVariability});
+  cases.push_back({reports::MakeNormsReport({}), reports::columns::kNorms});
+  cases.push_back({reports::MakeScoresReport({}, {}), reports::columns::kScores});
   for (const auto& [report, columns] : cases) {
     AddTo(*report, Walk());
     const std::string before = CsvOf(columns, *report);
@@ -178,12 +179,12 @@ TEST(PooledReports, NormsForgetTheCurvesOfATrialWhoseToesFail) {
       .AddPoint("LTOE", Moving({0, 0, 0}, {24, 0, 0}));
   OpenedWalk walk = Opened(builder);
   const auto report = reports::MakeNormsReport(Asking({"KneeAngles"}));
-  const std::string before = CsvOf(reports::kNormsColumns, *report);
+  const std::string before = CsvOf(reports::columns::kNorms, *report);
   const auto frameData = static_cast<std::uintmax_t>(walk.State().SeekPtrForFirstFrameData - 1);
   constexpr std::uintmax_t kFrameSize = 3 * 4 * 4;
   std::filesystem::resize_file(walk.File(), frameData + 81 * kFrameSize - 10);
   EXPECT_EQ(tests::ErrorNumberOf([&] { report->Add(walk.State()); }), tests::kInputPastEndOfFile);
-  EXPECT_EQ(CsvOf(reports::kNormsColumns, *report), before);
+  EXPECT_EQ(CsvOf(reports::columns::kNorms, *report), before);
 }
 
 TEST(VariabilityReport, RowsOfTheLabelsAskedFor) {
@@ -192,7 +193,7 @@ TEST(VariabilityReport, RowsOfTheLabelsAskedFor) {
   AddTo(*report, Walk(32));
   AddTo(*report, Walk(34));
   AddTo(*report, IncompleteWalk());
-  EXPECT_EQ(CsvOf(reports::kVariabilityColumns, *report),
+  EXPECT_EQ(CsvOf(reports::columns::kVariability, *report),
             "side,label,component,n,sd,unit\n"
             "Left,LKneeAngles,x,3,2,deg\n"
             "Left,LKneeAngles,y,3,0,deg\n"
@@ -212,7 +213,7 @@ TEST(VariabilityReport, LabelThatATrialLacksIsComplainedOf) {
 TEST(VariabilityReport, AllLabelsAreTakenWhereNoneIsAskedFor) {
   const auto report = reports::MakeVariabilityReport({});
   AddTo(*report, Walk());
-  EXPECT_EQ(tests::LinesOf(CsvOf(reports::kVariabilityColumns, *report)).size(), 1U + 2 * 3)
+  EXPECT_EQ(tests::LinesOf(CsvOf(reports::columns::kVariability, *report)).size(), 1U + 2 * 3)
       << "LTOE and LKneeAngles: RTOE has no right stride";
 }
 
@@ -220,7 +221,7 @@ TEST(NormsReport, LabelsAreGivenWithoutTheirLetter) {
   const auto report = reports::MakeNormsReport(Asking({"kneeangles", "HipAngles"}));
   EXPECT_THAT(AddTo(*report, Walk(30)), ElementsAre("point label not found: HipAngles"));
   EXPECT_THAT(AddTo(*report, Walk(34, "Right")), ElementsAre("point label not found: HipAngles"));
-  const auto lines = tests::LinesOf(CsvOf(reports::kNormsColumns, *report));
+  const auto lines = tests::LinesOf(CsvOf(reports::columns::kNorms, *report));
   ASSERT_EQ(lines.size(), 1U + 3 * 51 + 12);
   EXPECT_EQ(lines[0], "label,component,percent,mean,sd,n,unit");
   EXPECT_EQ(lines[1], "KneeAngles,x,0,32,2.8284271247461903,2,deg");
@@ -244,7 +245,7 @@ TEST(NormsReport, WrittenAsCsvIsReadAsNormals) {
   const auto report = reports::MakeNormsReport({});
   AddTo(*report, Walk(30));
   AddTo(*report, Walk(34));
-  const auto read = visit::NormalsOfText(CsvOf(reports::kNormsColumns, *report));
+  const auto read = visit::NormalsOfText(CsvOf(reports::columns::kNorms, *report));
   ASSERT_TRUE(std::holds_alternative<visit::Normals>(read))
       << std::get<visit::NormalFault>(read).What;
   const auto& normals = std::get<visit::Normals>(read);
@@ -255,7 +256,7 @@ TEST(NormsReport, WrittenAsCsvIsReadAsNormals) {
 TEST(NormsReport, WithoutATrialIsReadAsNormalsToo) {
   const auto report = reports::MakeNormsReport({});
   EXPECT_TRUE(std::holds_alternative<visit::Normals>(
-      visit::NormalsOfText(CsvOf(reports::kNormsColumns, *report))));
+      visit::NormalsOfText(CsvOf(reports::columns::kNorms, *report))));
 }
 
 TEST(ScoresReport, RowsAreTheVariablesOfBothSidesThenTheProfileScores) {
@@ -264,7 +265,7 @@ TEST(ScoresReport, RowsAreTheVariablesOfBothSidesThenTheProfileScores) {
   const auto report = reports::MakeScoresReport({}, normals);
   EXPECT_THAT(AddTo(*report, Walk(30)), IsEmpty());
   EXPECT_THAT(AddTo(*report, Walk(34)), IsEmpty());
-  const auto lines = tests::LinesOf(CsvOf(reports::kScoresColumns, *report));
+  const auto lines = tests::LinesOf(CsvOf(reports::columns::kScores, *report));
   ASSERT_EQ(lines.size(), 1U + 9 + 9 + 3);
   EXPECT_EQ(lines[0], "side,variable,score,n,unit");
   EXPECT_EQ(lines[1], "Left,PelvisAngles.x,,0,deg");
@@ -279,7 +280,7 @@ TEST(ScoresReport, NamesWhatItLacksBehindTheRowsAndTheText) {
   const auto report = reports::MakeScoresReport({}, {});
   AddTo(*report, Walk());
   Complaints behindRows;
-  CsvOf(reports::kScoresColumns,
+  CsvOf(reports::columns::kScores,
         [&](reports::TableOutput& table) { behindRows = report->WriteRows(table); });
   ASSERT_EQ(behindRows.size(), 18U);
   EXPECT_EQ(behindRows[0], "Left PelvisAngles.x: no curve in the trials");

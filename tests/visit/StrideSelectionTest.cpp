@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "gait/StrideEvents.h"
 #include "tests/visit/VisitWalks.h"
 #include "visit/StrideSelection.h"
 
@@ -77,7 +78,7 @@ TEST(StrideSelection, OfSeveralStridesOnlyTheIncompleteOnesAreLeftOut) {
 TEST(StrideSelection, NearestFrameRoundsHalvesUp) {
   OpenedWalk walk = Opened(Frames());
   const auto frame = [&walk](float frames) {
-    return visit::NearestFrame(walk.State(), frames * kFrame);
+    return modVantrel::FrameNearestTo(walk.State(), frames * kFrame);
   };
   EXPECT_EQ(frame(0), 1);
   EXPECT_EQ(frame(16), 17);
@@ -89,14 +90,14 @@ TEST(StrideSelection, NearestFrameRoundsHalvesUp) {
 
 TEST(StrideSelection, NearestFrameIsCountedFromTheFilesFirst) {
   OpenedWalk walk = Opened(Frames(101));
-  EXPECT_EQ(visit::NearestFrame(walk.State(), 100 * kFrame), 1);
-  EXPECT_EQ(visit::NearestFrame(walk.State(), 116 * kFrame), 17);
+  EXPECT_EQ(modVantrel::FrameNearestTo(walk.State(), 100 * kFrame), 1);
+  EXPECT_EQ(modVantrel::FrameNearestTo(walk.State(), 116 * kFrame), 17);
 }
 
 TEST(StrideSelection, TimeOutsideTheTrialGivesItsFirstOrLastFrame) {
   OpenedWalk walk = Opened(Frames());
-  EXPECT_EQ(visit::NearestFrame(walk.State(), -9), 1);
-  EXPECT_EQ(visit::NearestFrame(walk.State(), 9), 81);
+  EXPECT_EQ(modVantrel::FrameNearestTo(walk.State(), -9), 1);
+  EXPECT_EQ(modVantrel::FrameNearestTo(walk.State(), 9), 81);
 }
 
 // Whether a point that is not seen in `frame` alone counts as seen in the stride.
