@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
 # The slow checks, run by hand before a release: a build with Clang, clang-tidy on the sources of this
-# system and on those of Windows, cppcheck, valgrind on the tool, and the line coverage of the core.
+# system and on those of Windows, cppcheck, valgrind on the tool, the line coverage of the core, and the
+# manual with its scripts in R and Python.
 # With an argument, only the check of that name; valgrind takes the trials to be read, the sample
 # walk without any.
-#   tests/checks.sh [clang|tidy|tidy_windows|cppcheck|coverage]
+#   tests/checks.sh [clang|tidy|tidy_windows|cppcheck|coverage|manual]
 #   tests/checks.sh valgrind [FILE.c3d...]
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -99,6 +100,14 @@ coverage() {
     --fail-under-line 95 --print-summary
 }
 
+# The packages of the manual's scripts belong to the system's own Python.
+manual() {
+  cmake --preset release
+  cmake --build --preset release --target vantrel-report sample-walk
+  PATH=/usr/bin:$PATH tests/manual_commands.py --all build/release/vantrel-report \
+    build/release/sample-walk.c3d docs/manual.md
+}
+
 case ${1:-all} in
   clang) clang ;;
   tidy) tidy ;;
@@ -106,6 +115,7 @@ case ${1:-all} in
   cppcheck) cppcheck_all ;;
   valgrind) valgrind_tool "${@:2}" ;;
   coverage) coverage ;;
+  manual) manual ;;
   all)
     clang
     tidy
@@ -113,6 +123,7 @@ case ${1:-all} in
     cppcheck_all
     valgrind_tool
     coverage
+    manual
     ;;
   *)
     echo "there is no check '$1'" >&2
