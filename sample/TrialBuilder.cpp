@@ -57,6 +57,11 @@ TrialBuilder& TrialBuilder::AddPoint(const std::string& label, PointCurve curve)
   return *this;
 }
 
+TrialBuilder& TrialBuilder::NotSeen(std::size_t point, std::int32_t frame) {
+  notSeen_.emplace(point, frame);
+  return *this;
+}
+
 TrialBuilder& TrialBuilder::AddAnalog(const std::string& label, const std::string& description,
                                       AnalogCurve curve) {
   channels_.push_back({label, description, std::move(curve)});
@@ -224,11 +229,11 @@ Trial TrialBuilder::Assemble(const Counts& counts, bool withFrames) const {
 
 void TrialBuilder::WriteFrames(ByteWriter& bytes) const {
   for (std::int32_t frame = 1; frame <= FrameCount(); ++frame) {
-    for (const Point& point : points_) {
-      for (const float coordinate : point.Curve(frame)) {
+    for (std::size_t i = 0; i < points_.size(); ++i) {
+      for (const float coordinate : points_[i].Curve(frame)) {
         WriteValue(bytes, storage_ == Storage::Integer ? coordinate / scale_ : coordinate);
       }
-      WriteValue(bytes, 0);
+      WriteValue(bytes, notSeen_.contains({i + 1, frame}) ? -1.0F : 0.0F);
     }
     for (std::int32_t k = 1; k <= samplesPerFrame_; ++k) {
       for (const Channel& channel : channels_) {

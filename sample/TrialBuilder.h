@@ -2,9 +2,12 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "c3d/C3dFormat.h"
@@ -42,6 +45,9 @@ class TrialBuilder {
 
   // Replaces the one point of a fresh builder, then adds.
   TrialBuilder& AddPoint(const std::string& label, PointCurve curve);
+  // Leaves point `point`, counted from 1 as added, unseen in a frame, counted likewise: its fourth
+  // word is -1 there.
+  TrialBuilder& NotSeen(std::size_t point, std::int32_t frame);
   TrialBuilder& AddAnalog(const std::string& label, const std::string& description,
                           AnalogCurve curve);
   TrialBuilder& SamplesPerFrame(std::int16_t samples);
@@ -113,6 +119,7 @@ class TrialBuilder {
                                    const auto step = static_cast<float>(frame);
                                    return std::array{10.0F * step, -5.0F * step, 30.0F};
                                  }}};
+  std::set<std::pair<std::size_t, std::int32_t>> notSeen_;  // points and frames, from 1
   std::vector<Channel> channels_;
   std::int16_t samplesPerFrame_ = 1;
   std::vector<Event> events_;
