@@ -8,10 +8,12 @@
 
 #include "c3d/FrameData.h"
 #include "c3d/OpenC3dFile.h"
+#include "gait/Checkup.h"
 #include "gait/EventExtraction.h"
 #include "gait/GcdCalcs.h"
 #include "gait/GcdCommand.h"
 #include "gait/GcdText.h"
+#include "reports/CheckReport.h"
 #include "reports/HeaderReport.h"
 #include "reports/ListingReport.h"
 #include "reports/MeasuresReport.h"
@@ -113,6 +115,9 @@ void ExerciseOpenFile(const FileState& state) {
 }
 
 void ExerciseTrial(const std::string& path) {
+  // A RuntimeError is no answer of the checkup, so none is caught here.
+  const auto findings = modVantrel::CheckTrial(path);
+  Run([&](ReportOutput& output) { reports::ShowFindings(findings, output); });
   FileState state;
   try {
     const auto result = modVantrel::OpenC3dFile(state, path, modVantrel::FindGaitEvents);

@@ -15,6 +15,7 @@
 #include "c3d/OpenC3dFile.h"
 #include "fuzz/ExerciseTrial.h"
 #include "fuzz/MemoryTrial.h"
+#include "gait/Checkup.h"
 #include "gait/EventExtraction.h"
 #include "sample/TrialBuilder.h"
 #include "tests/TestTrials.h"
@@ -104,6 +105,8 @@ TEST_F(DamageInBulk, EachTruncation) {
   for (std::size_t size = 0; size <= good.size(); ++size) {
     const Bytes cut(good.begin(), good.begin() + static_cast<std::ptrdiff_t>(size));
     Exercise(cut, "cut to " + std::to_string(size));
+    const auto findings = modVantrel::CheckTrial(file_.Fill(cut));
+    EXPECT_EQ(HasError(findings), size < good.size()) << size;
   }
   EXPECT_EQ(inputs_, good.size() + 1);
 }
