@@ -34,7 +34,7 @@ void AddCurves(const FileState& state, std::int32_t label, const std::vector<std
 }  // namespace
 
 GaitSide SideOfLabel(std::string_view label) {
-  const std::string letter = modAllPurpose::UpperCase(label.substr(0, 1));
+  const std::string letter = modAllPurpose::UpperCase(modAllPurpose::Trimmed(label).substr(0, 1));
   if (letter == "L") return GaitSide::Left;
   if (letter == "R") return GaitSide::Right;
   return GaitSide::None;
@@ -48,8 +48,7 @@ std::vector<LabelCurves> CurvesOfTrial(const FileState& state, const LabelChoice
   for (std::int32_t i = 1; i <= state.PointLabels.Count(); ++i) {
     const std::string key = modAllPurpose::SearchKey(state.PointLabels[i]);
     if (key.empty() || !known.insert(key).second || !isWanted(key)) continue;
-    LabelCurves curves{
-        state.PointLabels[i], std::string(modAllPurpose::StripAtNul(kinds.UnitOf(key))), {}, {}};
+    LabelCurves curves{state.PointLabels[i], kinds.UnitOf(key), {}, {}};
     AddCurves(state, i, strides, curves);
     labels.push_back(std::move(curves));
   }
