@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstddef>
+#include <utility>
 
 #include "c3d/LabelTables.h"
 #include "c3d/ParameterSection.h"
@@ -50,8 +51,9 @@ PointKinds::PointKinds(const FileState& state) {
     for (const KindParams& params : kKindParams) {
       const TextArray labels = PointTexts(state, params.List);
       for (std::size_t i = 0; i < labels.Count(); ++i) {
-        kinds_.emplace(SearchKey(WithoutPrefix(labels.InFileOrder(i), state.LabelPrefix)),
-                       params.Kind);
+        std::string key = SearchKey(WithoutPrefix(labels.InFileOrder(i), state.LabelPrefix));
+        // A list may be longer than what it names; points without a label are none of it.
+        if (!key.empty()) kinds_.emplace(std::move(key), params.Kind);
       }
       units_[params.Kind] = UnitIn(state, params.Unit);
     }

@@ -15,9 +15,10 @@ namespace cli {
 
 namespace {
 
-// Writes the rows of one file; false where something is complained of.
+// Writes the rows of one file; false where something is complained of. That the output fails is not
+// the file's fault, and is left to the end of the table.
 bool WriteRows(const Request& request, const std::string& file, reports::TableOutput& table,
-               const Streams& streams) {
+               const StandardOutput& output, const Streams& streams) {
   reports::Complaints complaints;
   const std::string failure = MessageOf([&] {
     modVantrel::FileState state;
@@ -27,6 +28,7 @@ bool WriteRows(const Request& request, const std::string& file, reports::TableOu
                      .Rows(state, modAllPurpose::WithReplacements(file), request.Options, table);
     return std::string();
   });
+  if (output.Failure()) return false;
   if (!failure.empty()) {
     table.DropRow();
     complaints.push_back(failure);
@@ -43,9 +45,11 @@ void RunTables(const Request& request, const std::vector<std::string>& files,
   const auto table = MakeTable(request, output);
   table->Begin(reports::FindReport(request.Report)->Columns);
   for (const std::string& file : files) {
-    if (!WriteRows(request, file, *table, streams)) status = kSomeFailed;
+    if (!WriteRows(request, file, *table, output, streams)) status = kSomeFailed;
+    if (output.Failure()) break;
   }
   const std::string lost = MessageOf([&] {
+    if (output.Failure()) return modAllPurpose::RuntimeErrorLine(*output.Failure());
     table->End();
     output.Flush();
     return std::string();

@@ -33,7 +33,10 @@ void StandardOutput::Flush() {
   } catch (const OutputClosed&) {
     if (unwritten_ == Unwritten::EndsReport) throw;
   } catch (const modAllPurpose::RuntimeError& error) {
-    if (unwritten_ == Unwritten::EndsReport) throw;
+    if (unwritten_ == Unwritten::EndsReport) {
+      failure_ = error;
+      throw;
+    }
     lostLines_ = error;
   }
 }

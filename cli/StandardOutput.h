@@ -39,6 +39,9 @@ class StandardOutput : public modAllPurpose::ReportOutput {
   // wanted them.
   const std::optional<modAllPurpose::RuntimeError>& LostLines() const { return lostLines_; }
 
+  // The error with which the output ended its report; nothing where it took all.
+  const std::optional<modAllPurpose::RuntimeError>& Failure() const { return failure_; }
+
  private:
   void HandOver(const std::string& piece);
 
@@ -46,6 +49,7 @@ class StandardOutput : public modAllPurpose::ReportOutput {
   std::string heading_;
   Unwritten unwritten_;
   std::optional<modAllPurpose::RuntimeError> lostLines_;
+  std::optional<modAllPurpose::RuntimeError> failure_;
   std::string pending_;
 };
 

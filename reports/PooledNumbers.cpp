@@ -36,7 +36,9 @@ std::string NumberText(std::optional<double> number, int decimals) {
                                            NumberPattern("0.0000"),  NumberPattern("0.00000"),
                                            NumberPattern("0.000000")};
   if (!number || !std::isfinite(*number)) return "-";
-  return FormatNumber(kPatterns.at(static_cast<std::size_t>(decimals)), *number);
+  std::string text = FormatNumber(kPatterns.at(static_cast<std::size_t>(decimals)), *number);
+  const bool isZero = text.find_first_of("123456789") == std::string::npos;
+  return isZero && text.starts_with('-') ? text.substr(1) : text;
 }
 
 std::string StatisticsText(std::optional<double> mean, std::optional<double> deviation,

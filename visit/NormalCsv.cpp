@@ -9,6 +9,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <fmt/format.h>
@@ -107,7 +108,7 @@ class Reader {
     const Component component = ComponentIn(record);
     const std::size_t i = InstantIn(record);
     const std::string name = fmt::format("{}.{}", label, record.Fields[kComponent]);
-    Filled& filled = curves_[modAllPurpose::SearchKey(name)];
+    Filled& filled = curves_[{modAllPurpose::SearchKey(label), component}];
     if (filled.Instants[i]) {
       throw NormalFault{record.Line,
                         fmt::format("{} stands here a second time for {} %", name, PercentOf(i))};
@@ -121,7 +122,7 @@ class Reader {
   }
 
   Normals normals_;
-  std::map<std::string, Filled> curves_;
+  std::map<std::pair<std::string, Component>, Filled> curves_;
   std::set<std::string> measures_;
 };
 

@@ -31,6 +31,7 @@ struct Variable {
 };
 
 std::optional<Variable> FindVariable(std::string_view name) {
+  if (name.empty()) return std::nullopt;  // what a row does not write has no name
   for (const GcdCurveSpec& row : modVantrel::GcdCurveTable()) {
     if (row.Sagittal == name) return Variable{&row, Component::X};
     if (row.Coronal == name) return Variable{&row, Component::Y};

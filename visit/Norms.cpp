@@ -24,13 +24,13 @@ void AddMean(const Statistics& side, Statistics& samples) {
 }  // namespace
 
 bool IsNormLabel(std::string_view label) {
-  return label.size() > 1 && SideOfLabel(label) != GaitSide::None;
+  return modAllPurpose::Trimmed(label).size() > 1 && SideOfLabel(label) != GaitSide::None;
 }
 
 void Norms::Add(const std::vector<LabelCurves>& curves, std::span<const GaitMeasures> strides) {
   for (const LabelCurves& label : curves) {
     if (!IsNormLabel(label.Label)) continue;
-    const std::string name = label.Label.substr(1);
+    const std::string name(modAllPurpose::Trimmed(label.Label).substr(1));
     const auto [place, isNew] = places_.emplace(modAllPurpose::SearchKey(name), curves_.size());
     if (isNew) curves_.push_back({name, label.Unit, {}});
     AddMeanCurve(label.Left, curves_[place->second].Samples);

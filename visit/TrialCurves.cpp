@@ -34,7 +34,7 @@ void AddCurves(const FileState& state, std::int32_t label, const std::vector<std
 }  // namespace
 
 GaitSide SideOfLabel(std::string_view label) {
-  const std::string letter = modAllPurpose::UpperCase(label.substr(0, 1));
+  const std::string letter = modAllPurpose::UpperCase(modAllPurpose::Trimmed(label).substr(0, 1));
   if (letter == "L") return GaitSide::Left;
   if (letter == "R") return GaitSide::Right;
   return GaitSide::None;

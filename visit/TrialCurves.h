@@ -13,8 +13,8 @@
 
 namespace visit {
 
-// The side whose strides a label belongs to by its first letter, L or R in either case; none for
-// any other label, which belongs to both.
+// The side whose strides a label belongs to by its first letter, L or R in either case, behind the
+// blanks that a cut prefix may leave; none for any other label, which belongs to both.
 modVantrel::GaitSide SideOfLabel(std::string_view label);
 
 // The curves of one label over the complete strides in which it is seen throughout. A label of one

@@ -59,6 +59,13 @@ TEST(PointKinds, ListedLabelsLoseThePrefixLikeAllLabels) {
   EXPECT_EQ(PointKinds(trial.State()).KindOf("LKneeAngles"), PointKind::Angle);
 }
 
+TEST(PointKinds, EmptyEntryOfAListIsNoLabel) {
+  sample::TrialBuilder builder = TrialOfKinds();
+  builder.SetParam("POINT", Texts("ANGLES", {"LKneeAngles", ""}));
+  tests::OpenedTrial trial(builder);
+  EXPECT_EQ(PointKinds(trial.State()).UnitOf(""), "mm");
+}
+
 TEST(PointKinds, SectionThatCannotBeWalkedListsNothing) {
   tests::OpenedTrial trial(TrialOfKinds());
   std::filesystem::resize_file(trial.File(), 600);

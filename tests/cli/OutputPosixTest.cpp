@@ -37,6 +37,15 @@ TEST_F(FullDisk, IsARunTimeErrorOfItsFile) {
   }
 }
 
+TEST_F(FullDisk, EndsATableAndIsNamedOnce) {
+  for (const std::string format : {"csv", "json"}) {
+    const ToolResult result =
+        RunTool({"--format", format, "parameters", long_, short_, long_}, {.Path = "/dev/full"});
+    EXPECT_EQ(result.Status, 1);
+    EXPECT_EQ(result.Err, "vantrel-report: standard output: Run-time error '61': Disk full\n");
+  }
+}
+
 TEST_F(FullDisk, IsNoSuccessOfHelpAndVersion) {
   for (const std::string option : {"--help", "--version"}) {
     const ToolResult result = RunTool({option}, {.Path = "/dev/full"});

@@ -142,6 +142,12 @@ TEST(NormalCsv, FaultNamesItsLine) {
             "3: cadence stands here a second time");
 }
 
+TEST(NormalCsv, BlanksAroundALabelMakeNoOtherCurve) {
+  const std::string curve = CsvOfCurve("KneeAngles", "x", 1, 2);  // lines 2 to 52
+  EXPECT_EQ(FaultOf(Csv(curve + "KneeAngles , x,4,1,2,4,deg\n")),
+            "53: KneeAngles . x stands here a second time for 4 %");
+}
+
 TEST(NormalCsv, CurveWithoutOneOfItsInstantsIsRefusedWhereItEnds) {
   const std::string text =
       Replaced(Csv(CsvOfCurve("KneeAngles", "x", 1, 2)), "KneeAngles,x,44,1,2,4,deg\n", "");
@@ -190,6 +196,11 @@ TEST(NormalGcd, VariableOfTwoLabelsStandsForBoth) {
 TEST(NormalGcd, OtherVariablesAndEmptyLinesArePassedOver) {
   const Normals normals = Read(kGcdHeader + "!Cadence\n1.05\n!VideoRate\nfifty\n" +
                                GcdCurve("KneeFlexExt", "1 2\r\n") + "$Age\n12.5\n");
+  EXPECT_NE(normals.Curve("KneeAngles", Component::X), nullptr);
+}
+
+TEST(NormalGcd, NameThatIsEmptyIsOfNoVariable) {
+  const Normals normals = Read(kGcdHeader + "!\n1\n!Left\n1\n" + GcdCurve("KneeFlexExt", "1 2"));
   EXPECT_NE(normals.Curve("KneeAngles", Component::X), nullptr);
 }
 

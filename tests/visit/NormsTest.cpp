@@ -68,6 +68,13 @@ TEST(Norms, LabelsOfNoSideAndSingleLettersAreLeftOut) {
   EXPECT_TRUE(norms.Curves().empty());
 }
 
+TEST(Norms, BlankInFrontOfALabelIsNoPartOfItsName) {
+  Norms norms;
+  norms.Add({tests::StandingCurves(" LKneeAngles", {10, 0, 0}, {})}, {});
+  ASSERT_EQ(norms.Curves().size(), 1U);
+  EXPECT_EQ(norms.Curves()[0].Label, "KneeAngles");
+}
+
 TEST(Norms, MeasuresAreMeansOfTrialsAndSidesToo) {
   // Samples 1.0 (of two strides) and 1.4.
   constexpr std::size_t kStrideTime = 2;

@@ -14,6 +14,7 @@
 #include "gait/EventExtraction.h"
 #include "reports/CsvTable.h"
 #include "reports/NormsReport.h"
+#include "reports/PooledNumbers.h"
 #include "reports/ScoresReport.h"
 #include "reports/SummaryReport.h"
 #include "reports/TableColumns.h"
@@ -120,6 +121,12 @@ TEST(SummaryReport, TextIsATableForAPerson) {
   EXPECT_EQ(lines[0], "Measure                Unit            Left  Right  Asymmetry (%)");
   EXPECT_EQ(lines[1], "Walking speed          m/s         1.54 (1)      -              -");
   EXPECT_EQ(lines[2], "Cadence                steps/min  153.6 (1)      -              -");
+}
+
+TEST(PooledNumbers, NumberThatRoundsToZeroHasNoSign) {
+  EXPECT_EQ(reports::NumberText(-0.04, 1), "0.0");
+  EXPECT_EQ(reports::NumberText(-0.0, 2), "0.00");
+  EXPECT_EQ(reports::NumberText(-0.06, 1), "-0.1");
 }
 
 TEST(VisitReport, PoolsTheStridesOfAllTrials) {

@@ -44,6 +44,7 @@ sample::TrialBuilder TrialOfBothSides() {
 TEST(SideOfLabel, IsThatOfItsFirstLetterInEitherCase) {
   EXPECT_EQ(visit::SideOfLabel("LKneeAngles"), GaitSide::Left);
   EXPECT_EQ(visit::SideOfLabel("rtoe"), GaitSide::Right);
+  EXPECT_EQ(visit::SideOfLabel(" LTOE"), GaitSide::Left) << "as a cut prefix may leave it";
   EXPECT_EQ(visit::SideOfLabel("SACR"), GaitSide::None);
   EXPECT_EQ(visit::SideOfLabel(""), GaitSide::None);
 }
@@ -128,6 +129,14 @@ TEST(TrialCurves, UnitIsThatOfTheLabelsKind) {
                       .SetParam("POINT", sample::TextParam("ANGLE_UNITS", "deg")));
   EXPECT_EQ(labels.at(0).Unit, "deg");
   EXPECT_EQ(labels.at(1).Unit, "mm");
+}
+
+TEST(TrialCurves, UnitIsSpeltAsTheTableOfLabelsSpellsIt) {
+  const std::string unit("m\0m\0", 4);
+  const auto labels = AllCurvesOf(TrialOfOneStride("Left")
+                                      .AddPoint("LHEE", Standing(1, 0, 0))
+                                      .SetParam("POINT", sample::TextParam("UNITS", unit)));
+  EXPECT_EQ(labels.at(0).Unit, unit.substr(0, 3));
 }
 
 TEST(TrialCurves, LabelsWithoutAStrideAreNamedAllTheSame) {
