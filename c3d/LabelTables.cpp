@@ -26,14 +26,17 @@ void FillFrom(const ParamRecord& param, std::string_view prefix,
   }
 }
 
-// Calls `take(number, text)` for each entry of the continuations of `param`, from 256 to `count`.
+// Calls `take(number, text)` for each entry of the continuations of `param`, from 256 to `count`,
+// up to the first one that the file lacks.
 template <typename Take>
 void ForFurtherEntries(const FileState& state, std::string_view group, std::string_view param,
                        std::int32_t count, Take take) {
   constexpr std::int32_t kMostEntries = 255;
   for (std::int32_t first = kMostEntries; first < count; first += kMostEntries) {
     const std::string name = fmt::format("{}{}", param, first / kMostEntries + 1);
-    const TextArray texts = FindGroupAndParam(state, group, name).Param.TextValues;
+    const GroupAndParam further = FindGroupAndParam(state, group, name);
+    if (!further.BothFound()) return;
+    const TextArray& texts = further.Param.TextValues;
     for (std::int32_t k = 1; first + k <= count && texts.Holds(ElementAt(k)); ++k) {
       take(first + k, texts.At(ElementAt(k)));
     }

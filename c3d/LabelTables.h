@@ -25,8 +25,9 @@ void FillPointLabels(FileState& state);
 void FillAnalogLabels(FileState& state);
 
 // The entries 1 to `count` of the text parameter `param` of a group and of its continuations,
-// `param` with 2, 3 ... behind its name: entry k of table n is number (n - 1) * 255 + k, since a
-// dimension ends at 255. What is missing is empty. Errors as FindGroupAndParam.
+// `param` with 2, 3 ... behind its name up to the first that is missing: entry k of table n is
+// number (n - 1) * 255 + k, since a dimension ends at 255. What is missing is empty. Errors as
+// FindGroupAndParam.
 modAllPurpose::OneBasedTable<std::string> ReadTextTable(const FileState& state,
                                                         std::string_view group,
                                                         std::string_view param, std::int32_t count);

@@ -114,10 +114,13 @@ void ExerciseOpenFile(const FileState& state) {
   RunGcdTexts(state);
 }
 
-void ExerciseTrial(const std::string& path) {
+void ExerciseCheckup(const std::string& path) {
   // A RuntimeError is no answer of the checkup, so none is caught here.
   const auto findings = modVantrel::CheckTrial(path);
   Run([&](ReportOutput& output) { reports::ShowFindings(findings, output); });
+}
+
+void ExerciseTrial(const std::string& path) {
   FileState state;
   try {
     const auto result = modVantrel::OpenC3dFile(state, path, modVantrel::FindGaitEvents);

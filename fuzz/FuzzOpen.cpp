@@ -11,6 +11,8 @@
 // does every report.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static fuzz::MemoryTrial trial;
-  fuzz::ExerciseTrial(trial.Fill(std::span(data, size)));
+  const std::string& path = trial.Fill(std::span(data, size));
+  fuzz::ExerciseTrial(path);
+  fuzz::ExerciseCheckup(path);
   return 0;
 }

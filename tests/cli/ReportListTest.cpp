@@ -11,6 +11,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "cli/ReportTable.h"
 #include "reports/ReportList.h"
 #include "tests/TestTrials.h"
 #include "tests/cli/ToolInside.h"
@@ -104,6 +105,17 @@ TEST(ReportList, SaysWhichReportsNeedALabel) {
   for (const ReportInfo& report : reports::kReports) {
     const auto result = RunInside({std::string(report.Name), "missing.c3d"});
     EXPECT_EQ(result.Status, report.NeedsLabel || report.NeedsNormals ? 2 : 1) << result.Err;
+  }
+}
+
+TEST(ReportList, HasColumnsForTheTablesThatThereAre) {
+  for (const ReportInfo& report : reports::kReports) {
+    if (report.Pools || report.ReadsAnyFile) {
+      EXPECT_FALSE(report.Columns.empty()) << report.Name;
+    } else {
+      EXPECT_EQ(cli::FindTrialReport(report.Name).Rows != nullptr, !report.Columns.empty())
+          << report.Name;
+    }
   }
 }
 

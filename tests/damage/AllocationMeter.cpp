@@ -34,11 +34,17 @@ void AllocationMeter::Reset() {
 std::size_t AllocationMeter::Peak() { return peak - start; }
 
 // Memory of the C library, since these two stand under the operators of the language.
-void* Take(std::size_t size) {
+void* TakeIfThereIs(std::size_t size) noexcept {
   void* memory = std::malloc(size);  // NOLINT(cppcoreguidelines-no-malloc)
-  if (memory == nullptr) throw std::bad_alloc();
+  if (memory == nullptr) return nullptr;
   taken += SizeOf(memory);
   peak = std::max(peak.load(), taken.load());
+  return memory;
+}
+
+void* Take(std::size_t size) {
+  void* memory = TakeIfThereIs(size);
+  if (memory == nullptr) throw std::bad_alloc();
   return memory;
 }
 
@@ -51,6 +57,13 @@ void GiveBack(void* memory) noexcept {
 
 void* operator new(std::size_t size) { return tests::Take(size); }
 void* operator new[](std::size_t size) { return tests::Take(size); }
+// What the library sorts with.
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
+  return tests::TakeIfThereIs(size);
+}
+void* operator new[](std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
+  return tests::TakeIfThereIs(size);
+}
 void operator delete(void* memory) noexcept { tests::GiveBack(memory); }
 void operator delete[](void* memory) noexcept { tests::GiveBack(memory); }
 void operator delete(void* memory, std::size_t /*size*/) noexcept { tests::GiveBack(memory); }

@@ -62,18 +62,25 @@ sample::Trial Walk(std::uint8_t processor, sample::Storage storage) {
   return walk.Build();
 }
 
+// Holds one answer to a damaged file against the memory and the time that it may take.
+void Measure(void (*exercise)(const std::string&), const std::string& path,
+             const std::string& damage) {
+  tests::AllocationMeter::Reset();
+  const double start = ProcessorSeconds();
+  exercise(path);
+  const double seconds = ProcessorSeconds() - start;
+  EXPECT_LT(tests::AllocationMeter::Peak(), kMostMemory) << damage;
+  EXPECT_LT(seconds, kMostSeconds) << damage;
+}
+
 class DamageInBulk : public testing::Test {
  protected:
   // Answers once more for these bytes; `damage` names what was done to them.
   void Exercise(const Bytes& bytes, const std::string& damage) {
     const std::string& path = file_.Fill(bytes);
-    tests::AllocationMeter::Reset();
-    const double start = ProcessorSeconds();
-    fuzz::ExerciseTrial(path);
-    const double seconds = ProcessorSeconds() - start;
     ++inputs_;
-    EXPECT_LT(tests::AllocationMeter::Peak(), kMostMemory) << damage;
-    EXPECT_LT(seconds, kMostSeconds) << damage;
+    Measure(fuzz::ExerciseTrial, path, damage);
+    Measure(fuzz::ExerciseCheckup, path, "the checkup of " + damage);
   }
 
   void ExerciseSingleChanges(const Bytes& good) {
