@@ -82,10 +82,10 @@ void Measure(benchmark::State& run, const Work& work) {
   }
 }
 
-void RunTool(benchmark::State& run, int processes, int copiesATurn) {
+void RunTool(benchmark::State& run, int processes, int copiesATurn, const char* format = "text") {
   const std::string command =
-      fmt::format("xargs -0 -P {} -n {} -a '{}' '{}' measures > /dev/null", processes, copiesATurn,
-                  AllCopies().List().string(), VANTREL_REPORT);
+      fmt::format("xargs -0 -P {} -n {} -a '{}' '{}' --format {} measures > /dev/null", processes,
+                  copiesATurn, AllCopies().List().string(), VANTREL_REPORT, format);
   Measure(run, [&] {
     if (std::system(command.c_str()) != 0) run.SkipWithError("the tool failed");
   });
@@ -93,6 +93,8 @@ void RunTool(benchmark::State& run, int processes, int copiesATurn) {
 
 void MeasuresByOneProcess(benchmark::State& run) { RunTool(run, 1, kCopies); }
 void MeasuresByTwoProcesses(benchmark::State& run) { RunTool(run, 2, kCopiesATurn); }
+void MeasuresAsCsv(benchmark::State& run) { RunTool(run, 1, kCopies, "csv"); }
+void MeasuresAsJson(benchmark::State& run) { RunTool(run, 1, kCopies, "json"); }
 
 void ReadAllCopies(benchmark::State& run) {
   constexpr std::size_t kPieceSize = std::size_t{256} * 1024;
@@ -108,6 +110,8 @@ void ReadAllCopies(benchmark::State& run) {
 
 BENCHMARK(MeasuresByOneProcess)->Iterations(1)->Repetitions(5)->UseManualTime();
 BENCHMARK(MeasuresByTwoProcesses)->Iterations(1)->Repetitions(5)->UseManualTime();
+BENCHMARK(MeasuresAsCsv)->Iterations(1)->Repetitions(5)->UseManualTime();
+BENCHMARK(MeasuresAsJson)->Iterations(1)->Repetitions(5)->UseManualTime();
 BENCHMARK(ReadAllCopies)->Iterations(1)->Repetitions(5)->UseManualTime();
 
 }  // namespace
@@ -116,5 +120,7 @@ int main(int argc, char** argv) {
   return bench::RunWithBudgets(argc, argv,
                                {{"MeasuresByOneProcess", "ReadAllCopies", {}, kSeconds},
                                 {"MeasuresByTwoProcesses", "MeasuresByOneProcess", {}, kSeconds},
-                                {"MeasuresByOneProcess", "", {}, kSeconds}});
+                                {"MeasuresByOneProcess", "", {}, kSeconds},
+                                {"MeasuresAsCsv", "MeasuresByOneProcess", 1.1, kSeconds},
+                                {"MeasuresAsJson", "MeasuresByOneProcess", {}, kSeconds}});
 }

@@ -15,7 +15,11 @@
 #include "bench/BenchTrial.h"
 #include "bench/Budget.h"
 #include "c3d/FrameData.h"
+#include "reports/CsvTable.h"
+#include "reports/JsonTable.h"
 #include "reports/ListingReport.h"
+#include "reports/TableColumns.h"
+#include "reports/TrialTables.h"
 #include "sample/TrialBuilder.h"
 
 // Long listings, reading included, against the same lines by the C library. Both sides hand their
@@ -88,6 +92,30 @@ void AnalogListing(Pieces& output) {
 
 void PointListing(Pieces& output) {
   (void)reports::ShowPointData(Trial().State(), "LTOE", output);
+  output.HandOn();
+}
+
+// The rows of the point's table, in the form of `Table`.
+template <typename Table>
+void PointTable(Pieces& output) {
+  Table table(output);
+  table.Begin(reports::columns::kPoint);
+  reports::TableOptions options;
+  options.Labels = {"LTOE"};
+  (void)reports::PointRows(Trial().State(), Trial().File().string(), options, table);
+  table.End();
+  output.HandOn();
+}
+
+// The same of the channel.
+template <typename Table>
+void AnalogTable(Pieces& output) {
+  Table table(output);
+  table.Begin(reports::columns::kAnalog);
+  reports::TableOptions options;
+  options.Labels = {"Fz"};
+  (void)reports::AnalogRows(Trial().State(), Trial().File().string(), options, table);
+  table.End();
   output.HandOn();
 }
 
@@ -179,12 +207,27 @@ void PrintfPoint(benchmark::State& run) {
   while (run.KeepRunning()) PointLinesByPrintf(samples, output);
 }
 
+template <typename Print>
+void PrintAgain(benchmark::State& run, const Print& print) {
+  Pieces output;
+  while (run.KeepRunning()) print(output);
+}
+
+void PointAsCsv(benchmark::State& run) { PrintAgain(run, PointTable<reports::CsvTable>); }
+void PointAsJson(benchmark::State& run) { PrintAgain(run, PointTable<reports::JsonTable>); }
+void AnalogAsCsv(benchmark::State& run) { PrintAgain(run, AnalogTable<reports::CsvTable>); }
+void AnalogAsJson(benchmark::State& run) { PrintAgain(run, AnalogTable<reports::JsonTable>); }
+
 BENCHMARK(ListAnalog)->Repetitions(7)->Unit(benchmark::kMillisecond);
 BENCHMARK(PrintfAnalog)->Repetitions(7)->Unit(benchmark::kMillisecond);
 BENCHMARK(ListAnalogToFile)->Repetitions(7)->Unit(benchmark::kMillisecond);
 BENCHMARK(WriteFinishedText)->Repetitions(7)->Unit(benchmark::kMillisecond);
 BENCHMARK(ListPoint)->Repetitions(7)->Unit(benchmark::kMillisecond);
 BENCHMARK(PrintfPoint)->Repetitions(7)->Unit(benchmark::kMillisecond);
+BENCHMARK(PointAsCsv)->Repetitions(7)->Unit(benchmark::kMillisecond);
+BENCHMARK(PointAsJson)->Repetitions(7)->Unit(benchmark::kMillisecond);
+BENCHMARK(AnalogAsCsv)->Repetitions(7)->Unit(benchmark::kMillisecond);
+BENCHMARK(AnalogAsJson)->Repetitions(7)->Unit(benchmark::kMillisecond);
 
 // What `print` hands on in all.
 template <typename Print>
@@ -215,5 +258,9 @@ int main(int argc, char** argv) {
   return bench::RunWithBudgets(argc, argv,
                                {{"ListAnalog", "PrintfAnalog", 0.2},
                                 {"ListPoint", "PrintfPoint", 0.2},
-                                {"ListAnalogToFile", "WriteFinishedText", {}}});
+                                {"ListAnalogToFile", "WriteFinishedText", {}},
+                                {"PointAsCsv", "ListPoint", 1.0},
+                                {"AnalogAsCsv", "ListAnalog", {}},
+                                {"PointAsJson", "ListPoint", {}},
+                                {"AnalogAsJson", "ListAnalog", {}}});
 }

@@ -88,25 +88,41 @@ class PointReader {
     return sample;
   }
 
-  // Fills all samples but the first with those of the same point.
-  void FollowFrames(PointSamples& samples) const {
+  // Fills all samples but the first with those of the same points, frame by frame.
+  void FollowFrames(std::span<PointSamples> points) const {
     if (state_.PointFrameCount < 2) return;
-    const bool isLastLabel = samples[1].NextPointPosition == 0;
-    std::int32_t position = samples[1].NextFramePosition;
-    FramePlace place = PlaceOf(state_, layout_, position);
+    std::vector<Step> steps;
+    for (const PointSamples& samples : points) steps.push_back(FirstStep(samples));
     for (std::int32_t frame = 2; frame <= state_.PointFrameCount; ++frame) {
-      PointSample& sample = samples[frame];
-      state_.C3dFileNumber.Seek(position);
-      ReadCoordinates(state_, layout_, sample);
-      FillPlaceAndTime(sample, place, position, isLastLabel);
-      position = sample.NextFramePosition;
-      // Only damage makes a frame's size negative; it then leads out of the file.
-      place = layout_.FrameSize > 0 ? FramePlace{place.FrameIndex + 1, place.OffsetInFrame}
-                                    : PlaceOf(state_, layout_, position);
+      for (std::size_t i = 0; i < points.size(); ++i) Follow(steps[i], points[i][frame]);
     }
   }
 
  private:
+  // Where a point stands in the frame to be read.
+  struct Step {
+    std::int32_t Position;
+    FramePlace Place;
+    bool IsLastLabel;
+  };
+
+  Step FirstStep(const PointSamples& samples) const {
+    const std::int32_t position = samples[1].NextFramePosition;
+    return {position, PlaceOf(state_, layout_, position), samples[1].NextPointPosition == 0};
+  }
+
+  // Reads the sample and steps on to the next frame.
+  void Follow(Step& step, PointSample& sample) const {
+    state_.C3dFileNumber.Seek(step.Position);
+    ReadCoordinates(state_, layout_, sample);
+    FillPlaceAndTime(sample, step.Place, step.Position, step.IsLastLabel);
+    step.Position = sample.NextFramePosition;
+    // Only damage makes a frame's size negative; it then leads out of the file.
+    step.Place = layout_.FrameSize > 0
+                     ? FramePlace{step.Place.FrameIndex + 1, step.Place.OffsetInFrame}
+                     : PlaceOf(state_, layout_, step.Position);
+  }
+
   // The file stands behind the sample at `position`.
   void FillPlaceAndTime(PointSample& sample, const FramePlace& place, std::int32_t position,
                         bool isLastLabel) const {
@@ -225,8 +241,11 @@ void TagWithEvents(const FileState& state, Frames& frames) {
 
 float ResidualOf(const PointSample& sample, float scaleFactor) {
   constexpr double kResidualRange = 256;
-  if (!(sample.FourthWord >= 0)) return -1;
-  const double residual = std::fmod(std::trunc(double{sample.FourthWord}), kResidualRange);
+  const double word = sample.FourthWord;
+  if (!(word >= 0)) return -1;
+  // The usual case by itself: a remainder takes longer than a coordinate to print.
+  const double residual = word < kResidualRange ? static_cast<std::int32_t>(word)
+                                                : std::fmod(std::trunc(word), kResidualRange);
   return static_cast<float>(residual * scaleFactor);
 }
 
@@ -269,19 +288,26 @@ AnalogFrames GetAnalogDataWithEventsForLabel(const FileState& state, std::string
 }
 
 PointSamples ReadPointDataForIndex(const FileState& state, std::int32_t index) {
-  if (index < 1 || index > state.Header.PointLabelCount) return {};
+  return std::move(ReadPointDataForIndexes(state, index, 1).front());
+}
+
+std::vector<PointSamples> ReadPointDataForIndexes(const FileState& state, std::int32_t first,
+                                                  std::int32_t count) {
+  std::vector<PointSamples> points(static_cast<std::size_t>(count));
+  if (first < 1 || first > state.Header.PointLabelCount - count + 1) return points;
   state.C3dFileNumber.ForgetBuffer();
   const PointReader reader(state);
-  PointSamples samples(state.PointFrameCount);
+  for (PointSamples& samples : points) samples = PointSamples(state.PointFrameCount);
   std::int32_t position = state.SeekPtrForFirstFrameData;
-  for (std::int32_t label = 1; label <= index; ++label) {
-    samples[1] = reader.At(position);
-    position = samples[1].NextPointPosition;
+  for (std::int32_t label = 1; label < first + count; ++label) {
+    const PointSample sample = reader.At(position);
+    points[static_cast<std::size_t>(std::max(label - first, 0))][1] = sample;
+    position = sample.NextPointPosition;
   }
-  const BinaryFile::ReadAhead ahead(state.C3dFileNumber,
-                                    ReadAheadFor(reader.Layout(), reader.Layout().PointSize));
-  reader.FollowFrames(samples);
-  return samples;
+  const std::int64_t used = std::int64_t{count} * reader.Layout().PointSize;
+  const BinaryFile::ReadAhead ahead(state.C3dFileNumber, ReadAheadFor(reader.Layout(), used));
+  reader.FollowFrames(points);
+  return points;
 }
 
 AnalogFrames ReadAnalogDataForIndex(const FileState& state, std::int32_t channel) {

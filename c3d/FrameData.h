@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdint>
 #include <string_view>
+#include <vector>
 
 #include "c3d/AnalogFrames.h"
 #include "c3d/FileState.h"
@@ -58,6 +59,10 @@ AnalogFrames GetAnalogDataWithEventsForLabel(const FileState& state, std::string
 
 // The same by index, from 1; empty where the index is outside the points or channels.
 PointSamples ReadPointDataForIndex(const FileState& state, std::int32_t index);
+
+// The same for `count` neighbouring points from `first` on, read in one pass over the frames.
+std::vector<PointSamples> ReadPointDataForIndexes(const FileState& state, std::int32_t first,
+                                                  std::int32_t count);
 AnalogFrames ReadAnalogDataForIndex(const FileState& state, std::int32_t channel);
 
 // One sample at a file position. For a channel, `position` moves behind its last sample.

@@ -2,8 +2,9 @@
 
 #include "reports/CsvTable.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
-#include <iterator>
 
 #include <fmt/format.h>
 
@@ -45,7 +46,8 @@ void CsvTable::Text(std::string_view text) {
 
 void CsvTable::Number(std::int64_t number) {
   Separate();
-  fmt::format_to(std::back_inserter(line_), "{}", number);
+  const fmt::format_int digits(number);
+  line_.append(digits.data(), digits.size());
 }
 
 void CsvTable::Number(float number) {
@@ -58,13 +60,38 @@ void CsvTable::Number(double number) {
   if (std::isfinite(number)) AppendShortest(line_, number);
 }
 
+void CsvTable::BeginRowsWith(std::span<const std::string_view> texts) {
+  DropRow();
+  for (const std::string_view text : texts) Text(text);
+  sharedSize_ = line_.size();
+  rowsShare_ = !texts.empty();
+}
+
+void CsvTable::Numbers(std::span<const float> numbers) {
+  constexpr std::size_t kAtATime = 8;
+  std::array<char, kAtATime*(kRoomOfFloat + 1)> fields;
+  while (!numbers.empty()) {
+    char* end = fields.data();
+    for (const float number : numbers.first(std::min(kAtATime, numbers.size()))) {
+      if (!atStart_) *end++ = ',';
+      atStart_ = false;
+      if (std::isfinite(number)) end = PutShortest(end, number);
+    }
+    line_.append(fields.data(), end);
+    numbers = numbers.subspan(std::min(kAtATime, numbers.size()));
+  }
+}
+
 void CsvTable::EndRow() {
   output_.Line(line_);
-  DropRow();
+  line_.resize(sharedSize_);
+  atStart_ = !rowsShare_;
 }
 
 void CsvTable::DropRow() {
   line_.clear();
+  sharedSize_ = 0;
+  rowsShare_ = false;
   atStart_ = true;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -24,6 +25,8 @@ class CsvTable : public TableOutput {
   void Number(float number) override;
   void Number(double number) override;
   void Missing() override { Separate(); }
+  void BeginRowsWith(std::span<const std::string_view> texts) override;
+  void Numbers(std::span<const float> numbers) override;
   void EndRow() override;
   void DropRow() override;
   void End() override {}
@@ -34,7 +37,9 @@ class CsvTable : public TableOutput {
 
   modAllPurpose::ReportOutput& output_;
   std::string line_;
-  bool atStart_ = true;  // of a row
+  std::size_t sharedSize_ = 0;  // of what each row begins with, which stays in the line
+  bool rowsShare_ = false;      // whether they begin with anything
+  bool atStart_ = true;         // of a row
 };
 
 }  // namespace reports

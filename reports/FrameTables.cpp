@@ -2,14 +2,20 @@
 
 // The tables of the data: points, channels and normalised curves.
 
+#include <algorithm>
+#include <array>
+#include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
+#include <vector>
 
 #include "c3d/FrameData.h"
 #include "gait/EventNames.h"
 #include "gait/GcdCalcs.h"
 #include "reports/AskedLabels.h"
 #include "reports/TrialTables.h"
+#include "support/RuntimeError.h"
 
 namespace reports {
 
@@ -31,37 +37,71 @@ std::int32_t FrameNumber(const FileState& state, std::int32_t frameIndex) {
 }
 
 void PointRowsOf(const FileState& state, std::string_view file, std::int32_t number,
-                 TableOutput& table) {
-  const PointSamples samples = modVantrel::ReadPointDataForIndex(state, number);
+                 const PointSamples& samples, TableOutput& table) {
+  const std::array<std::string_view, 2> fileAndLabel = {file, state.PointLabels[number]};
+  table.BeginRowsWith(fileAndLabel);
   for (std::int32_t frame = 1; frame <= samples.Count(); ++frame) {
     const PointSample& sample = samples[frame];
-    table.Text(file);
-    table.Text(state.PointLabels[number]);
     table.Number(FrameNumber(state, frame));
-    for (const float value : {sample.Time, sample.X, sample.Y, sample.Z,
-                              modVantrel::ResidualOf(sample, state.Header.ScaleFactor)}) {
-      table.Number(value);
-    }
+    table.Numbers(std::array{sample.Time, sample.X, sample.Y, sample.Z,
+                             modVantrel::ResidualOf(sample, state.Header.ScaleFactor)});
     table.EndRow();
+  }
+  table.BeginRowsWith({});
+}
+
+// How many of the labels from `numbers` on are neighbours in the file and read together: as many as
+// keep within some 16 MB.
+std::int32_t NeighboursOf(const FileState& state, std::span<const std::int32_t> numbers) {
+  constexpr std::int32_t kMostSamples = 400'000;
+  constexpr std::int32_t kMost = 64;
+  const auto most = static_cast<std::size_t>(
+      std::clamp(kMostSamples / std::max(state.PointFrameCount, 1), 1, kMost));
+  std::size_t count = 1;
+  while (count < std::min(most, numbers.size()) && numbers[count] == numbers[count - 1] + 1) {
+    ++count;
+  }
+  return static_cast<std::int32_t>(count);
+}
+
+// Nothing where they cannot be read together: one by one, the rows before an error then stand.
+std::vector<PointSamples> ReadNeighbours(const FileState& state, std::int32_t first,
+                                         std::int32_t count) {
+  std::vector<PointSamples> points;
+  if (count == 1) return points;
+  modAllPurpose::IgnoringErrors(
+      [&] { points = modVantrel::ReadPointDataForIndexes(state, first, count); });
+  return points;
+}
+
+// The rows of labels that are neighbours in the file: `count` from `first` on.
+void PointRowsOfNeighbours(const FileState& state, std::string_view file, std::int32_t first,
+                           std::int32_t count, TableOutput& table) {
+  const std::vector<PointSamples> points = ReadNeighbours(state, first, count);
+  for (std::int32_t i = 0; i < count; ++i) {
+    PointRowsOf(state, file, first + i,
+                points.empty() ? modVantrel::ReadPointDataForIndex(state, first + i)
+                               : points[static_cast<std::size_t>(i)],
+                table);
   }
 }
 
 void AnalogRowsOf(const FileState& state, std::string_view file, std::int32_t channel,
                   TableOutput& table) {
   const AnalogFrames frames = modVantrel::ReadAnalogDataForIndex(state, channel);
+  const std::array<std::string_view, 2> fileAndLabel = {file, state.AnalogLabels[channel]};
+  table.BeginRowsWith(fileAndLabel);
   std::int32_t sample = 0;
   for (std::int32_t i = 1; i <= frames.Count(); ++i) {
     const AnalogFrame frame = frames[i];
     for (const float value : frame.Values) {
-      table.Text(file);
-      table.Text(state.AnalogLabels[channel]);
       table.Number(FrameNumber(state, i));
       table.Number(++sample);
-      table.Number(frame.Time);
-      table.Number(value);
+      table.Numbers(std::array{frame.Time, value});
       table.EndRow();
     }
   }
+  table.BeginRowsWith({});
 }
 
 void CurveRows(const NormalizedCurve& curve, std::string_view file, std::string_view label,
@@ -73,7 +113,7 @@ void CurveRows(const NormalizedCurve& curve, std::string_view file, std::string_
     table.Number(stride.Number);
     table.Text(label);
     table.Number(percent);
-    for (const float value : {point.Time, point.X, point.Y, point.Z}) table.Number(value);
+    table.Numbers(std::array{point.Time, point.X, point.Y, point.Z});
     table.EndRow();
     percent += kPercentStep;
   }
@@ -104,8 +144,13 @@ constexpr const char* kNoChannel = "analog label not found";
 
 Complaints PointRows(const FileState& state, std::string_view file, const TableOptions& options,
                      TableOutput& table) {
-  return RowsOfLabels(state, file, FindAskedLabels(state.PointLabels, options, kNoPoint),
-                      PointRowsOf, table);
+  const AskedLabels asked = FindAskedLabels(state.PointLabels, options, kNoPoint);
+  for (std::span<const std::int32_t> left = asked.Numbers; !left.empty();) {
+    const std::int32_t count = NeighboursOf(state, left);
+    PointRowsOfNeighbours(state, file, left.front(), count, table);
+    left = left.subspan(static_cast<std::size_t>(count));
+  }
+  return asked.Missing;
 }
 
 Complaints AnalogRows(const FileState& state, std::string_view file, const TableOptions& options,

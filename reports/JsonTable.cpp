@@ -45,16 +45,32 @@ void JsonTable::Begin(std::span<const std::string_view> columns) {
   output_.Piece("[");
 }
 
+void JsonTable::BeginRowsWith(std::span<const std::string_view> texts) {
+  shared_.assign(texts.begin(), texts.end());
+}
+
+void JsonTable::Put(std::string_view text) { writer_->Row().String(text.data(), Size(text)); }
+
+// Of the next value; in front of the first one come those that each row begins with.
 void JsonTable::Name() {
   auto& row = writer_->Row();
-  if (column_ == 0) row.StartObject();
-  const std::string_view name = columns_.at(column_++);
-  row.Key(name.data(), Size(name));
+  const auto key = [&] {
+    const std::string_view name = columns_.at(column_++);
+    row.Key(name.data(), Size(name));
+  };
+  if (column_ == 0) {
+    row.StartObject();
+    for (const std::string_view text : shared_) {
+      key();
+      Put(text);
+    }
+  }
+  key();
 }
 
 void JsonTable::Text(std::string_view text) {
   Name();
-  writer_->Row().String(text.data(), Size(text));
+  Put(text);
 }
 
 void JsonTable::Number(std::int64_t number) {
@@ -88,12 +104,14 @@ void JsonTable::EndRow() {
   output_.Line(isFirstRow_ ? "" : ",");
   output_.Piece(writer_->Text());
   isFirstRow_ = false;
-  DropRow();
+  writer_->Clear();
+  column_ = 0;
 }
 
 void JsonTable::DropRow() {
   writer_->Clear();
   column_ = 0;
+  shared_.clear();
 }
 
 void JsonTable::End() {

@@ -28,6 +28,7 @@ class JsonTable : public TableOutput {
   void Number(float number) override;
   void Number(double number) override;
   void Missing() override;
+  void BeginRowsWith(std::span<const std::string_view> texts) override;
   void EndRow() override;
   void DropRow() override;
   void End() override;
@@ -37,13 +38,15 @@ class JsonTable : public TableOutput {
   class Writer;
 
   void Name();
+  void Put(std::string_view text);
   template <typename Float>
   void FloatNumber(Float number);
 
   modAllPurpose::ReportOutput& output_;
   std::unique_ptr<Writer> writer_;
   std::vector<std::string_view> columns_;
-  std::size_t column_ = 0;  // of the next value
+  std::size_t column_ = 0;                // of the next value
+  std::vector<std::string_view> shared_;  // what each row begins with
   bool isFirstRow_ = true;
   std::string number_;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 namespace reports {
@@ -9,5 +10,9 @@ namespace reports {
 // `number` must be finite.
 void AppendShortest(std::string& text, float number);
 void AppendShortest(std::string& text, double number);
+
+// The same to `place`, which has room for kRoomOfFloat characters; returns the place behind it.
+inline constexpr std::size_t kRoomOfFloat = 40;
+char* PutShortest(char* place, float number);
 
 }  // namespace reports

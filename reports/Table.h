@@ -28,6 +28,13 @@ class TableOutput {
   virtual void Number(double number) = 0;
   virtual void Missing() = 0;
   virtual void EndRow() = 0;
+  // Every row from here on begins with `texts`, which must last as long: up to the next call, or
+  // until a row is dropped. Not inside a row.
+  virtual void BeginRowsWith(std::span<const std::string_view> texts) = 0;
+  // As if they came one by one.
+  virtual void Numbers(std::span<const float> numbers) {
+    for (const float number : numbers) Number(number);
+  }
   // Forgets the values of a row that was begun, where an error kept it from its end.
   virtual void DropRow() = 0;
 

@@ -105,6 +105,35 @@ TEST_P(EveryForm, AnalogSamplesAreTheStoredValuesInTimeOrder) {
   }
 }
 
+TEST_P(EveryForm, NeighboursReadTogetherAreThoseReadOneByOne) {
+  OpenedTrial trial(
+      ThreePoints().Processor(GetParam().Processor).StoredAs(GetParam().StoredAs));
+  const auto points = ReadPointDataForIndexes(trial.State(), 2, 2);
+  ASSERT_EQ(points.size(), 2U);
+  for (std::int32_t i = 0; i < 2; ++i) {
+    const PointSamples alone = ReadPointDataForIndex(trial.State(), 2 + i);
+    const PointSamples& together = points[static_cast<std::size_t>(i)];
+    ASSERT_EQ(together.Count(), alone.Count());
+    for (std::int32_t frame = 1; frame <= alone.Count(); ++frame) {
+      const PointSample& sample = together[frame];
+      EXPECT_EQ(sample.X, Coordinates(2 + i, frame)[0]);
+      EXPECT_EQ(sample.Y, alone[frame].Y);
+      EXPECT_EQ(sample.Z, alone[frame].Z);
+      EXPECT_EQ(sample.Time, alone[frame].Time);
+      EXPECT_EQ(sample.FourthWord, alone[frame].FourthWord);
+      EXPECT_EQ(sample.NextFramePosition, alone[frame].NextFramePosition);
+      EXPECT_EQ(sample.NextPointPosition, alone[frame].NextPointPosition);
+    }
+  }
+}
+
+TEST(PointData, NeighboursBeyondTheLastLabelAreEmpty) {
+  OpenedTrial trial(ThreePoints());
+  for (const auto& samples : ReadPointDataForIndexes(trial.State(), 3, 2)) {
+    EXPECT_TRUE(samples.IsEmpty());
+  }
+}
+
 TEST(PointData, ScaleMultipliesIntegersOnlyAndIsNeverAppliedToFloats) {
   TrialBuilder builder;
   builder.AddPoint("A", [](std::int32_t frame) {

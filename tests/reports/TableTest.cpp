@@ -137,6 +137,43 @@ std::string Aligned(const reports::AlignedText& table) {
   return text.Text();
 }
 
+// Two rows of one beginning, an error in a third one, and one without it.
+void RowsThatShare(TableOutput& table) {
+  const std::string_view name = "a,b";
+  table.BeginRowsWith({&name, 1});
+  for (const float value : {1.5F, std::numeric_limits<float>::quiet_NaN()}) {
+    table.Numbers({&value, 1});
+    table.EndRow();
+  }
+  table.Number(3.0F);
+  table.DropRow();
+  table.Text("c");
+  table.Number(4.0F);
+  table.EndRow();
+}
+
+TEST(CsvTable, BeginsEachRowWithWhatTheyShareUntilOneIsDropped) {
+  EXPECT_EQ(Written<CsvTable>(RowsThatShare), "name,value\n\"a,b\",1.5\n\"a,b\",\nc,4\n");
+}
+
+TEST(CsvTable, SharesAnEmptyTextToo) {
+  const std::string written = Written<CsvTable>([](TableOutput& table) {
+    const std::string_view empty;
+    table.BeginRowsWith({&empty, 1});
+    for (const std::int32_t value : {1, 2}) {
+      table.Number(value);
+      table.EndRow();
+    }
+  });
+  EXPECT_EQ(written, "name,value\n,1\n,2\n");
+}
+
+TEST(JsonTable, BeginsEachRowWithWhatTheyShareUntilOneIsDropped) {
+  EXPECT_EQ(Written<JsonTable>(RowsThatShare),
+            "[\n{\"name\":\"a,b\",\"value\":1.5},\n{\"name\":\"a,b\",\"value\":null},\n"
+            "{\"name\":\"c\",\"value\":4}\n]\n");
+}
+
 TEST(AlignedText, IsAsWideAsWhatItHolds) {
   reports::AlignedText table({{"name"}, {"n", reports::Align::Right}, {"unit"}});
   table.AddRow({"a", "12", "mm"});
