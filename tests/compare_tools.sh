@@ -125,6 +125,10 @@ for report in point normalized; do same 0 --label "$point" "$report" "$file"; do
 same 0 --label "$analog" analog "$file"
 same 0 --events --label "$point" point "$file"
 same 0 --events --label "$analog" analog "$file"
+"$one" --format csv norms "$file" >'nörmal.csv'
+same 0 --normal 'nörmal.csv' scores "$file"
+same 1 --normal 'nö such.csv' scores "$file"
+for format in csv json; do same 0 --format "$format" measures "$file"; done
 same 0 header "$file" "$file"
 same 0 --version
 same 0 --help

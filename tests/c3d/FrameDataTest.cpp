@@ -106,8 +106,7 @@ TEST_P(EveryForm, AnalogSamplesAreTheStoredValuesInTimeOrder) {
 }
 
 TEST_P(EveryForm, NeighboursReadTogetherAreThoseReadOneByOne) {
-  OpenedTrial trial(
-      ThreePoints().Processor(GetParam().Processor).StoredAs(GetParam().StoredAs));
+  OpenedTrial trial(ThreePoints().Processor(GetParam().Processor).StoredAs(GetParam().StoredAs));
   const auto points = ReadPointDataForIndexes(trial.State(), 2, 2);
   ASSERT_EQ(points.size(), 2U);
   for (std::int32_t i = 0; i < 2; ++i) {
