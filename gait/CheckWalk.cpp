@@ -179,14 +179,13 @@ void AddWalkFindings(const CheckedTrial& trial, const WalkStrides& walk, Finding
   // Where the scale is not known, neither is a length.
   if (walk.InPlace.empty() || trial.Outcome.Result == OpenResult::ScaleFactorCorrupt) return;
   constexpr double kMillimetres = 1000;
+  const bool isOne = walk.InPlace.size() == 1;
   findings.Add(
       "walk-in-place", StrideText(walk.InPlace.front()),
-      fmt::format("{} shorter than 100 mm ({} at the least), as on a treadmill: lengths, "
-                  "speed and direction of {} say nothing.",
-                  walk.InPlace.size() == 1 ? fmt::format("{} is", StrideText(walk.InPlace.front()))
-                                           : fmt::format("{} are", Listed(NamesOf(walk.InPlace))),
-                  fmt::format("{:.1f} mm", walk.ShortestInPlace * kMillimetres),
-                  walk.InPlace.size() == 1 ? "it" : "them"));
+      fmt::format("{} {} shorter than 100 mm ({}{:.1f} mm), as on a treadmill: length, speed and "
+                  "direction say nothing there, and summaries leave them out.",
+                  Listed(NamesOf(walk.InPlace)), isOne ? "is" : "are", isOne ? "" : "the least ",
+                  walk.ShortestInPlace * kMillimetres));
 }
 
 void CheckToesMissing(const ToeMarkers& toes, Findings& findings) {

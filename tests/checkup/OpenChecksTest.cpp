@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "gait/CheckFindings.h"
 #include "sample/SampleWalk.h"
 #include "tests/checkup/CheckedTrials.h"
 
@@ -115,7 +116,8 @@ TEST(CannotOpen, OfNoPointsNamesTheirNumber) {
   auto walk = CleanWalk();
   auto trial = walk.SetParam("POINT", sample::IntegerParam("USED", 0)).Build();
   const auto findings = Check(trial.SetInteger(tests::header::kPointLabelCount, 0));
-  EXPECT_THAT(MessageOf(findings, "cannot-open"), HasSubstr("counts 0 points"));
+  EXPECT_THAT(MessageOf(findings, "cannot-open"),
+              HasSubstr("counts 0 points, and at least 1 is needed, so the file cannot be opened"));
 }
 
 TEST(CannotOpen, OfNoFramesNamesTheFirstAndTheLast) {
@@ -211,6 +213,25 @@ TEST(DataCutShort, SaysWhereTheHeaderNamesNoBlock) {
   const auto findings =
       Check(trial.SetInteger(tests::header::kFirstMarkerAndAnalogBlockPointer, 0));
   EXPECT_THAT(Places(findings), ElementsAre("data-cut-short at byte 17"));
+}
+
+TEST(Checkup, KeepsItsCodesTheirOrderAndTheirSeverities) {
+  std::string kinds;
+  for (const modVantrel::CheckKind& kind : modVantrel::kCheckKinds) {
+    kinds += std::string(kind.Code) + " " + std::string(SeverityName(kind.Level)) + "\n";
+  }
+  EXPECT_EQ(kinds,
+            "cannot-open error\nparameters-damaged error\ndata-cut-short error\n"
+            "frame-count warning\nfirst-frame note\nrate-overridden note\npoint-count warning\n"
+            "analog-layout warning\nlabels-missing warning\nlabels-further note\n"
+            "labels-repeated warning\nlabels-empty warning\nlabels-padded warning\n"
+            "labels-encoding note\nlabel-single-letter warning\nunlabelled-points note\n"
+            "point-gaps warning\npoint-never-seen note\nunits warning\nmoment-units warning\n"
+            "events-none warning\nevent-outside warning\nevent-minutes warning\n"
+            "event-unsided note\nevent-order warning\nevent-close warning\n"
+            "strides-none warning\ntoe-markers warning\nwalk-along-y warning\n"
+            "walk-turns warning\nwalk-in-place warning\nanalysis-differs warning\n"
+            "force-plates warning\nsubject-missing note\nsubject-date warning\n");
 }
 
 TEST(Checkup, FindsSeveralFaultsOfOneFile) {
