@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -162,7 +163,21 @@ TEST(ParametersDamaged, WhereTheLastRecordReachesBeyondTheFileIsTheOnlyFindingOf
   // The chain leads far out of the file behind the record that all look-ups end at.
   trial.SetOffset(trial.ParamPosition("TRIAL", "DATE"), 32000);
   const auto findings = Check(trial);
-  EXPECT_TRUE(tests::HasCode(findings, "parameters-damaged"));
+  EXPECT_THAT(MessageOf(findings, "parameters-damaged"),
+              HasSubstr("reaches beyond the end of the file (" + std::to_string(trial.Size()) +
+                        " bytes), so it and all behind it are lost"));
+}
+
+TEST(ParametersDamaged, WhereAParameterHasTooManyDimensionsNamesItsByteAndTheError) {
+  auto walk = CleanWalk();
+  walk.SetParam(
+      "TRIAL",
+      {"ODD", std::vector<std::uint8_t>(8, 1), std::vector<std::int16_t>{1}, "", false, {}});
+  const auto trial = walk.Build();
+  const std::string byte = std::to_string(trial.ParamPosition("TRIAL", "ODD"));
+  EXPECT_EQ(MessageOf(Check(trial), "parameters-damaged"),
+            "The parameter at byte " + byte +
+                " cannot be read (Subscript out of range), so it and all behind it are lost.");
 }
 
 TEST(ParametersDamaged, WhereARecordLiesBehindSectionAndFirstFrame) {
