@@ -172,7 +172,7 @@ void AddWalkFindings(const CheckedTrial& trial, const WalkStrides& walk, Finding
   if (!walk.AlongX.empty() && !walk.AlongY.empty()) {
     findings.Add(
         "walk-turns", StrideText(walk.AlongY.front()),
-        fmt::format("Strides go along different axes, X in {} and Y in {}: the subject turned "
+        fmt::format("Strides go along different axes, X in {}, but Y in {}: the subject turned "
                     "or walked diagonally, and their GCD files show different planes.",
                     Listed(NamesOf(walk.AlongX)), Listed(NamesOf(walk.AlongY))));
   }

@@ -204,7 +204,7 @@ TEST(WalkTurns, BesideTheStridesAlongY) {
   const auto findings = Check(WalkBy({16, 0, 0}, {1, 16, 0}));
   ASSERT_THAT(Places(findings),
               ElementsAre("walk-along-y at Right stride 1", "walk-turns at Right stride 1"));
-  EXPECT_THAT(findings[1].Message, HasSubstr("X in Left stride 1 and Y in Right stride 1"));
+  EXPECT_THAT(findings[1].Message, HasSubstr("X in Left stride 1, but Y in Right stride 1"));
 }
 
 TEST(WalkInPlace, OfStridesBelowHundredMillimetres) {
