@@ -6,6 +6,7 @@
 
 #include <fmt/format.h>
 
+#include "gait/CheckText.h"
 #include "reports/AlignedText.h"
 #include "reports/ComponentName.h"
 #include "reports/PooledLabels.h"
@@ -17,6 +18,7 @@ namespace reports {
 
 using modAllPurpose::ReportOutput;
 using modVantrel::Component;
+using modVantrel::Shown;
 using visit::GaitMeasureSpec;
 using visit::GaitMeasureTable;
 using visit::NormCurves;
@@ -65,8 +67,8 @@ void ShowCurves(const NormCurves& curves, ReportOutput& output) {
       text.AddRow({std::to_string(instant.Percent),
                    StatisticsText(instant.Mean, instant.Deviation, curves.Samples.Count(), 2)});
     }
-    const std::string unit = curves.Unit.empty() ? "" : fmt::format(" ({})", curves.Unit);
-    output.Line(fmt::format("{} {}{}", curves.Label, ComponentName(part), unit));
+    const std::string unit = curves.Unit.empty() ? "" : fmt::format(" ({})", Shown(curves.Unit));
+    output.Line(fmt::format("{} {}{}", Shown(curves.Label), ComponentName(part), unit));
     text.Print(output);
     output.Line("");
   }
