@@ -25,13 +25,15 @@ const std::map<std::string, std::vector<std::string>> kMayInclude = {
     {"deploy", {"support"}},
     {"visit", {"support", "c3d", "gait"}},
     {"reports", {"support", "c3d", "gait", "visit"}},
-    {"app", {"support", "c3d", "gait", "visit", "deploy", "reports"}},
+    {"pages", {"support", "c3d", "gait", "visit"}},
+    {"plot", {"support", "c3d", "gait", "visit", "pages"}},
+    {"app", {"support", "c3d", "gait", "visit", "deploy", "reports", "pages", "plot"}},
     {"cli", {"support", "c3d", "gait", "visit", "reports"}},
     {"sample", {"support", "c3d"}},
 };
 
 // The folders whose sources may use the toolkit.
-const std::vector<std::string> kMayUseQt = {"app"};
+const std::vector<std::string> kMayUseQt = {"plot", "app"};
 
 struct Include {
   std::string File;    // from the root of the tree
