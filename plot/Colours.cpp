@@ -11,6 +11,7 @@ namespace {
 constexpr int kQuarter = 64;  // of 255
 constexpr int kPale = 56;
 constexpr int kNormalStrength = 112;
+constexpr int kNormalStrengthAmongGreys = 72;
 
 QColor WithAlpha(QColor colour, int alpha) {
   colour.setAlpha(alpha);
@@ -48,7 +49,8 @@ QColor BandOf(GaitSide side, const DrawingStyle& style) {
 }
 
 QColor NormalBandOf(const DrawingStyle& style) {
-  return WithAlpha(ColoursOf(style).Normal, kNormalStrength);
+  return WithAlpha(ColoursOf(style).Normal,
+                   style.IsMonochrome ? kNormalStrengthAmongGreys : kNormalStrength);
 }
 
 QPen PlainLine(const QColor& colour, double width) {

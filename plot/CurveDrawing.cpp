@@ -136,9 +136,10 @@ void DrawCornerNumbers(const Canvas& canvas, const CurvePanel& panel, const QRec
       if (number.Side != side || !number.Value) continue;
       y += kLine;
       const QString name = side == GaitSide::Left ? QStringLiteral("L ") : QStringLiteral("R ");
-      SetText(canvas.Painter, {plot.right() - kMarkLength, y}, Align::Right,
-              name + NumberText(*number.Value, kDecimals),
-              {Face::Bold, kSize, ColourOf(side, canvas.Style)});
+      SetTextOnPlate(canvas.Painter, {plot.right() - kMarkLength, y}, Align::Right,
+                     name + NumberText(*number.Value, kDecimals),
+                     {Face::Bold, kSize, ColourOf(side, canvas.Style)},
+                     ColoursOf(canvas.Style).Ground);
     }
   }
 }

@@ -55,7 +55,7 @@ void DrawOrdinateNumbers(const Canvas& canvas, const PanelPlace& place, const Ax
                          bool isBold) {
   constexpr double kWordColumn = 80;
   constexpr double kMiddleOfDigits = 0.36;
-  constexpr double kApart = 1.15;  // of the size, so that numbers stand clear of each other
+  constexpr double kApart = 1.2;  // of the size, so that numbers stand clear of each other
   const double room = place.Plot.left() - 2 * kTick - place.Cell.left() - kWordColumn;
   const int decimals = DecimalsOf(axes.StepY);
   double lowest = place.Cell.bottom() + kNumberSize;
@@ -156,8 +156,8 @@ void DrawNotes(const Canvas& canvas, const QRectF& plot, const std::vector<std::
   double y = isEmpty ? plot.center().y() - height / 2 : plot.bottom() - height - kInside / 2;
   for (const QString& line : lines) {
     y += kLine;
-    SetText(canvas.Painter, {plot.center().x(), y - (kLine - kNoteSize)}, Align::Centre, line,
-            style);
+    SetTextOnPlate(canvas.Painter, {plot.center().x(), y - (kLine - kNoteSize)}, Align::Centre,
+                   line, style, ColoursOf(canvas.Style).Ground);
   }
 }
 

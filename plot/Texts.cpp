@@ -64,6 +64,21 @@ void SetText(QPainter& painter, const QPointF& base, Align align, const QString&
   painter.drawText(base - QPointF(ShareInFront(align) * WidthOf(text, style), 0), text);
 }
 
+void SetTextOnPlate(QPainter& painter, const QPointF& base, Align align, const QString& text,
+                    const TextStyle& style, QColor ground) {
+  constexpr int kStrength = 200;
+  constexpr double kAbove = 0.86;  // of the size, like the next two
+  constexpr double kHeight = 1.14;
+  constexpr double kBeside = 0.15;
+  ground.setAlpha(kStrength);
+  const double width = WidthOf(text, style);
+  const QPointF corner = base - QPointF(ShareInFront(align) * width, kAbove * style.Size);
+  painter.fillRect(QRectF(corner, QSizeF(width, kHeight * style.Size))
+                       .adjusted(-kBeside * style.Size, 0, kBeside * style.Size, 0),
+                   ground);
+  SetText(painter, base, align, text, style);
+}
+
 void SetTextUpwards(QPainter& painter, const QPointF& base, Align align, const QString& text,
                     const TextStyle& style) {
   constexpr double kQuarter = -90;

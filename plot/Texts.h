@@ -44,7 +44,11 @@ std::vector<QString> Wrapped(const QString& text, const TextStyle& style, double
 void SetText(QPainter& painter, const QPointF& base, Align align, const QString& text,
              const TextStyle& style);
 
-// The same, turned to be read upwards.
+// The same, on a plate of the colour `ground` that lets little through, for a text among curves.
+void SetTextOnPlate(QPainter& painter, const QPointF& base, Align align, const QString& text,
+                    const TextStyle& style, QColor ground);
+
+// As SetText, turned to be read upwards.
 void SetTextUpwards(QPainter& painter, const QPointF& base, Align align, const QString& text,
                     const TextStyle& style);
 
