@@ -2,7 +2,9 @@
 
 #include "visit/GaitMeasures.h"
 
+#include <algorithm>
 #include <array>
+#include <cctype>
 #include <cmath>
 #include <cstdint>
 #include <string>
@@ -142,6 +144,13 @@ class MeasuresOfTrial {
 }  // namespace
 
 std::span<const GaitMeasureSpec, kGaitMeasureCount> GaitMeasureTable() { return kMeasures; }
+
+std::string MeasureTitle(std::string_view name) {
+  std::string title(name);
+  std::ranges::replace(title, '_', ' ');
+  if (!title.empty()) title[0] = static_cast<char>(std::toupper(title[0]));
+  return title;
+}
 
 double MetresPerUnit(const FileState& state) {
   std::string unit;
