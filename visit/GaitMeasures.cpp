@@ -64,7 +64,9 @@ double Across(const FloorVector& unit, const FloorVector& way) {
   return std::fabs(unit.X * way.Y - unit.Y * way.X);
 }
 
-void TakeTimes(const StrideRecord& stride, GaitMeasures& measures) {
+}  // namespace
+
+GaitMeasures TimeMeasuresOf(const StrideRecord& stride) {
   const double start = stride.StartStrikeTime;
   const double oppositeOff = stride.OppositeFootOffTime;
   const double oppositeStrike = stride.OppositeFootStrikeTime;
@@ -73,6 +75,8 @@ void TakeTimes(const StrideRecord& stride, GaitMeasures& measures) {
   const double strideTime = stop - start;
   const auto share = [strideTime](double seconds) { return Divide(seconds, strideTime) * 100.0; };
 
+  GaitMeasures measures;
+  measures.Side = stride.Side;
   constexpr double kStepsPerMinute = 120;  // of strides per second
   measures.StrideTime = strideTime;
   measures.Cadence = Divide(kStepsPerMinute, strideTime);
@@ -82,7 +86,10 @@ void TakeTimes(const StrideRecord& stride, GaitMeasures& measures) {
   measures.OppositeFootContact = share(oppositeStrike - start);
   measures.SingleSupport = share(oppositeStrike - oppositeOff);
   measures.DoubleSupport = share((sameOff - oppositeStrike) + (oppositeOff - start));
+  return measures;
 }
+
+namespace {
 
 // The measures of the strides of one trial.
 class MeasuresOfTrial {
@@ -95,9 +102,7 @@ class MeasuresOfTrial {
         metres_(MetresPerUnit(state)) {}
 
   GaitMeasures Of(const StrideRecord& stride) {
-    GaitMeasures measures;
-    measures.Side = stride.Side;
-    TakeTimes(stride, measures);
+    GaitMeasures measures = TimeMeasuresOf(stride);
     if (left_ != 0 && right_ != 0) TakeLengths(stride, measures);
     return measures;
   }

@@ -53,6 +53,10 @@ std::span<const GaitMeasureSpec, kGaitMeasureCount> GaitMeasureTable();
 // A measure by its name as a person writes it: "Walking speed" of "walking_speed".
 std::string MeasureTitle(std::string_view name);
 
+// The measures of a stride that follow from its times alone; lengths and speed are missing. Error
+// 11 for a stride of no duration.
+GaitMeasures TimeMeasuresOf(const modVantrel::StrideRecord& stride);
+
 // The metres of one unit of the file's positions, by POINT:UNITS: m, cm or mm in any case, zero
 // bytes at its end aside. Anything else counts as mm.
 double MetresPerUnit(const modVantrel::FileState& state);
