@@ -8,13 +8,13 @@
 #include <fmt/format.h>
 #include <gtest/gtest.h>
 
-#include "reports/ShortestNumber.h"
+#include "support/ShortestNumber.h"
 
 namespace {
 
 std::string Shortest(float number) {
   std::string text;
-  reports::AppendShortest(text, number);
+  modAllPurpose::AppendShortest(text, number);
   return text;
 }
 
@@ -44,7 +44,7 @@ TEST(ShortestNumber, IsThatOfTheLibraryAllOverTheFloats) {
   for (std::uint32_t bits = 1; bits < kInfinity; bits += kStep) {
     const float number = FloatOf(bits);
     text.clear();
-    reports::AppendShortest(text, number);
+    modAllPurpose::AppendShortest(text, number);
     ASSERT_EQ(text, fmt::format("{}", number)) << bits;
   }
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "reports/ShortestNumber.h"
+#include "support/ShortestNumber.h"
 
 #include <algorithm>
 #include <array>
@@ -12,7 +12,7 @@
 #include <fmt/compile.h>
 #include <fmt/format.h>
 
-namespace reports {
+namespace modAllPurpose {
 
 namespace {
 
@@ -161,4 +161,4 @@ void AppendShortest(std::string& text, double number) {
   fmt::format_to(std::back_inserter(text), FMT_COMPILE("{}"), number);
 }
 
-}  // namespace reports
+}  // namespace modAllPurpose

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <string>
 
-namespace reports {
+namespace modAllPurpose {
 
 // Appends the shortest decimal text that reads back to the same number: 0.1, -12, 1e-05, 1e+16.
 // `number` must be finite.
@@ -15,4 +15,4 @@ void AppendShortest(std::string& text, double number);
 inline constexpr std::size_t kRoomOfFloat = 40;
 char* PutShortest(char* place, float number);
 
-}  // namespace reports
+}  // namespace modAllPurpose
