@@ -16,6 +16,10 @@ namespace cli {
 using TextFunction = std::string (*)(const modVantrel::FileState& state, Request& request,
                                      modAllPurpose::ReportOutput& output);
 
+// Names the labels asked for that the open file lacks.
+using MissingFunction = reports::Complaints (*)(const modVantrel::FileState& state,
+                                                const reports::TableOptions& options);
+
 // Writes the rows of the open file's table.
 using RowsFunction = reports::Complaints (*)(const modVantrel::FileState& state,
                                              std::string_view file,
@@ -27,6 +31,7 @@ struct TrialReport {
   std::string_view Name;
   TextFunction Text;
   RowsFunction Rows = nullptr;
+  MissingFunction Missing = nullptr;  // where its table is asked for labels
 };
 
 // The report of that name, which must be one of reports::kReports that is made of one trial.

@@ -61,8 +61,10 @@ Complaints AddFile(const std::string& file, PooledReport& report) {
   const std::string failure = MessageOf([&] {
     modVantrel::FileState state;
     std::string refusal = OpenTrial(file, Labels::All, state);
-    if (refusal.empty()) complaints = report.Add(state);
-    return refusal;
+    if (!refusal.empty()) return refusal;
+    complaints = report.Missing(state);
+    report.Add(state);
+    return std::string();
   });
   if (!failure.empty()) complaints.push_back(failure);
   return complaints;

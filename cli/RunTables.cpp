@@ -2,6 +2,9 @@
 
 #include "cli/RunTables.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "c3d/FileState.h"
 #include "cli/OpenTrial.h"
 #include "cli/ReportTable.h"
@@ -15,6 +18,18 @@ namespace cli {
 
 namespace {
 
+// Writes the rows of `file`, which is open, and adds to `complaints` what is to be said of it, each
+// thing as it arises: an error keeps none of them back.
+void WriteOpened(const Request& request, const modVantrel::FileState& state,
+                 const std::string& file, reports::TableOutput& table,
+                 reports::Complaints& complaints) {
+  const TrialReport& report = FindTrialReport(request.Report);
+  if (report.Missing != nullptr) complaints = report.Missing(state, request.Options);
+  std::ranges::move(
+      report.Rows(state, modAllPurpose::WithReplacements(file), request.Options, table),
+      std::back_inserter(complaints));
+}
+
 // Writes the rows of one file; false where something is complained of. That the output fails is not
 // the file's fault, and is left to the end of the table.
 bool WriteRows(const Request& request, const std::string& file, reports::TableOutput& table,
@@ -23,18 +38,15 @@ bool WriteRows(const Request& request, const std::string& file, reports::TableOu
   const std::string failure = MessageOf([&] {
     modVantrel::FileState state;
     std::string refusal = OpenTrial(file, Labels::All, state);
-    if (!refusal.empty()) return refusal;
-    complaints = FindTrialReport(request.Report)
-                     .Rows(state, modAllPurpose::WithReplacements(file), request.Options, table);
-    return std::string();
+    if (refusal.empty()) WriteOpened(request, state, file, table, complaints);
+    return refusal;
   });
-  if (output.Failure()) return false;
-  if (!failure.empty()) {
+  if (!failure.empty() && !output.Failure()) {
     table.DropRow();
     complaints.push_back(failure);
   }
   for (const std::string& complaint : complaints) ComplainOf(file, complaint, streams);
-  return complaints.empty();
+  return complaints.empty() && !output.Failure();
 }
 
 }  // namespace

@@ -147,7 +147,8 @@ void CheckAnalysis(const CheckedTrial& trial, const SummaryStrides& summary, Fin
     const std::string_view side = SideName(value.Side);
     findings.Add("analysis-differs", fmt::format("ANALYSIS:VALUES {} {}", side, value.Name),
                  fmt::format("The file says that {} {} is {:.4g}, but its own events and markers "
-                             "give {} ({}): they were likely changed since.",
+                             "give {} ({}): events or markers were likely changed since it was "
+                             "written.",
                              side, value.Name, value.Value, NumbersText(numbers),
                              numbers.size() == 1 ? "1 stride" : "stride by stride"));
   }

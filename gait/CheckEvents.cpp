@@ -98,6 +98,28 @@ void CheckOutside(const FileState& state, Findings& findings) {
   }
 }
 
+bool HasNoTime(const EventRecord& event) { return std::isnan(event.Time); }
+
+// Events whose time is no number lie nowhere in the trial: one finding for all of them.
+void CheckTimeless(const FileState& state, Findings& findings) {
+  const GaitEventState& gait = state.GaitEvents;
+  std::vector<std::string> found;
+  for (const auto* events :
+       {&gait.SidedStrikeOffEvents, &gait.SidedGeneralEvents, &gait.NonSidedEvents}) {
+    for (const EventRecord& event : *events) {
+      if (HasNoTime(event)) found.push_back(EventText(event.Side, event.Type));
+    }
+  }
+  if (found.empty()) return;
+  const bool isOne = found.size() == 1;
+  findings.Add(
+      "event-outside", "EVENT:TIMES",
+      fmt::format("{} {} a time that is no number ({}): no stride takes {}, and strides "
+                  "around {} may be lost.",
+                  Counted(static_cast<std::int64_t>(found.size()), "event"), isOne ? "has" : "have",
+                  Listed(found), isOne ? "it" : "them", isOne ? "it" : "them"));
+}
+
 void CheckMinutes(const CheckedTrial& trial, Findings& findings) {
   const auto times = trial.Param("EVENT", "TIMES").SingleValues;
   const std::int32_t count = HeldCount(times, trial.State.GaitEvents.TotalCount, true);
@@ -141,7 +163,7 @@ Events EventsInside(const FileState& state, GaitSide side) {
   }
   Events inside;
   for (const EventRecord& event : state.GaitEvents.SidedStrikeOffEvents) {
-    if (event.Side != side) continue;
+    if (event.Side != side || HasNoTime(event)) continue;
     const auto found = std::ranges::find(moved, event);
     if (found == moved.end()) {
       inside.push_back(event);
@@ -207,6 +229,7 @@ void CheckEvents(const CheckedTrial& trial, Findings& findings) {
   const FileState& state = trial.State;
   if (!trial.HasTimes() || !CheckAny(trial, findings)) return;
   CheckOutside(state, findings);
+  CheckTimeless(state, findings);
   CheckMinutes(trial, findings);
   CheckUnsided(state, findings);
   for (const GaitSide side : {GaitSide::Left, GaitSide::Right}) {

@@ -66,8 +66,8 @@ class PlateCheck {
     if (whole == plates_) return;
     findings_.Add(
         "force-plates", fmt::format("FORCE_PLATFORM:{}", name),
-        fmt::format("FORCE_PLATFORM:{} is {} for {}: forces and moments of a plate "
-                    "without it have no place in the room.",
+        fmt::format("FORCE_PLATFORM:{} is {} for {}: the forces of a plate without it "
+                    "cannot be worked out or set beside the markers.",
                     name, whole == 0 ? "missing or short" : "short",
                     whole == 0 ? Counted(plates_, "force plate")
                                : fmt::format("{} of {} force plates", plates_ - whole, plates_)));

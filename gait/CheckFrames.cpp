@@ -70,8 +70,9 @@ std::string StridesTouched(const PointGaps& point, const std::vector<StrideFrame
                         Listed(byOthers));
   }
   const bool isOne = byLongest.size() + byOthers.size() == 1;
-  return text + fmt::format(" ({} left out of {} means)", isOne ? "which is" : "these are",
-                            isOnePoint ? "its" : "their");
+  return text + fmt::format(" ({} left out of the means of {})",
+                            isOne ? "this stride is" : "these strides are",
+                            isOnePoint ? "this marker" : "these markers");
 }
 
 bool HaveSameGaps(const PointGaps& left, const PointGaps& right) {

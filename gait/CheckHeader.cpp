@@ -138,7 +138,8 @@ void CheckPointCount(const CheckedTrial& trial, Findings& findings) {
   if (!used || *used == trial.Header.PointLabelCount) return;
   findings.Add("point-count", "POINT:USED",
                fmt::format("The header counts {}, but POINT:USED is {}: the program takes the "
-                           "header's, and if that is wrong every position is.",
+                           "header's; if that is the wrong one, all positions are read from the "
+                           "wrong places.",
                            Counted(trial.Header.PointLabelCount, "point"), NumberText(*used)));
 }
 

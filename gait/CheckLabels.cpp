@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <string>
 #include <vector>
 
 #include <fmt/format.h>
@@ -20,14 +21,27 @@ namespace {
 // The last label that fixed reports know.
 constexpr std::int32_t kLastOfFirstTable = 255;
 
+// A label by its name, or by its number where nothing of the name can be shown.
+std::string NameOf(const LabelsOfKind& labels, const FileLabel& label) {
+  std::string name = Shown(label.Name);
+  return name.empty() ? fmt::format("{} {}", labels.Thing, label.Number) : name;
+}
+
 // The names of the labels of which `chosen` is true.
 template <typename Chosen>
 std::vector<std::string> NamesWhere(const LabelsOfKind& labels, Chosen chosen) {
   std::vector<std::string> names;
   for (const FileLabel& label : labels.Given) {
-    if (chosen(label)) names.push_back(Shown(label.Name));
+    if (chosen(label)) names.push_back(NameOf(labels, label));
   }
   return names;
+}
+
+// "1 label stands", "2 labels stand".
+std::string CountedWith(const std::vector<std::string>& names, std::string_view thing,
+                        std::string_view ofOne, std::string_view ofMany) {
+  return fmt::format("{} {}", Counted(static_cast<std::int64_t>(names.size()), thing),
+                     names.size() == 1 ? ofOne : ofMany);
 }
 
 std::string Numbers(const std::vector<std::int32_t>& numbers) {
@@ -70,10 +84,10 @@ void CheckFurther(const LabelsOfKind& labels, Findings& findings) {
       NamesWhere(labels, [](const FileLabel& label) { return label.Number > kLastOfFirstTable; });
   if (further.empty()) return;
   findings.Add("labels-further", fmt::format("{}2", labels.Param),
-               fmt::format("{} stand behind the first {} ({}): the fixed reports and GCD files "
-                           "leave them out unless --further-labels is given.",
-                           Counted(static_cast<std::int64_t>(further.size()), "label"),
-                           kLastOfFirstTable, Listed(further)));
+               fmt::format("{} behind the first {} ({}): the fixed reports and GCD files know "
+                           "nothing beyond those unless --further-labels is given.",
+                           CountedWith(further, "label", "stands", "stand"), kLastOfFirstTable,
+                           Listed(further)));
 }
 
 void CheckRepeats(const LabelsOfKind& labels, Findings& findings) {
@@ -86,12 +100,13 @@ void CheckRepeats(const LabelsOfKind& labels, Findings& findings) {
     std::vector<std::int32_t> numbers;
     for (const FileLabel* label : alike) numbers.push_back(label->Number);
     const std::string name = Shown(alike.front()->Name);
-    findings.Add(
-        "labels-repeated", name,
-        fmt::format("{} are {} called {}: whoever asks for it gets {} {}, so check that "
-                    "this is the right one.",
-                    ThingsByNumber(labels.Thing, numbers), alike.size() == 2 ? "both" : "all", name,
-                    labels.Thing, numbers.front()));
+    findings.Add("labels-repeated", name.empty() ? std::string(labels.Param) : name,
+                 fmt::format("{} {} {}: whoever asks for it gets {} {}, so check that this is the "
+                             "right one.",
+                             ThingsByNumber(labels.Thing, numbers),
+                             alike.size() == 2 ? "are both" : "are all",
+                             name.empty() ? "named by zero bytes alone" : "called " + name,
+                             labels.Thing, numbers.front()));
   }
 }
 
@@ -103,59 +118,42 @@ void CheckEmpty(const LabelsOfKind& labels, Findings& findings) {
   if (numbers.empty()) return;
   findings.Add(
       "labels-empty", std::string(labels.Param),
-      fmt::format("{} {} an empty label and cannot be asked for by one.",
-                  ThingsByNumber(labels.Thing, numbers), numbers.size() == 1 ? "has" : "have"));
+      fmt::format("{} {} an empty label, and no report finds {} by a name.",
+                  ThingsByNumber(labels.Thing, numbers), numbers.size() == 1 ? "has" : "have",
+                  numbers.size() == 1 ? "it" : "them"));
 }
 
 void CheckPadding(const LabelsOfKind& labels, Findings& findings) {
   const auto padded = NamesWhere(
       labels, [](const FileLabel& label) { return label.Bytes.find('\0') != std::string::npos; });
   if (padded.empty()) return;
-  findings.Add("labels-padded", std::string(labels.Param),
-               fmt::format("{} hold zero bytes where blanks belong ({}): the program does not find "
-                           "them by their names.",
-                           Counted(static_cast<std::int64_t>(padded.size()),
-                                   fmt::format("{} label", labels.Thing)),
-                           Listed(padded)));
-}
-
-// How many bytes behind the first one of a UTF-8 character must follow; -1 where none begins so.
-int FollowingBytes(unsigned char first) {
-  if (first < 0x80U) return 0;
-  if (first >= 0xC2U && first <= 0xDFU) return 1;
-  if (first >= 0xE0U && first <= 0xEFU) return 2;
-  if (first >= 0xF0U && first <= 0xF4U) return 3;
-  return -1;
+  findings.Add(
+      "labels-padded", std::string(labels.Param),
+      fmt::format("{} zero bytes where blanks belong ({}): no report finds {} by name.",
+                  CountedWith(padded, fmt::format("{} label", labels.Thing), "holds", "hold"),
+                  Listed(padded), padded.size() == 1 ? "it" : "them"));
 }
 
 bool IsUtf8BeyondAscii(std::string_view bytes) {
-  bool isBeyond = false;
-  while (!bytes.empty()) {
-    const int following = FollowingBytes(static_cast<unsigned char>(bytes.front()));
-    if (following < 0 || bytes.size() <= static_cast<std::size_t>(following)) return false;
-    bytes.remove_prefix(1);
-    isBeyond |= following > 0;
-    for (int i = 0; i < following; ++i) {
-      if ((static_cast<unsigned char>(bytes.front()) & 0xC0U) != 0x80U) return false;
-      bytes.remove_prefix(1);
-    }
-  }
-  return isBeyond;
+  constexpr unsigned char kLastAscii = 127;
+  const auto isBeyond = [](char byte) { return static_cast<unsigned char>(byte) > kLastAscii; };
+  return std::ranges::any_of(bytes, isBeyond) && modAllPurpose::WithReplacements(bytes) == bytes;
 }
 
 void CheckEncoding(const LabelsOfKind& labels, Findings& findings) {
   std::vector<std::string> names;
   for (const FileLabel& label : labels.Given) {
     if (!IsUtf8BeyondAscii(label.Bytes)) continue;
-    names.push_back(fmt::format("{} for {}", Shown(label.Name), Shown(Trimmed(label.Bytes))));
+    names.push_back(
+        fmt::format("{} in place of {}", Shown(label.Name), Shown(Trimmed(label.Bytes))));
   }
   if (names.empty()) return;
-  findings.Add("labels-encoding", std::string(labels.Param),
-               fmt::format("{} seem to be written as UTF-8, but the format's texts are read as "
-                           "Windows-1252, so they come out as {}.",
-                           Counted(static_cast<std::int64_t>(names.size()),
-                                   fmt::format("{} label", labels.Thing)),
-                           Listed(names)));
+  findings.Add(
+      "labels-encoding", std::string(labels.Param),
+      fmt::format("{} to be written as UTF-8, but the format's texts are read as "
+                  "Windows-1252, so ask for {}; values are not touched.",
+                  CountedWith(names, fmt::format("{} label", labels.Thing), "seems", "seem"),
+                  Listed(names)));
 }
 
 void CheckSingleLetters(const LabelsOfKind& points, Findings& findings) {
@@ -163,8 +161,8 @@ void CheckSingleLetters(const LabelsOfKind& points, Findings& findings) {
     const std::string key = SearchKey(label.Name);
     if (key != "L" && key != "R") continue;
     findings.Add("label-single-letter", label.Name,
-                 fmt::format("Point {} is called {}: in the GCD files of the {} side it would "
-                             "stand for every curve whose own label is missing.",
+                 fmt::format("Point {} is called {}: GCD files of the {} side would take it for "
+                             "every curve whose own label is missing, so rename it.",
                              label.Number, label.Name, key == "L" ? "left" : "right"));
   }
 }

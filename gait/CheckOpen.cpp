@@ -76,20 +76,22 @@ Fault WrongRate(const CheckedTrial& trial) {
   if (!camera) {
     return {BytePlace(kRatePosition),
             fmt::format("The frame rate is {} Hz in the header and TRIAL:CAMERA_RATE gives none; "
-                        "it must be at least 1 Hz, or no time can be told.",
+                        "it must be at least 1 Hz to tell any time, so the file cannot be opened.",
                         header)};
   }
   return {"TRIAL:CAMERA_RATE",
           fmt::format("The frame rate is {} Hz in TRIAL:CAMERA_RATE, which counts, and {} Hz in "
-                      "the header; it must be at least 1 Hz, or no time can be told.",
+                      "the header; it must be at least 1 Hz to tell any time, so the file cannot "
+                      "be opened.",
                       NumberText(*camera), header)};
 }
 
 Fault WrongFrames(const CheckedTrial& trial) {
-  return {BytePlace(kFirstFramePosition),
-          fmt::format("The frames of the header run from {} to {}, and from 1 to 32767 of them are "
-                      "needed: the trial is empty or too long for this format.",
-                      trial.Header.FirstPointFrameNumber, trial.Header.LastPointFrameNumber)};
+  return {
+      BytePlace(kFirstFramePosition),
+      fmt::format("The frames of the header run from {} to {}, and from 1 to 32767 of them are "
+                  "needed: the trial is empty or too long for this format and cannot be opened.",
+                  trial.Header.FirstPointFrameNumber, trial.Header.LastPointFrameNumber)};
 }
 
 Fault FaultOfResult(const CheckedTrial& trial) {
@@ -111,8 +113,9 @@ Fault FaultOfResult(const CheckedTrial& trial) {
       return WrongScale(trial);
     case OpenResult::NoPointLabels:
       return {BytePlace(kPointCountPosition),
-              fmt::format("The header counts {} points, and at least 1 is needed.",
-                          trial.Header.PointLabelCount)};
+              fmt::format("The header counts {}, and at least 1 is needed, so the file cannot be "
+                          "opened.",
+                          Counted(trial.Header.PointLabelCount, "point"))};
     case OpenResult::NoFrames:
       return WrongFrames(trial);
     case OpenResult::FrameRateNotSet:
@@ -199,7 +202,7 @@ void CheckDataLength(const CheckedTrial& trial, Findings& findings) {
       "data-cut-short", BytePlace(static_cast<std::int64_t>(trial.FileSize)),
       fmt::format("The file ends at byte {} and holds {} of the {} that its header "
                   "counts: listings and curves end in an error, and what came later is "
-                  "lost.",
+                  "not in this copy.",
                   trial.FileSize, Counted(trial.FrameCount, "whole frame"), state.PointFrameCount));
 }
 

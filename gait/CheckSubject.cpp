@@ -27,7 +27,7 @@ void CheckReadable(const std::vector<GivenDate>& dates, Findings& findings) {
     if (given.Date) continue;
     findings.Add("subject-date", given.Place,
                  fmt::format("{} is \"{}\", which is no date in the form 2026-11-20: it counts as "
-                             "missing, and the age in GCD files goes without it.",
+                             "missing, and where no other is found the age in GCD files is 0.00.",
                              given.Place, Shown(given.Text)));
   }
 }

@@ -39,8 +39,8 @@ void CheckMomentUnits(const CheckedTrial& trial, Findings& findings) {
   const std::string key = UnitKey(unit);
   if (key.empty() || IsMomentUnit(key)) return;
   findings.Add("moment-units", "POINT:MOMENT_UNITS",
-               fmt::format("Moments are in {}, but GCD files are made as if they were in Nmm, one "
-                           "thousandth of each value: theirs come out wrong.",
+               fmt::format("Moments are in {}, but GCD files take them for Nmm and hold one "
+                           "thousandth of each value: the moments there come out wrong.",
                            Shown(unit)));
 }
 

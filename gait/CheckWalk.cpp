@@ -172,21 +172,20 @@ void AddWalkFindings(const CheckedTrial& trial, const WalkStrides& walk, Finding
   if (!walk.AlongX.empty() && !walk.AlongY.empty()) {
     findings.Add(
         "walk-turns", StrideText(walk.AlongY.front()),
-        fmt::format("Strides go along different axes, X in {} and Y in {}: the subject turned "
+        fmt::format("Strides go along different axes, X in {}, but Y in {}: the subject turned "
                     "or walked diagonally, and their GCD files show different planes.",
                     Listed(NamesOf(walk.AlongX)), Listed(NamesOf(walk.AlongY))));
   }
   // Where the scale is not known, neither is a length.
   if (walk.InPlace.empty() || trial.Outcome.Result == OpenResult::ScaleFactorCorrupt) return;
   constexpr double kMillimetres = 1000;
+  const bool isOne = walk.InPlace.size() == 1;
   findings.Add(
       "walk-in-place", StrideText(walk.InPlace.front()),
-      fmt::format("{} shorter than 100 mm ({} at the least), as on a treadmill: lengths, "
-                  "speed and direction of {} say nothing.",
-                  walk.InPlace.size() == 1 ? fmt::format("{} is", StrideText(walk.InPlace.front()))
-                                           : fmt::format("{} are", Listed(NamesOf(walk.InPlace))),
-                  fmt::format("{:.1f} mm", walk.ShortestInPlace * kMillimetres),
-                  walk.InPlace.size() == 1 ? "it" : "them"));
+      fmt::format("{} {} shorter than 100 mm ({}{:.1f} mm), as on a treadmill: length, speed and "
+                  "direction say nothing there, and summaries leave them out.",
+                  Listed(NamesOf(walk.InPlace)), isOne ? "is" : "are", isOne ? "" : "the least ",
+                  walk.ShortestInPlace * kMillimetres));
 }
 
 void CheckToesMissing(const ToeMarkers& toes, Findings& findings) {

@@ -12,6 +12,7 @@
 #include "c3d/LabelTables.h"
 #include "c3d/PointSurvey.h"
 #include "c3d/StoredNumbers.h"
+#include "gait/CheckText.h"
 #include "gait/EventExtraction.h"
 #include "support/RuntimeError.h"
 #include "support/Text.h"
@@ -73,7 +74,7 @@ std::string CheckedTrial::PointName(std::int32_t index) const {
   const std::string number = fmt::format("point {}", index);
   const std::string name =
       index <= State.PointLabels.Count() ? State.PointLabels[index] : std::string();
-  if (name.empty()) return number;
+  if (Shown(name).empty()) return number;
   return GetPointLabelIndex(State, name) == index ? name : fmt::format("{} ({})", name, number);
 }
 

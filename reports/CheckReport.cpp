@@ -53,9 +53,10 @@ void ShowFindings(const std::vector<Finding>& findings, modAllPurpose::ReportOut
     output.Line("Nothing unusual was found.");
     return;
   }
-  AlignedText text({{"", Align::Left}, {"", Align::Left}, {"", Align::Left}});
+  AlignedText text({{"", Align::Left}, {"", Align::Left}, {"", Align::Left}, {"", Align::Left}});
   for (const Finding& finding : findings) {
-    text.AddRow({std::string(SeverityName(finding.Level)), finding.Place, finding.Message});
+    text.AddRow(
+        {std::string(SeverityName(finding.Level)), finding.Code, finding.Place, finding.Message});
   }
   text.Print(output);
 }

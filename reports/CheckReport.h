@@ -19,7 +19,8 @@ std::vector<modVantrel::Finding> CheckFile(const std::string& file);
 void CheckRows(std::string_view file, const std::vector<modVantrel::Finding>& findings,
                TableOutput& table);
 
-// The findings as an aligned table, or one line that there are none.
+// The findings as an aligned table of severity, code, place and sentence, or one line that there
+// are none.
 void ShowFindings(const std::vector<modVantrel::Finding>& findings,
                   modAllPurpose::ReportOutput& output);
 

@@ -2,8 +2,6 @@
 
 #include "reports/CsvTable.h"
 
-#include <algorithm>
-#include <array>
 #include <cmath>
 
 #include <fmt/format.h>
@@ -16,26 +14,19 @@ using modAllPurpose::AppendShortest;
 using modAllPurpose::kRoomOfFloat;
 using modAllPurpose::PutShortest;
 
-namespace {
-
-void AppendField(std::string& line, std::string_view text) {
-  if (text.find_first_of(",\"\r\n") == std::string_view::npos) {
-    line += text;
-    return;
-  }
-  line += '"';
-  for (const char character : text) {
-    if (character == '"') line += '"';
-    line += character;
-  }
-  line += '"';
+void CsvTable::Separate() {
+  if (!atStart_) Append(",");
+  atStart_ = false;
 }
 
-}  // namespace
+char* CsvTable::Room(std::size_t size) {
+  if (line_.size() - used_ < size) line_.resize(2 * (used_ + size));
+  return line_.data() + used_;
+}
 
-void CsvTable::Separate() {
-  if (!atStart_) line_ += ',';
-  atStart_ = false;
+void CsvTable::Append(std::string_view text) {
+  text.copy(Room(text.size()), text.size());
+  used_ += text.size();
 }
 
 void CsvTable::Begin(std::span<const std::string_view> columns) {
@@ -45,55 +36,66 @@ void CsvTable::Begin(std::span<const std::string_view> columns) {
 
 void CsvTable::Text(std::string_view text) {
   Separate();
-  AppendField(line_, text);
+  if (text.find_first_of(",\"\r\n") == std::string_view::npos) {
+    Append(text);
+  } else {
+    AppendQuoted(text);
+  }
+}
+
+void CsvTable::AppendQuoted(std::string_view text) {
+  Append("\"");
+  for (const char& character : text) {
+    if (character == '"') Append("\"");
+    Append({&character, 1});
+  }
+  Append("\"");
 }
 
 void CsvTable::Number(std::int64_t number) {
   Separate();
   const fmt::format_int digits(number);
-  line_.append(digits.data(), digits.size());
+  Append({digits.data(), digits.size()});
 }
 
-void CsvTable::Number(float number) {
-  Separate();
-  if (std::isfinite(number)) AppendShortest(line_, number);
-}
+void CsvTable::Number(float number) { Numbers({&number, 1}); }
 
 void CsvTable::Number(double number) {
   Separate();
-  if (std::isfinite(number)) AppendShortest(line_, number);
+  if (!std::isfinite(number)) return;
+  std::string digits;
+  AppendShortest(digits, number);
+  Append(digits);
+}
+
+// What a table of samples is made of: written at its place, with nothing in between.
+void CsvTable::Numbers(std::span<const float> numbers) {
+  char* const begin = Room(numbers.size() * (kRoomOfFloat + 1));
+  char* end = begin;
+  for (const float number : numbers) {
+    *end = ',';
+    end += atStart_ ? 0 : 1;
+    atStart_ = false;
+    if (std::isfinite(number)) end = PutShortest(end, number);
+  }
+  used_ += static_cast<std::size_t>(end - begin);
 }
 
 void CsvTable::BeginRowsWith(std::span<const std::string_view> texts) {
   DropRow();
   for (const std::string_view text : texts) Text(text);
-  sharedSize_ = line_.size();
+  sharedSize_ = used_;
   rowsShare_ = !texts.empty();
 }
 
-void CsvTable::Numbers(std::span<const float> numbers) {
-  constexpr std::size_t kAtATime = 8;
-  std::array<char, kAtATime*(kRoomOfFloat + 1)> fields;
-  while (!numbers.empty()) {
-    char* end = fields.data();
-    for (const float number : numbers.first(std::min(kAtATime, numbers.size()))) {
-      if (!atStart_) *end++ = ',';
-      atStart_ = false;
-      if (std::isfinite(number)) end = PutShortest(end, number);
-    }
-    line_.append(fields.data(), end);
-    numbers = numbers.subspan(std::min(kAtATime, numbers.size()));
-  }
-}
-
 void CsvTable::EndRow() {
-  output_.Line(line_);
-  line_.resize(sharedSize_);
+  output_.Line({line_.data(), used_});
+  used_ = sharedSize_;
   atStart_ = !rowsShare_;
 }
 
 void CsvTable::DropRow() {
-  line_.clear();
+  used_ = 0;
   sharedSize_ = 0;
   rowsShare_ = false;
   atStart_ = true;

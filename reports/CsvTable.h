@@ -34,9 +34,14 @@ class CsvTable : public TableOutput {
 
  private:
   void Separate();
+  void Append(std::string_view text);
+  void AppendQuoted(std::string_view text);
+  // Where the next `size` characters of the line go.
+  char* Room(std::size_t size);
 
   modAllPurpose::ReportOutput& output_;
-  std::string line_;
+  std::string line_;  // as far as it is used
+  std::size_t used_ = 0;
   std::size_t sharedSize_ = 0;  // of what each row begins with, which stays in the line
   bool rowsShare_ = false;      // whether they begin with anything
   bool atStart_ = true;         // of a row

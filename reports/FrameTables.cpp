@@ -131,38 +131,49 @@ void NormalizedRowsOf(const FileState& state, std::string_view file, std::int32_
 
 using RowsOf = void (*)(const FileState&, std::string_view, std::int32_t, TableOutput&);
 
+AskedLabels AskedPoints(const FileState& state, const TableOptions& options) {
+  return FindAskedLabels(state.PointLabels, options, "point label not found");
+}
+
+AskedLabels AskedChannels(const FileState& state, const TableOptions& options) {
+  return FindAskedLabels(state.AnalogLabels, options, "analog label not found");
+}
+
 Complaints RowsOfLabels(const FileState& state, std::string_view file, const AskedLabels& asked,
                         RowsOf rows, TableOutput& table) {
   for (const std::int32_t number : asked.Numbers) rows(state, file, number, table);
-  return asked.Missing;
+  return {};
 }
-
-constexpr const char* kNoPoint = "point label not found";
-constexpr const char* kNoChannel = "analog label not found";
 
 }  // namespace
 
+Complaints MissingPoints(const FileState& state, const TableOptions& options) {
+  return AskedPoints(state, options).Missing;
+}
+
+Complaints MissingChannels(const FileState& state, const TableOptions& options) {
+  return AskedChannels(state, options).Missing;
+}
+
 Complaints PointRows(const FileState& state, std::string_view file, const TableOptions& options,
                      TableOutput& table) {
-  const AskedLabels asked = FindAskedLabels(state.PointLabels, options, kNoPoint);
+  const AskedLabels asked = AskedPoints(state, options);
   for (std::span<const std::int32_t> left = asked.Numbers; !left.empty();) {
     const std::int32_t count = NeighboursOf(state, left);
     PointRowsOfNeighbours(state, file, left.front(), count, table);
     left = left.subspan(static_cast<std::size_t>(count));
   }
-  return asked.Missing;
+  return {};
 }
 
 Complaints AnalogRows(const FileState& state, std::string_view file, const TableOptions& options,
                       TableOutput& table) {
-  return RowsOfLabels(state, file, FindAskedLabels(state.AnalogLabels, options, kNoChannel),
-                      AnalogRowsOf, table);
+  return RowsOfLabels(state, file, AskedChannels(state, options), AnalogRowsOf, table);
 }
 
 Complaints NormalizedRows(const FileState& state, std::string_view file,
                           const TableOptions& options, TableOutput& table) {
-  return RowsOfLabels(state, file, FindAskedLabels(state.PointLabels, options, kNoPoint),
-                      NormalizedRowsOf, table);
+  return RowsOfLabels(state, file, AskedPoints(state, options), NormalizedRowsOf, table);
 }
 
 }  // namespace reports

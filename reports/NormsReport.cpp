@@ -75,17 +75,20 @@ class NormsReport : public PooledReport {
  public:
   explicit NormsReport(const TableOptions& options) : labels_(options) {}
 
-  Complaints Add(const modVantrel::FileState& trial) override {
+  Complaints Missing(const modVantrel::FileState& trial) const override {
+    std::set<std::string> held;
+    for (const std::string& label : trial.PointLabels) {
+      const std::string key = modAllPurpose::SearchKey(label);
+      if (visit::IsNormLabel(key)) held.insert(key.substr(1));
+    }
+    return labels_.Missing(held);
+  }
+
+  void Add(const modVantrel::FileState& trial) override {
     const auto curves = visit::CurvesOfTrial(trial, [this](const std::string& key) {
       return visit::IsNormLabel(key) && labels_.Include(key.substr(1));
     });
-    std::set<std::string> held;
-    for (const auto& label : curves) {
-      held.insert(modAllPurpose::SearchKey(label.Label).substr(1));
-    }
-    Complaints complaints = labels_.Missing(held);
     norms_.Add(curves, visit::MeasuresOfStrides(trial));
-    return complaints;
   }
 
   Complaints WriteRows(TableOutput& table) const override {

@@ -17,9 +17,12 @@ class PooledReport {
   PooledReport& operator=(const PooledReport&) = delete;
   virtual ~PooledReport() = default;
 
-  // Takes in the strides of an open trial whose further labels were added. What the trial lacks
-  // comes back. A RuntimeError leaves the report as it was without the trial.
-  virtual Complaints Add(const modVantrel::FileState& trial) = 0;
+  // A complaint for each label asked for that an open trial, whose further labels were added,
+  // lacks.
+  virtual Complaints Missing(const modVantrel::FileState& /*trial*/) const { return {}; }
+
+  // Takes in the strides of such a trial. A RuntimeError leaves the report as it was without it.
+  virtual void Add(const modVantrel::FileState& trial) = 0;
 
   // Writes the rows, without Begin and End, or the aligned text. What could not be worked out comes
   // back.

@@ -44,14 +44,13 @@ class ScoresReport : public PooledReport {
  public:
   explicit ScoresReport(visit::Normals normals) : normals_(std::move(normals)) {}
 
-  Complaints Add(const modVantrel::FileState& trial) override {
+  void Add(const modVantrel::FileState& trial) override {
     const auto curves = visit::CurvesOfTrial(trial, visit::Scores::Needs);
     std::vector<GaitSide> sides;
     for (const std::int32_t i : visit::CompleteStrides(trial)) {
       sides.push_back(trial.GaitEvents.ValidStrides[i].Side);
     }
     scores_.Add(curves, sides);
-    return {};
   }
 
   Complaints WriteRows(TableOutput& table) const override {

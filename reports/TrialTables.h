@@ -9,9 +9,15 @@
 
 // The rows of the tables that are made of one open trial, in the columns of TableColumns.h. `file`
 // is the trial's name as it stands in each row. A label is any of the trial's, those that were
-// added from its further tables included; one that it lacks is complained of and its rows are left
-// out. Errors as the text reports of the same names.
+// added from its further tables included; the rows of one that it lacks are left out. Errors as the
+// text reports of the same names.
 namespace reports {
+
+// A complaint for each label of the options that the trial lacks: of points for the tables of
+// points and curves, of channels for that of channels. Ask before the rows, which may end in an
+// error.
+Complaints MissingPoints(const modVantrel::FileState& state, const TableOptions& options);
+Complaints MissingChannels(const modVantrel::FileState& state, const TableOptions& options);
 
 // The single values of the header and what is derived from it.
 Complaints HeaderRows(const modVantrel::FileState& state, std::string_view file,

@@ -22,14 +22,16 @@ class VariabilityReport : public PooledReport {
  public:
   explicit VariabilityReport(const TableOptions& options) : labels_(options) {}
 
-  Complaints Add(const modVantrel::FileState& trial) override {
-    const auto curves = visit::CurvesOfTrial(
-        trial, [this](const std::string& key) { return labels_.Include(key); });
+  Complaints Missing(const modVantrel::FileState& trial) const override {
     std::set<std::string> held;
-    for (const auto& label : curves) held.insert(modAllPurpose::SearchKey(label.Label));
-    Complaints complaints = labels_.Missing(held);
-    variability_.Add(curves);
-    return complaints;
+    for (const std::string& label : trial.PointLabels) held.insert(modAllPurpose::SearchKey(label));
+    held.erase("");  // an empty label has no curves here
+    return labels_.Missing(held);
+  }
+
+  void Add(const modVantrel::FileState& trial) override {
+    variability_.Add(visit::CurvesOfTrial(
+        trial, [this](const std::string& key) { return labels_.Include(key); }));
   }
 
   Complaints WriteRows(TableOutput& table) const override {

@@ -11,9 +11,8 @@ namespace {
 
 class VisitReport : public PooledReport {
  public:
-  Complaints Add(const modVantrel::FileState& trial) override {
+  void Add(const modVantrel::FileState& trial) override {
     summary_.Add(visit::MeasuresOfStrides(trial));
-    return {};
   }
 
   Complaints WriteRows(TableOutput& table) const override {

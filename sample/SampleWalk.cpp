@@ -7,6 +7,8 @@
 #include <cmath>
 #include <numbers>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace sample {
 
@@ -83,7 +85,7 @@ struct ModelOutput {
   Wave Z;
 };
 
-// Angles in degrees, moments in N mm/kg, powers in W/kg (in Z).
+// Angles in degrees, moments in Nmm/kg, powers in W/kg (in Z).
 constexpr std::array kModelOutputs = {
     ModelOutput{"PelvisAngles", {11, 1.2, 0.4, 0.8, 1.0}, {0, 4.1, 0.2, 0, 0}, {0, 5.0, 1.5, 0, 0}},
     ModelOutput{"HipAngles", {14, 21, 1.5, 4, 0.3}, {1, 6, 0.4, 1, 0}, {3, 4, 2.0, 2, 1.0}},
@@ -141,6 +143,30 @@ void AddModel(TrialBuilder& walk, const std::string& side, double firstStrike) {
   }
 }
 
+// The labels of both sides whose names end in `ending`.
+std::vector<std::string> ModelLabels(std::string_view ending) {
+  std::vector<std::string> labels;
+  for (const char* side : {"L", "R"}) {
+    for (const ModelOutput& output : kModelOutputs) {
+      if (std::string_view(output.Name).ends_with(ending))
+        labels.push_back(side + std::string(output.Name));
+    }
+  }
+  return labels;
+}
+
+// What the model's outputs are, and the units of everything.
+void AddUnits(TrialBuilder& walk) {
+  walk.SetParam("POINT", TextParam("UNITS", "mm"));
+  walk.SetParam("POINT", TextListParam("ANGLES", ModelLabels("Angles")));
+  walk.SetParam("POINT", TextParam("ANGLE_UNITS", "deg"));
+  walk.SetParam("POINT", TextListParam("MOMENTS", ModelLabels("Moment")));
+  walk.SetParam("POINT", TextParam("MOMENT_UNITS", "Nmm/kg"));
+  walk.SetParam("POINT", TextListParam("POWERS", ModelLabels("Power")));
+  walk.SetParam("POINT", TextParam("POWER_UNITS", "W/kg"));
+  walk.SetParam("ANALOG", TextListParam("UNITS", {"N", "N", "N", "mV", "mV"}));
+}
+
 void AddEvents(TrialBuilder& walk, const std::string& context, double firstStrike) {
   for (int stride = 0; stride <= 3; ++stride) {
     const double strike = firstStrike + stride * kStrideTime;
@@ -182,6 +208,7 @@ TrialBuilder SampleWalk() {
   AddEvents(walk, "Right", kFirstRightStrike);
   walk.AddEvent("Right", "Foot Off", Seconds(kFirstRightStrike - (1 - kStance) * kStrideTime));
   walk.AddEvent("General", "Start", 0.0F);
+  AddUnits(walk);
   AddSubject(walk);
   return walk;
 }

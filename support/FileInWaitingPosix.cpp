@@ -12,6 +12,7 @@
 
 #include <fmt/format.h>
 
+#include "support/Descriptor.h"
 #include "support/FileInWaiting.h"
 #include "support/RuntimeError.h"
 
@@ -31,8 +32,6 @@ constexpr mode_t kOwnersAlone = S_IRUSR | S_IWUSR;
 constexpr mode_t kNewFile = kOwnersAlone | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH;
 constexpr const char* kAccessList = "system.posix_acl_access";
 constexpr int kAttempts = 100;
-
-int Descriptor(std::intptr_t handle) { return static_cast<int>(handle); }
 
 class OpenDescriptor {
  public:

@@ -5,16 +5,11 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "support/Descriptor.h"
 #include "support/RandomAccessFile.h"
 #include "support/RuntimeError.h"
 
 namespace modAllPurpose {
-
-namespace {
-
-int Descriptor(std::intptr_t handle) { return static_cast<int>(handle); }
-
-}  // namespace
 
 void RandomAccessFile::Open(const std::string& path) {
   Close();

@@ -43,7 +43,7 @@ struct Decimal {
 };
 
 // The least n with 10^-n <= 2^exponent.
-int DecimalsFor(int exponent) {
+int LeastDecimals(int exponent) {
   constexpr std::int64_t kLog10Of2 = 1292913986;  // in units of 2^-32
   return static_cast<int>(-((exponent * kLog10Of2) >> 32));
 }
@@ -53,7 +53,7 @@ int DecimalsFor(int exponent) {
 // of them are wider: so it is the nearest multiple of ten, where that is near enough, or else the
 // nearest unit. Worked out exactly, in 2^-bits of a unit. The gaps on both sides must be equal.
 Decimal ShortestOf(std::uint32_t mantissa, int exponent) {
-  const int decimals = DecimalsFor(exponent);
+  const int decimals = LeastDecimals(exponent);
   const int bits = 1 - exponent;
   const std::uint64_t halfGap = PowerOfTen(decimals);
   const std::uint64_t value = 2 * halfGap * mantissa;

@@ -60,12 +60,6 @@ std::string Numbered(const std::string& prefix, int number);
 modVantrel::FileState StateWithEvents(const std::vector<modVantrel::EventRecord>& events,
                                       float rate = 100.0F);
 
-// The entries of a table.
-template <typename Entry>
-std::vector<Entry> Entries(const modAllPurpose::OneBasedTable<Entry>& table) {
-  return {table.begin(), table.end()};
-}
-
 // The names of what stands in a folder, sorted.
 std::vector<std::string> NamesIn(const std::filesystem::path& folder);
 

@@ -14,6 +14,9 @@
 
 namespace tests {
 
+std::array<float, 3> Origin(std::int32_t /*frame*/) { return {0, 0, 0}; }
+float Silence(std::int32_t /*sample*/) { return 0; }
+
 TemporaryFolder::TemporaryFolder() {
   std::random_device random;
   std::ostringstream name;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <filesystem>
 #include <functional>
@@ -10,11 +11,22 @@
 #include "c3d/FileState.h"
 #include "c3d/OpenC3dFile.h"
 #include "sample/TrialBuilder.h"
+#include "support/OneBasedTable.h"
 #include "support/ReportOutput.h"
 #include "support/RuntimeError.h"
 #include "tests/ErrorNumbers.h"
 
 namespace tests {
+
+// For TrialBuilder: a point that stays at the origin, and a channel without a signal.
+std::array<float, 3> Origin(std::int32_t frame);
+float Silence(std::int32_t sample);
+
+// The entries of a table, from 1 on.
+template <typename Entry>
+std::vector<Entry> Entries(const modAllPurpose::OneBasedTable<Entry>& table) {
+  return {table.begin(), table.end()};
+}
 
 // A folder of its own for one test, removed with everything in it.
 class TemporaryFolder {

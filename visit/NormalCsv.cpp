@@ -58,7 +58,7 @@ std::size_t InstantIn(const CsvRecord& record) {
   throw NormalFault{record.Line, fmt::format("the percent is 0, 2 ... 100, not {}", Quoted(field))};
 }
 
-class Reader {
+class TableReader {
  public:
   void Take(const CsvRecord& record) {
     if (record.Fields.size() != kHeading.size()) {
@@ -134,7 +134,7 @@ Normals NormalsOfCsv(std::string_view text) {
   if (!heading || heading->Fields != kHeading) {
     throw NormalFault{1, "neither a table of norms as csv nor a GCD file"};
   }
-  Reader reader;
+  TableReader reader;
   std::int64_t line = heading->Line;
   while (const auto record = records.Next()) {
     line = record->Line;

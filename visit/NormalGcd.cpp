@@ -54,7 +54,7 @@ std::string_view TrimmedOfWhite(std::string_view text) {
   return text.substr(first, text.find_last_not_of(kWhite) - first + 1);
 }
 
-class Reader {
+class GcdReader {
  public:
   void Take(std::string_view line) {
     ++line_;
@@ -138,7 +138,7 @@ class Reader {
 }  // namespace
 
 Normals NormalsOfGcd(std::string_view text) {
-  Reader reader;
+  GcdReader reader;
   while (!text.empty()) {
     const std::size_t length = std::min(text.find('\n'), text.size());
     reader.Take(text.substr(0, length));

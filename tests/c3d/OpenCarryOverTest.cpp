@@ -18,13 +18,9 @@ namespace {
 using namespace modVantrel;
 using sample::Trial;
 using sample::TrialBuilder;
-
-std::array<float, 3> Origin(std::int32_t /*frame*/) { return {0, 0, 0}; }
-float Silence(std::int32_t /*sample*/) { return 0; }
-
-std::vector<std::string> Entries(const modAllPurpose::OneBasedTable<std::string>& table) {
-  return {table.begin(), table.end()};
-}
+using tests::Entries;
+using tests::Origin;
+using tests::Silence;
 
 // A trial with the labels `first` and `second`.
 TrialBuilder WithLabels(const std::string& first, const std::string& second) {

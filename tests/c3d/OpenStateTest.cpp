@@ -17,15 +17,11 @@ using namespace modVantrel;
 using sample::Storage;
 using sample::Trial;
 using sample::TrialBuilder;
+using tests::Entries;
+using tests::Origin;
+using tests::Silence;
 
 using Integers = std::vector<std::int16_t>;
-
-std::array<float, 3> Origin(std::int32_t /*frame*/) { return {0, 0, 0}; }
-float Silence(std::int32_t /*sample*/) { return 0; }
-
-std::vector<std::string> Entries(const modAllPurpose::OneBasedTable<std::string>& table) {
-  return {table.begin(), table.end()};
-}
 
 // "E1  " to "E18 ": four characters, as the header has them.
 std::string EventLabel(std::uint8_t number) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <cmath>
 #include <string>
 #include <vector>
 
@@ -46,6 +47,28 @@ TEST(EventsNone, WhereParametersAreMissingNamesThem) {
   const auto findings = Check(walk);
   ASSERT_THAT(Places(findings), ElementsAre("events-none at EVENT:LABELS"));
   EXPECT_THAT(findings[0].Message, HasSubstr("EVENT:LABELS is missing and EVENT:TIMES is missing"));
+}
+
+TEST(EventOutside, OfTimesThatAreNoNumbersIsOneFinding) {
+  auto walk = CleanWalk();
+  const auto one = Check(walk.AddEvent("Right", "Foot Strike", std::nanf("")));
+  ASSERT_THAT(Places(one), ElementsAre("event-outside at EVENT:TIMES"));
+  EXPECT_EQ(one[0].Message,
+            "1 event has a time that is no number (Right Foot Strike): no stride takes it, and "
+            "strides around it may be lost.");
+  const auto two = Check(walk.AddEvent("General", "Stop", std::nanf("")));
+  EXPECT_THAT(MessageOf(two, "event-outside"),
+              HasSubstr("2 events have a time that is no number (Right Foot Strike and other event "
+                        "without side)"));
+}
+
+TEST(EventUnsided, OfManyEventsNamesTheFirst) {
+  auto walk = CleanWalk();
+  for (int i = 1; i <= 9; ++i) {
+    walk.AddEvent("General", "Foot Strike", 0.3F * static_cast<float>(i));
+  }
+  EXPECT_THAT(MessageOf(Check(walk), "event-unsided"),
+              HasSubstr("Foot Strike without side at 1.800 s and 3 more."));
 }
 
 // The trial ends at 2.99 s.

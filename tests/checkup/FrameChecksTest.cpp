@@ -2,7 +2,9 @@
 
 #include <array>
 #include <cmath>
+#include <cstdint>
 #include <string>
+#include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -35,14 +37,15 @@ TEST(PointGaps, GiveShareLongestGapAndTheStrideAroundIt) {
   ASSERT_THAT(Places(findings), ElementsAre("point-gaps at LKNE"));
   EXPECT_EQ(findings[0].Message,
             "LKNE is not seen in 17 of 300 frames (5.7 %), the longest gap is 14 frames, inside "
-            "Left stride 1 (which is left out of its means).");
+            "Left stride 1 (this stride is left out of the means of this marker).");
 }
 
 TEST(PointGaps, NameStridesThatOtherGapsTouch) {
   auto walk = WithKneeHidden(30, 44);
   const auto findings = Check(Hide(walk, tests::kLeftKnee, 261, 262));
   EXPECT_THAT(MessageOf(findings, "point-gaps"),
-              HasSubstr("inside Left stride 1; others touch Right stride 1 (these are left out"));
+              HasSubstr("inside Left stride 1; others touch Right stride 1 (these strides are"
+                        " left out of the means of this marker"));
 }
 
 TEST(PointGaps, TouchAStrideFromItsFirstFrameToItsLast) {
@@ -79,9 +82,49 @@ TEST(PointGaps, OfAPositionThatIsNoNumberCountAsUnseen) {
 }
 
 TEST(PointGaps, OfModelOutputsAreNone) {
-  auto walk = WithKneeHidden(3, 5);
-  EXPECT_THAT(Places(Check(walk.SetParam("POINT", sample::TextListParam("ANGLES", {"LKNE"})))),
-              IsEmpty());
+  for (const char* kind : {"ANGLES", "FORCES", "MOMENTS", "POWERS", "SCALARS"}) {
+    auto model = WithKneeHidden(3, 5);
+    EXPECT_THAT(Places(Check(model.SetParam("POINT", sample::TextListParam(kind, {"LKNE"})))),
+                IsEmpty())
+        << kind;
+  }
+}
+
+TEST(PointGaps, OfAPointWithoutALabelNameItsNumber) {
+  for (const std::string& label : {std::string(" "), std::string("\0\0", 2)}) {
+    auto walk = CleanWalk();
+    walk.AddPoint(label, tests::Standing(1, 2, 3));
+    constexpr std::size_t kLastPoint = 4;
+    EXPECT_THAT(MessageOf(Check(Hide(walk, kLastPoint, 3, 5)), "point-gaps"),
+                HasSubstr("point 4 is not seen in 3 of 300"));
+  }
+}
+
+TEST(PointGaps, OfAFurtherLabelNameIt) {
+  auto walk = CleanWalk();
+  std::vector<std::string> first = {"LTOE", "RTOE", "LKNE"};
+  constexpr std::size_t kLastOfFirstTable = 255;
+  while (first.size() < kLastOfFirstTable) {
+    first.push_back(tests::Numbered("P", static_cast<int>(first.size())));
+    walk.AddPoint(first.back(), tests::Standing(1, 2, 3));
+  }
+  walk.AddPoint("RKNE", tests::Standing(1, 2, 3));
+  walk.SetParam("POINT", sample::TextListParam("LABELS", first));
+  walk.SetParam("POINT", sample::TextListParam("LABELS2", {"RKNE"}));
+  EXPECT_THAT(Places(Check(Hide(walk, kLastOfFirstTable + 1, 3, 5))),
+              ElementsAre("labels-further at POINT:LABELS2", "point-gaps at RKNE"));
+}
+
+TEST(PointGaps, StandInTheOrderOfTheNumbersInTheirLabels) {
+  auto walk = CleanWalk();
+  std::size_t point = 3;
+  for (const char* label : {"M10", "M9", "M100"}) {
+    walk.AddPoint(label, tests::Standing(1, 2, 3));
+    ++point;
+    Hide(walk, point, 3, static_cast<std::int32_t>(point));
+  }
+  EXPECT_THAT(Places(Check(walk)),
+              ElementsAre("point-gaps at M9", "point-gaps at M10", "point-gaps at M100"));
 }
 
 TEST(PointNeverSeen, IsANoteAndNoGap) {
@@ -161,14 +204,22 @@ TEST(WalkTurns, BesideTheStridesAlongY) {
   const auto findings = Check(WalkBy({16, 0, 0}, {1, 16, 0}));
   ASSERT_THAT(Places(findings),
               ElementsAre("walk-along-y at Right stride 1", "walk-turns at Right stride 1"));
-  EXPECT_THAT(findings[1].Message, HasSubstr("X in Left stride 1 and Y in Right stride 1"));
+  EXPECT_THAT(findings[1].Message, HasSubstr("X in Left stride 1, but Y in Right stride 1"));
 }
 
 TEST(WalkInPlace, OfStridesBelowHundredMillimetres) {
   // 160 frames between the strikes of a foot.
   const auto findings = Check(WalkBy({99.5F / 160, 0, 0}, {16, 0, 0}));
   ASSERT_THAT(Places(findings), ElementsAre("walk-in-place at Left stride 1"));
-  EXPECT_THAT(findings[0].Message, HasSubstr("shorter than 100 mm (99.5 mm at the least)"));
+  EXPECT_THAT(findings[0].Message, HasSubstr("Left stride 1 is shorter than 100 mm (99.5 mm), as"));
+}
+
+TEST(WalkInPlace, OfTwoStridesNamesTheLeast) {
+  const auto findings = Check(WalkBy({0.5F, 0, 0}, {0.25F, 0, 0}));
+  ASSERT_THAT(Places(findings), ElementsAre("walk-in-place at Left stride 1"));
+  EXPECT_THAT(
+      findings[0].Message,
+      HasSubstr("Left stride 1 and Right stride 1 are shorter than 100 mm (the least 40.0"));
 }
 
 TEST(WalkInPlace, IsNotFoundAtHundredMillimetresExactly) {

@@ -2,6 +2,7 @@
 
 #include <fstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gmock/gmock.h>
@@ -202,6 +203,27 @@ TEST(AnalysisDiffers, ComparesOnlyTheSameSideAndWhatIsThere) {
   EXPECT_THAT(Places(Check(WithAnalysis("Stride Length", "Right", 5), Strides)), IsEmpty());
   EXPECT_THAT(Places(Check(WithAnalysis("Cadence", "General", 5), Strides)), IsEmpty());
   EXPECT_THAT(Places(Check(WithAnalysis("Normalcy Index", "Left", 5), Strides)), IsEmpty());
+}
+
+// The names that capture systems give, beside those that the measures have in a summary.
+TEST(AnalysisDiffers, ComparesTwelveMeasures) {
+  for (const auto& [name, measure] :
+       {std::pair{"Cadence", "cadence"}, std::pair{"Walking Speed", "walking_speed"},
+        std::pair{"Stride Time", "stride_time"}, std::pair{"Step Time", "step_time"},
+        std::pair{"Opposite Foot Off", "opposite_foot_off"},
+        std::pair{"Opposite Foot Contact", "opposite_foot_contact"},
+        std::pair{"Foot Off", "foot_off"}, std::pair{"Single Support", "single_support"},
+        std::pair{"Double Support", "double_support"}, std::pair{"Stride Length", "stride_length"},
+        std::pair{"Step Length", "step_length"}, std::pair{"Step Width", "step_width"}}) {
+    const auto strides = [measure = measure](const modVantrel::FileState&) {
+      return std::vector<SummaryStride>{{GaitSide::Right, {{measure, 8}}}};
+    };
+    EXPECT_THAT(MessageOf(Check(WithAnalysis(name, "Right", 9), strides), "analysis-differs"),
+                HasSubstr(std::string("Right ") + name +
+                          " is 9, but its own events and markers "
+                          "give 8 (1 stride)"));
+    EXPECT_THAT(Places(Check(WithAnalysis(name, "Right", 8), strides)), IsEmpty()) << name;
+  }
 }
 
 TEST(AnalysisDiffers, GoesByTheUnitOfTheValue) {

@@ -75,6 +75,25 @@ TEST(LabelsFurther, AreANoteWithTheirNames) {
               HasSubstr("5 labels stand behind the first 255 (P256, P257, P258, P259 and P260)"));
 }
 
+// The further labels of the walk of many points, with `label` as the first.
+std::vector<modVantrel::Finding> CheckFurther(const std::string& label) {
+  auto walk = WalkOfManyPoints();
+  return Check(walk.SetParam(
+      "POINT", sample::TextListParam("LABELS2", {label, "P257", "P258", "P259", "P260"})));
+}
+
+TEST(LabelsFurther, AreJudgedLikeTheFirst) {
+  EXPECT_THAT(tests::MessageOf(CheckFurther("ltoe"), "labels-repeated"),
+              HasSubstr("Points 1 and 256"));
+  EXPECT_THAT(tests::MessageOf(CheckFurther(""), "labels-empty"), HasSubstr("Point 256"));
+  EXPECT_THAT(tests::MessageOf(CheckFurther("R"), "label-single-letter"), HasSubstr("Point 256"));
+  EXPECT_THAT(tests::MessageOf(CheckFurther("*7"), "unlabelled-points"), HasSubstr("(*7)"));
+  EXPECT_THAT(tests::MessageOf(CheckFurther(std::string("R\0", 2)), "labels-padded"),
+              HasSubstr("(R)"));
+  EXPECT_THAT(tests::MessageOf(CheckFurther("\xC3\x96"), "labels-encoding"),
+              HasSubstr("1 point label seems"));
+}
+
 TEST(LabelsRepeated, OfPointsIgnoresCaseAndBlanks) {
   const auto findings = Check(WalkWith("lkne "));
   ASSERT_THAT(Places(findings), ElementsAre("labels-repeated at LKNE"));
@@ -111,14 +130,47 @@ TEST(LabelsEmpty, IsOneFindingForTwoChannels) {
 TEST(LabelsPadded, AreShownWithoutTheirZeroBytes) {
   const auto findings = Check(WalkWith(std::string("RKNE\0\0", 6)));
   ASSERT_THAT(Places(findings), ElementsAre("labels-padded at POINT:LABELS"));
-  EXPECT_THAT(findings[0].Message, HasSubstr("1 point label hold"));
+  EXPECT_THAT(findings[0].Message, HasSubstr("1 point label holds zero bytes"));
   EXPECT_THAT(findings[0].Message, HasSubstr("(RKNE)"));
+}
+
+TEST(LabelsPadded, OfAChannelAreSaidOfIt) {
+  auto walk = CleanWalk();
+  walk.AddAnalog(std::string("Fz2\0", 4), "Force", [](std::int32_t) { return 0.0F; });
+  const auto findings = Check(walk);
+  ASSERT_THAT(Places(findings), ElementsAre("labels-padded at ANALOG:LABELS"));
+  EXPECT_THAT(findings[0].Message, HasSubstr("1 channel label holds"));
+}
+
+TEST(LabelsPadded, OfZeroBytesAloneAreNamedByTheirNumbers) {
+  auto walk = WalkWith(std::string("\0\0", 2));
+  walk.AddPoint(std::string("\0\0", 2), tests::Standing(1, 2, 3));
+  const auto findings = Check(walk);
+  ASSERT_THAT(Places(findings),
+              ElementsAre("labels-repeated at POINT:LABELS", "labels-padded at POINT:LABELS"));
+  EXPECT_THAT(findings[0].Message, HasSubstr("Points 4 and 5 are both named by zero bytes alone"));
+  EXPECT_THAT(findings[1].Message, HasSubstr("2 point labels hold zero bytes"));
+  EXPECT_THAT(findings[1].Message, HasSubstr("(point 4 and point 5)"));
 }
 
 TEST(LabelsEncoding, OfUtf8IsANoteWithWhatWasMeant) {
   const auto findings = Check(WalkWith("KN\xC3\x96"));
   ASSERT_THAT(Places(findings), ElementsAre("labels-encoding at POINT:LABELS"));
-  EXPECT_THAT(findings[0].Message, HasSubstr("KN\xC3\x83\xE2\x80\x93 for KN\xC3\x96"));
+  EXPECT_THAT(findings[0].Message, HasSubstr("1 point label seems"));
+  EXPECT_THAT(findings[0].Message,
+              HasSubstr("ask for KN\xC3\x83\xE2\x80\x93 in place of KN\xC3\x96;"));
+}
+
+TEST(LabelsEncoding, OfBytesThatAreNoValidUtf8IsFine) {
+  for (const char* label : {"KN\xE0\x80\x96", "KN\xED\xA0\x80", "KN\xF4\x90\x80\x80"}) {
+    EXPECT_FALSE(tests::HasCode(Check(WalkWith(label)), "labels-encoding")) << label;
+  }
+}
+
+TEST(LabelsEncoding, OfAChannelIsSaidOfIt) {
+  auto walk = CleanWalk();
+  walk.AddAnalog("KN\xC3\x96", "Force", [](std::int32_t) { return 0.0F; });
+  EXPECT_THAT(Places(Check(walk)), ElementsAre("labels-encoding at ANALOG:LABELS"));
 }
 
 TEST(LabelsEncoding, OfWindowsLettersIsFine) {

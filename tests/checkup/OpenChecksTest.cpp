@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "gait/CheckFindings.h"
 #include "sample/SampleWalk.h"
 #include "tests/checkup/CheckedTrials.h"
 
@@ -22,9 +24,8 @@ using tests::Places;
 
 TEST(Checkup, FindsNothingInACleanWalk) { EXPECT_THAT(Places(Check(CleanWalk())), IsEmpty()); }
 
-TEST(Checkup, FindsNothingAboveANoteInTheSampleWalk) {
-  auto walk = sample::SampleWalk();
-  EXPECT_THAT(Places(Check(walk.SetParam("POINT", sample::TextParam("UNITS", "mm")))), IsEmpty());
+TEST(Checkup, FindsNothingInTheSampleWalk) {
+  EXPECT_THAT(Places(Check(sample::SampleWalk())), IsEmpty());
 }
 
 TEST(Checkup, FindsTheSameInEveryStorage) {
@@ -115,7 +116,8 @@ TEST(CannotOpen, OfNoPointsNamesTheirNumber) {
   auto walk = CleanWalk();
   auto trial = walk.SetParam("POINT", sample::IntegerParam("USED", 0)).Build();
   const auto findings = Check(trial.SetInteger(tests::header::kPointLabelCount, 0));
-  EXPECT_THAT(MessageOf(findings, "cannot-open"), HasSubstr("counts 0 points"));
+  EXPECT_THAT(MessageOf(findings, "cannot-open"),
+              HasSubstr("counts 0 points, and at least 1 is needed, so the file cannot be opened"));
 }
 
 TEST(CannotOpen, OfNoFramesNamesTheFirstAndTheLast) {
@@ -161,7 +163,21 @@ TEST(ParametersDamaged, WhereTheLastRecordReachesBeyondTheFileIsTheOnlyFindingOf
   // The chain leads far out of the file behind the record that all look-ups end at.
   trial.SetOffset(trial.ParamPosition("TRIAL", "DATE"), 32000);
   const auto findings = Check(trial);
-  EXPECT_TRUE(tests::HasCode(findings, "parameters-damaged"));
+  EXPECT_THAT(MessageOf(findings, "parameters-damaged"),
+              HasSubstr("reaches beyond the end of the file (" + std::to_string(trial.Size()) +
+                        " bytes), so it and all behind it are lost"));
+}
+
+TEST(ParametersDamaged, WhereAParameterHasTooManyDimensionsNamesItsByteAndTheError) {
+  auto walk = CleanWalk();
+  walk.SetParam(
+      "TRIAL",
+      {"ODD", std::vector<std::uint8_t>(8, 1), std::vector<std::int16_t>{1}, "", false, {}});
+  const auto trial = walk.Build();
+  const std::string byte = std::to_string(trial.ParamPosition("TRIAL", "ODD"));
+  EXPECT_EQ(MessageOf(Check(trial), "parameters-damaged"),
+            "The parameter at byte " + byte +
+                " cannot be read (Subscript out of range), so it and all behind it are lost.");
 }
 
 TEST(ParametersDamaged, WhereARecordLiesBehindSectionAndFirstFrame) {
@@ -211,6 +227,25 @@ TEST(DataCutShort, SaysWhereTheHeaderNamesNoBlock) {
   const auto findings =
       Check(trial.SetInteger(tests::header::kFirstMarkerAndAnalogBlockPointer, 0));
   EXPECT_THAT(Places(findings), ElementsAre("data-cut-short at byte 17"));
+}
+
+TEST(Checkup, KeepsItsCodesTheirOrderAndTheirSeverities) {
+  std::string kinds;
+  for (const modVantrel::CheckKind& kind : modVantrel::kCheckKinds) {
+    kinds += std::string(kind.Code) + " " + std::string(SeverityName(kind.Level)) + "\n";
+  }
+  EXPECT_EQ(kinds,
+            "cannot-open error\nparameters-damaged error\ndata-cut-short error\n"
+            "frame-count warning\nfirst-frame note\nrate-overridden note\npoint-count warning\n"
+            "analog-layout warning\nlabels-missing warning\nlabels-further note\n"
+            "labels-repeated warning\nlabels-empty warning\nlabels-padded warning\n"
+            "labels-encoding note\nlabel-single-letter warning\nunlabelled-points note\n"
+            "point-gaps warning\npoint-never-seen note\nunits warning\nmoment-units warning\n"
+            "events-none warning\nevent-outside warning\nevent-minutes warning\n"
+            "event-unsided note\nevent-order warning\nevent-close warning\n"
+            "strides-none warning\ntoe-markers warning\nwalk-along-y warning\n"
+            "walk-turns warning\nwalk-in-place warning\nanalysis-differs warning\n"
+            "force-plates warning\nsubject-missing note\nsubject-date warning\n");
 }
 
 TEST(Checkup, FindsSeveralFaultsOfOneFile) {

@@ -33,7 +33,7 @@ TEST_F(CheckTest, WarningsLeaveTheStatusAlone) {
   const ToolResult run = RunInside({"check", file});
   EXPECT_EQ(run.Status, 0);
   EXPECT_EQ(run.Err, "");
-  EXPECT_THAT(run.Out, HasSubstr("warning  EVENT:USED"));
+  EXPECT_THAT(run.Out, HasSubstr("\nwarning  events-none      EVENT:USED   The file has no"));
 }
 
 TEST_F(CheckTest, ErrorIsTheStatusAndStandsOnStandardOutput) {

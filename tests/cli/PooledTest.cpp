@@ -3,6 +3,8 @@
 #include <fstream>
 #include <rapidjson/document.h>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -60,6 +62,81 @@ TEST_F(PooledTest, FileThatFailsIsNamedAndLeftOutWhole) {
   EXPECT_EQ(both.Status, 1);
   EXPECT_EQ(both.Out, alone.Out);
   EXPECT_EQ(both.Err, "vantrel-report: " + bad + ": Run-time error '62': Input past end of file\n");
+}
+
+TEST_F(PooledTest, LabelThatATrialLacksIsNamedBeforeTheErrorThatLeavesItOut) {
+  sample::Trial cut = Walk().Build();
+  const std::string bad = Given("bad.c3d", cut.TruncateTo(cut.Size() - 600));
+  for (const auto& [report, label] :
+       {std::pair{"variability", "LKneeAngles"}, std::pair{"norms", "KneeAngles"}}) {
+    const ToolResult run =
+        RunInside({"--format", "csv", "--label", label, "--label", "Nothing", report, bad});
+    EXPECT_EQ(run.Status, 1) << report;
+    EXPECT_EQ(run.Err, "vantrel-report: " + bad + ": point label not found: Nothing\n" +
+                           "vantrel-report: " + bad +
+                           ": Run-time error '62': Input past end of file\n")
+        << report;
+  }
+}
+
+TEST_F(PooledTest, EmptyLabelIsNoneThatATrialHas) {
+  sample::TrialBuilder builder = Walk();
+  const std::string file = Given("a.c3d", builder.AddPoint("", tests::Standing(1, 2, 3)).Build());
+  EXPECT_EQ(RunInside({"--format", "csv", "--label", "", "variability", file}).Err,
+            "vantrel-report: " + file + ": point label not found: \n");
+}
+
+// The walk behind 255 other points, so that its own labels stand in LABELS2.
+sample::TrialBuilder WalkOfFurtherLabels() {
+  sample::TrialBuilder builder = tests::WholeFrameTrial();
+  constexpr int kFirstTable = 255;
+  std::vector<std::string> first;
+  for (int i = 1; i <= kFirstTable; ++i) {
+    first.push_back(tests::Numbered("P", i));
+    builder.AddPoint(first.back(), tests::Standing(1, 2, 3));
+  }
+  builder.AddPoint("LTOE", tests::Moving({}, {20, 0, 0}))
+      .AddPoint("RTOE", tests::Standing(840, 100, 0))
+      .AddPoint("LKneeAngles", tests::Standing(30, 1, 2));
+  builder.SetParam("POINT", sample::TextListParam("LABELS", first));
+  return builder.SetParam("POINT",
+                          sample::TextListParam("LABELS2", {"LTOE", "RTOE", "LKneeAngles"}));
+}
+
+// What those reports print of the walk's labels is the same wherever these stand.
+TEST_F(PooledTest, FurtherLabelsAreFoundByTheirNames) {
+  const std::string normal = GivenText(
+      "norms.csv", RunInside({"--format", "csv", "norms", Given("norm.c3d", Walk().Build())}).Out);
+  const std::vector<std::vector<std::string>> reports = {{"summary"},
+                                                         {"visit"},
+                                                         {"--label", "LKneeAngles", "variability"},
+                                                         {"--label", "KneeAngles", "norms"},
+                                                         {"--normal", normal, "scores"}};
+  for (std::vector<std::string> command : reports) {
+    command.insert(command.begin(), {"--format", "csv"});
+    command.push_back(Given("a.c3d", Walk().Build()));
+    const ToolResult known = RunInside(command);
+    Given("a.c3d", WalkOfFurtherLabels().Build());
+    const ToolResult further = RunInside(command);
+    const std::string& report = command[command.size() - 2];
+    EXPECT_EQ(further.Out, known.Out) << report;
+    EXPECT_EQ(further.Err, known.Err) << report;
+    EXPECT_EQ(further.Status, known.Status) << report;
+  }
+}
+
+// So that the equality above is one of numbers.
+TEST_F(PooledTest, FurtherLabelsHaveValues) {
+  const std::string file = Given("a.c3d", WalkOfFurtherLabels().Build());
+  EXPECT_THAT(RunInside({"--format", "csv", "summary", file}).Out,
+              HasSubstr(",stride_length,m,1,,1,"));
+  EXPECT_THAT(RunInside({"summary", file}).Out, HasSubstr("1.00 (1)"));
+  EXPECT_THAT(RunInside({"--format", "csv", "visit", file}).Out,
+              HasSubstr("stride_length,m,1,,1,"));
+  EXPECT_THAT(RunInside({"--format", "csv", "--label", "lkneeangles", "variability", file}).Out,
+              HasSubstr("Left,LKneeAngles,x,1,"));
+  EXPECT_THAT(RunInside({"--format", "csv", "--label", "kneeangles", "norms", file}).Out,
+              HasSubstr("KneeAngles,x,0,30,,1,"));
 }
 
 TEST_F(PooledTest, NormsAreReadBackAsNormalValues) {

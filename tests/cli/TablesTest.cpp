@@ -57,6 +57,24 @@ sample::TrialBuilder Toes() {
   return builder;
 }
 
+// Two frames of two samples: Fz1 counts up from 1, Fz2 down from -1.
+sample::TrialBuilder TwoChannels() {
+  sample::TrialBuilder builder = Toes();
+  builder.SamplesPerFrame(2);
+  builder.AddAnalog("Fz1", "Up", [](std::int32_t sample) { return static_cast<float>(sample); });
+  builder.AddAnalog("Fz2", "Down", [](std::int32_t sample) { return static_cast<float>(-sample); });
+  return builder;
+}
+
+// One left stride, both toes and a channel.
+sample::TrialBuilder WalkWithChannels() {
+  sample::TrialBuilder builder = tests::WholeFrameTrial();
+  builder.AddPoint("LTOE", tests::Moving({}, {20, 0, 0}))
+      .AddPoint("RTOE", tests::Standing(840, 100, 0))
+      .AddAnalog("Fz1", "Force", [](std::int32_t) { return 1.0F; });
+  return builder;
+}
+
 TEST_F(TablesTest, PointHasTheFramesOfEachLabelInTheOrderAsked) {
   const std::string file = Given("walk.c3d", Toes());
   const ToolResult run =
@@ -129,6 +147,84 @@ TEST_F(TablesTest, EndsAsItMustWhereAReportEndsInAnError) {
   EXPECT_EQ(run.Status, 1);
   EXPECT_EQ(Parsed(run.Out).Size(), 0U);
   EXPECT_THAT(run.Err, HasSubstr("Run-time error '62'"));
+}
+
+TEST_F(TablesTest, LabelThatATrialLacksIsNamedBeforeTheErrorThatEndsItsRows) {
+  const std::string file = Given("walk.c3d", WalkWithChannels());
+  std::filesystem::resize_file(file, std::filesystem::file_size(file) - 600);
+  for (const auto& [report, label, kind] :
+       {std::array{"point", "LTOE", "point"}, std::array{"normalized", "LTOE", "point"},
+        std::array{"analog", "Fz1", "analog"}}) {
+    const ToolResult run =
+        RunInside({"--format", "csv", "--label", label, "--label", "LHEE", report, file});
+    EXPECT_EQ(run.Status, 1) << report;
+    EXPECT_EQ(run.Err, "vantrel-report: " + file + ": " + kind +
+                           " label not found: LHEE\nvantrel-report: " + file +
+                           ": Run-time error '62': Input past end of file\n")
+        << report;
+  }
+}
+
+TEST_F(TablesTest, AnalogHasTheSamplesOfEachLabelInTheOrderAsked) {
+  const std::string file = Given("walk.c3d", TwoChannels());
+  const ToolResult run =
+      RunInside({"--format", "csv", "--label", "fz2", "--label", "Fz1", "analog", file});
+  EXPECT_EQ(run.Status, 0) << run.Err;
+  EXPECT_EQ(run.Out, "file,label,frame,sample,time,value\n" + file + ",Fz2,5,1,0.04,-1\n" + file +
+                         ",Fz2,5,2,0.04,-2\n" + file + ",Fz2,6,3,0.05,-3\n" + file +
+                         ",Fz2,6,4,0.05,-4\n" + file + ",Fz1,5,1,0.04,1\n" + file +
+                         ",Fz1,5,2,0.04,2\n" + file + ",Fz1,6,3,0.05,3\n" + file +
+                         ",Fz1,6,4,0.05,4\n");
+}
+
+TEST_F(TablesTest, AnalogLabelThatATrialLacksIsComplainedOfAndTheOthersStand) {
+  const std::string file = Given("walk.c3d", TwoChannels());
+  const ToolResult run =
+      RunInside({"--format", "csv", "--label", "LTOE", "--label", "Fz1", "analog", file});
+  EXPECT_EQ(run.Status, 1);
+  EXPECT_EQ(run.Err, "vantrel-report: " + file + ": analog label not found: LTOE\n");
+  EXPECT_THAT(run.Out, HasSubstr(",Fz1,6,4,0.05,4\n"));
+}
+
+TEST_F(TablesTest, AllLabelsOfAnalogTakesRepeatedAndEmptyOnesByTheirPlace) {
+  sample::TrialBuilder builder = TwoChannels();
+  builder.AddAnalog("Fz1", "Again", [](std::int32_t) { return 7.0F; });
+  builder.AddAnalog("", "None", [](std::int32_t) { return 8.0F; });
+  const auto document = Parsed(
+      RunInside({"--format", "json", "--all-labels", "analog", Given("walk.c3d", builder)}).Out);
+  ASSERT_EQ(document.Size(), 16U);
+  EXPECT_STREQ(document[4]["label"].GetString(), "Fz2");
+  EXPECT_STREQ(document[8]["label"].GetString(), "Fz1");
+  EXPECT_EQ(document[8]["value"].GetDouble(), 7);
+  EXPECT_STREQ(document[12]["label"].GetString(), "");
+  EXPECT_EQ(document[15]["value"].GetDouble(), 8);
+}
+
+// Each label has 51 rows for the one stride.
+TEST_F(TablesTest, NormalizedHasTheCurvesOfEachLabelInTheOrderAsked) {
+  const std::string file = Given("walk.c3d", WalkWithChannels());
+  const auto document = Parsed(
+      RunInside({"--format", "json", "--label", "rtoe", "--label", "LTOE", "normalized", file})
+          .Out);
+  ASSERT_EQ(document.Size(), 102U);
+  EXPECT_STREQ(document[0]["label"].GetString(), "RTOE");
+  EXPECT_EQ(document[0]["x"].GetDouble(), 840);
+  EXPECT_STREQ(document[51]["label"].GetString(), "LTOE");
+  EXPECT_STREQ(document[51]["side"].GetString(), "Left");
+  EXPECT_EQ(document[101]["percent"].GetInt(), 100);
+}
+
+TEST_F(TablesTest, AllLabelsOfNormalizedTakesRepeatedAndEmptyOnesByTheirPlace) {
+  sample::TrialBuilder builder = WalkWithChannels();
+  builder.AddPoint("LTOE", tests::Standing(7, 7, 7)).AddPoint("", tests::Standing(8, 8, 8));
+  const auto document = Parsed(
+      RunInside({"--format", "json", "--all-labels", "normalized", Given("walk.c3d", builder)})
+          .Out);
+  ASSERT_EQ(document.Size(), 204U);
+  EXPECT_STREQ(document[102]["label"].GetString(), "LTOE");
+  EXPECT_EQ(document[102]["x"].GetDouble(), 7);
+  EXPECT_STREQ(document[153]["label"].GetString(), "");
+  EXPECT_EQ(document[203]["x"].GetDouble(), 8);
 }
 
 TEST_F(TablesTest, GroupAndParamLimitTheParameters) {

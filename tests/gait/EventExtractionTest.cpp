@@ -10,6 +10,7 @@
 
 #include "gait/EventExtraction.h"
 #include "tests/GaitTrials.h"
+#include "tests/OpenWithEvents.h"
 
 namespace {
 
@@ -20,10 +21,9 @@ using sample::TrialBuilder;
 using tests::Entries;
 using tests::ErrorNumberOf;
 using tests::OpenedWalk;
+using tests::OpenWithEvents;
 
 using tests::kInputPastEndOfFile;
-
-OpenedWalk Open(const TrialBuilder& builder) { return {builder.Build(), FindGaitEvents}; }
 
 // Two hundred frames at 100 Hz, from frame 51: 0.5 s to 2.49 s.
 TrialBuilder Capture() { return TrialBuilder().Frames(51, 250).Rate(100); }
@@ -54,63 +54,71 @@ std::vector<std::string> Repeated(const std::string& text, std::size_t count) {
 const GaitEventState kNoGaitEvents;
 
 TEST(ExtractGaitEvents, TrialWithoutAnEventGroupHasNone) {
-  const OpenedWalk trial = Open(Capture());
+  const OpenedWalk trial = OpenWithEvents(Capture());
   EXPECT_EQ(trial.Result(), OpenResult::Success);
   EXPECT_EQ(trial.Gait(), kNoGaitEvents);
 }
 
 TEST(ExtractGaitEvents, UsedZeroHasNone) {
-  EXPECT_EQ(Open(EventGroup(0, {"Left"}, {"Foot Strike"}, 1)).Gait(), kNoGaitEvents);
+  EXPECT_EQ(OpenWithEvents(EventGroup(0, {"Left"}, {"Foot Strike"}, 1)).Gait(), kNoGaitEvents);
 }
 
 TEST(ExtractGaitEvents, UsedThatIsMissingOrNoIntegerHasNone) {
   TrialBuilder events = EventGroup(1, {"Left"}, {"Foot Strike"}, 1);
-  EXPECT_EQ(Open(TrialBuilder(events).DropParam("EVENT", "USED")).Gait(), kNoGaitEvents);
-  EXPECT_EQ(Open(TrialBuilder(events).SetParam("EVENT", sample::SingleParam("USED", 1))).Gait(),
-            kNoGaitEvents);
-  EXPECT_EQ(Open(TrialBuilder(events).SetParam("EVENT", sample::ByteParam("USED", 1))).Gait(),
-            kNoGaitEvents);
+  EXPECT_EQ(OpenWithEvents(TrialBuilder(events).DropParam("EVENT", "USED")).Gait(), kNoGaitEvents);
+  EXPECT_EQ(
+      OpenWithEvents(TrialBuilder(events).SetParam("EVENT", sample::SingleParam("USED", 1))).Gait(),
+      kNoGaitEvents);
+  EXPECT_EQ(
+      OpenWithEvents(TrialBuilder(events).SetParam("EVENT", sample::ByteParam("USED", 1))).Gait(),
+      kNoGaitEvents);
 }
 
 TEST(ExtractGaitEvents, NegativeUsedKeepsItsValueAndEmptyLists) {
   GaitEventState expected;
   expected.TotalCount = -3;
-  EXPECT_EQ(Open(EventGroup(-3, {"Left"}, {"Foot Strike"}, 1)).Gait(), expected);
+  EXPECT_EQ(OpenWithEvents(EventGroup(-3, {"Left"}, {"Foot Strike"}, 1)).Gait(), expected);
 }
 
 TEST(ExtractGaitEvents, MoreUsedThanTimesEmptiesTheWholeState) {
-  const OpenedWalk trial = Open(EventGroup(6, Repeated("Left", 6), Repeated("Foot Strike", 6), 5));
+  const OpenedWalk trial =
+      OpenWithEvents(EventGroup(6, Repeated("Left", 6), Repeated("Foot Strike", 6), 5));
   EXPECT_EQ(trial.Result(), OpenResult::Success) << "the open itself succeeds";
   EXPECT_EQ(trial.Gait(), kNoGaitEvents) << "the total included";
 }
 
 TEST(ExtractGaitEvents, MoreUsedThanContextsOrLabelsEmptiesTheWholeState) {
-  EXPECT_EQ(Open(EventGroup(6, Repeated("Left", 5), Repeated("Foot Strike", 6), 6)).Gait(),
-            kNoGaitEvents);
-  EXPECT_EQ(Open(EventGroup(6, Repeated("Left", 6), Repeated("Foot Strike", 5), 6)).Gait(),
-            kNoGaitEvents);
-  EXPECT_EQ(Open(EventGroup(32767, Repeated("Left", 6), Repeated("Foot Strike", 6), 6)).Gait(),
-            kNoGaitEvents);
+  EXPECT_EQ(
+      OpenWithEvents(EventGroup(6, Repeated("Left", 5), Repeated("Foot Strike", 6), 6)).Gait(),
+      kNoGaitEvents);
+  EXPECT_EQ(
+      OpenWithEvents(EventGroup(6, Repeated("Left", 6), Repeated("Foot Strike", 5), 6)).Gait(),
+      kNoGaitEvents);
+  EXPECT_EQ(
+      OpenWithEvents(EventGroup(32767, Repeated("Left", 6), Repeated("Foot Strike", 6), 6)).Gait(),
+      kNoGaitEvents);
 }
 
 TEST(ExtractGaitEvents, LabelsAreNeededForEventsWithoutSideToo) {
-  EXPECT_EQ(Open(EventGroup(2, Repeated("General", 2), {"Start"}, 2)).Gait(), kNoGaitEvents);
+  EXPECT_EQ(OpenWithEvents(EventGroup(2, Repeated("General", 2), {"Start"}, 2)).Gait(),
+            kNoGaitEvents);
 }
 
 TEST(ExtractGaitEvents, MissingOrWrongParameterEmptiesTheWholeState) {
   const TrialBuilder events = EventGroup(1, {"Left"}, {"Foot Strike"}, 1);
-  ASSERT_EQ(Open(events).Gait().TotalCount, 1);
+  ASSERT_EQ(OpenWithEvents(events).Gait().TotalCount, 1);
   for (const std::string param : {"CONTEXTS", "LABELS", "TIMES"}) {
-    EXPECT_EQ(Open(TrialBuilder(events).DropParam("EVENT", param)).Gait(), kNoGaitEvents) << param;
-    EXPECT_EQ(Open(TrialBuilder(events).SetParam("EVENT", IntegerParam(param, 1))).Gait(),
+    EXPECT_EQ(OpenWithEvents(TrialBuilder(events).DropParam("EVENT", param)).Gait(), kNoGaitEvents)
+        << param;
+    EXPECT_EQ(OpenWithEvents(TrialBuilder(events).SetParam("EVENT", IntegerParam(param, 1))).Gait(),
               kNoGaitEvents)
         << param;
   }
 }
 
 TEST(ExtractGaitEvents, TimesThatAreNoPairsEmptyTheWholeState) {
-  EXPECT_EQ(Open(EventGroup(1, {"Left"}, {"Foot Strike"}, 1)
-                     .SetParam("EVENT", sample::SingleListParam("TIMES", {1.0F})))
+  EXPECT_EQ(OpenWithEvents(EventGroup(1, {"Left"}, {"Foot Strike"}, 1)
+                               .SetParam("EVENT", sample::SingleListParam("TIMES", {1.0F})))
                 .Gait(),
             kNoGaitEvents);
 }
@@ -124,8 +132,8 @@ TEST(ExtractGaitEvents, DamagedParameterIsAnErrorOfTheOpen) {
 }
 
 TEST(ExtractGaitEvents, ReadsOnlyAsManyEventsAsAreUsed) {
-  const OpenedWalk trial =
-      Open(EventGroup(3, {"Left", "Right", "Left", "Right", "Left"}, Repeated("Foot Off", 5), 5));
+  const OpenedWalk trial = OpenWithEvents(
+      EventGroup(3, {"Left", "Right", "Left", "Right", "Left"}, Repeated("Foot Off", 5), 5));
   EXPECT_EQ(trial.Gait().TotalCount, 3);
   EXPECT_EQ(trial.Gait().SidedStrikeOffCount, 3);
   EXPECT_EQ(trial.Gait().SidedStrikeOffEvents.Count(), 3);
@@ -154,7 +162,7 @@ TEST(ExtractGaitEvents, ClassifiesBySideAndType) {
       {"Lefty", "Event", {GaitSide::None, GaitEventType::Other, 1.0F}}};
   const auto check = [](const std::vector<Row>& rows, auto list, auto count) {
     for (const Row& row : rows) {
-      const OpenedWalk trial = Open(EventGroup(1, {row.Context}, {row.Label}, 1));
+      const OpenedWalk trial = OpenWithEvents(EventGroup(1, {row.Context}, {row.Label}, 1));
       GaitEventState expected;
       expected.TotalCount = 1;
       expected.*count = 1;
@@ -168,32 +176,34 @@ TEST(ExtractGaitEvents, ClassifiesBySideAndType) {
 }
 
 TEST(ExtractGaitEvents, ContextPaddedWithBlanksIsItsSide) {
-  EXPECT_EQ(Open(EventGroup(1, {"Left      "}, {"Foot Strike   "}, 1)).Gait().SidedStrikeOffCount,
+  EXPECT_EQ(OpenWithEvents(EventGroup(1, {"Left      "}, {"Foot Strike   "}, 1))
+                .Gait()
+                .SidedStrikeOffCount,
             1);
 }
 
 TEST(ExtractGaitEvents, ContextPaddedWithNulsIsNoSide) {
-  const OpenedWalk trial =
-      Open(EventGroup(1, {std::string("Left\0\0\0", 7)}, {std::string("Foot Off\0", 9)}, 1));
+  const OpenedWalk trial = OpenWithEvents(
+      EventGroup(1, {std::string("Left\0\0\0", 7)}, {std::string("Foot Off\0", 9)}, 1));
   EXPECT_EQ(trial.Gait().NonSidedCount, 1);
   EXPECT_EQ(Entries(trial.Gait().NonSidedEvents),
             (std::vector{EventRecord{GaitSide::None, GaitEventType::Other, 1.0F}}));
 }
 
 TEST(ExtractGaitEvents, MinutesAreIgnored) {
-  const OpenedWalk trial = Open(TrialBuilder()
-                                    .Frames(1, 400)
-                                    .AddEvent("Left", "Foot Strike", 0)
-                                    .SetParam("EVENT", Times({1.0F, 2.5F})));
+  const OpenedWalk trial = OpenWithEvents(TrialBuilder()
+                                              .Frames(1, 400)
+                                              .AddEvent("Left", "Foot Strike", 0)
+                                              .SetParam("EVENT", Times({1.0F, 2.5F})));
   EXPECT_EQ(trial.Gait().SidedStrikeOffEvents[1].Time, 2.5F);
 }
 
 TEST(ExtractGaitEvents, TimesOutsideTheCaptureMoveToItsEnds) {
-  OpenedWalk trial = Open(Capture()
-                              .AddEvent("Left", "Foot Strike", -0.3F)
-                              .AddEvent("Left", "Foot Strike", 0.2F)
-                              .AddEvent("Left", "Foot Strike", 1.0F)
-                              .AddEvent("Left", "Foot Strike", 99.0F));
+  OpenedWalk trial = OpenWithEvents(Capture()
+                                        .AddEvent("Left", "Foot Strike", -0.3F)
+                                        .AddEvent("Left", "Foot Strike", 0.2F)
+                                        .AddEvent("Left", "Foot Strike", 1.0F)
+                                        .AddEvent("Left", "Foot Strike", 99.0F));
   const float start = trial.State().WalkStartTime;
   const float end = trial.State().WalkEndTime;
   EXPECT_EQ(start, 0.5F);
@@ -209,19 +219,19 @@ TEST(ExtractGaitEvents, TimeThatIsNoNumberMakesNoStrideAndNoError) {
   TrialBuilder builder = Capture();
   tests::AddStrideEvents(builder, "Left",
                          {1.0F, std::numeric_limits<float>::quiet_NaN(), 1.5F, 1.6F, 2.0F});
-  const OpenedWalk trial = Open(builder);
+  const OpenedWalk trial = OpenWithEvents(builder);
   EXPECT_EQ(trial.Gait().SidedStrikeOffCount, 5);
   EXPECT_EQ(trial.Gait().ValidStrideCount, 0);
 }
 
 TEST(ExtractGaitEvents, SortsEachListByTime) {
-  const OpenedWalk trial = Open(Capture()
-                                    .AddEvent("Left", "Foot Strike", 2.0F)
-                                    .AddEvent("Right", "Foot Off", 1.0F)
-                                    .AddEvent("Right", "Event", 1.9F)
-                                    .AddEvent("Left", "Event", 0.9F)
-                                    .AddEvent("General", "Start", 1.8F)
-                                    .AddEvent("General", "Stop", 0.8F));
+  const OpenedWalk trial = OpenWithEvents(Capture()
+                                              .AddEvent("Left", "Foot Strike", 2.0F)
+                                              .AddEvent("Right", "Foot Off", 1.0F)
+                                              .AddEvent("Right", "Event", 1.9F)
+                                              .AddEvent("Left", "Event", 0.9F)
+                                              .AddEvent("General", "Start", 1.8F)
+                                              .AddEvent("General", "Stop", 0.8F));
   EXPECT_EQ(Entries(trial.Gait().SidedStrikeOffEvents),
             (std::vector{EventRecord{GaitSide::Right, GaitEventType::FootOff, 1.0F},
                          EventRecord{GaitSide::Left, GaitEventType::FootStrike, 2.0F}}));
@@ -237,7 +247,7 @@ TEST(ExtractGaitEvents, SortsEachListByTime) {
 TEST(ExtractGaitEvents, NextOpenReplacesEverything) {
   TrialBuilder walk = Capture();
   tests::AddStrideEvents(walk, "Left", {1.0F, 1.1F, 1.5F, 1.6F, 2.0F});
-  OpenedWalk trial = Open(walk);
+  OpenedWalk trial = OpenWithEvents(walk);
   ASSERT_EQ(trial.Gait().ValidStrideCount, 1);
   ASSERT_EQ(trial.State().StrideEventFrameCount, 5);
   Capture().Build().WriteTo(trial.File());
@@ -249,7 +259,7 @@ TEST(ExtractGaitEvents, NextOpenReplacesEverything) {
 TEST(ExtractGaitEvents, EventAtTheStartOfTheCaptureIsOnFrameOne) {
   TrialBuilder walk = Capture();
   tests::AddStrideEvents(walk, "Left", {0.5F, 1.1F, 1.5F, 1.6F, 2.0F});
-  OpenedWalk trial = Open(walk);
+  OpenedWalk trial = OpenWithEvents(walk);
   ASSERT_EQ(trial.State().StrideEventFrameCount, 5);
   const auto& frames = trial.State().StrideEventFrames;
   EXPECT_EQ(frames[1], (EventFrameRecord{1, GaitSide::Left, GaitEventType::FootStrike}));
@@ -259,11 +269,11 @@ TEST(ExtractGaitEvents, EventAtTheStartOfTheCaptureIsOnFrameOne) {
 
 TEST(ExtractGaitEvents, KeepsTheOwnTimeOfEventsMoreThanHalfAFrameOutside) {
   // Frames 1 to 10 at 100 Hz: the trial lasts from 0 s to 0.09 s.
-  const OpenedWalk trial = Open(TrialBuilder()
-                                    .AddEvent("Left", "Foot Strike", -0.004F)
-                                    .AddEvent("Left", "Foot Off", -0.006F)
-                                    .AddEvent("Right", "Foot Strike", 0.094F)
-                                    .AddEvent("Right", "Foot Off", 0.096F));
+  const OpenedWalk trial = OpenWithEvents(TrialBuilder()
+                                              .AddEvent("Left", "Foot Strike", -0.004F)
+                                              .AddEvent("Left", "Foot Off", -0.006F)
+                                              .AddEvent("Right", "Foot Strike", 0.094F)
+                                              .AddEvent("Right", "Foot Off", 0.096F));
   EXPECT_EQ(Entries(trial.Gait().OutsideEvents),
             (std::vector{EventRecord{GaitSide::Left, GaitEventType::FootOff, -0.006F},
                          EventRecord{GaitSide::Right, GaitEventType::FootOff, 0.096F}}));

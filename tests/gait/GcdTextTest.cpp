@@ -13,12 +13,14 @@
 #include "gait/GcdText.h"
 #include "support/NumberForms.h"
 #include "tests/GaitTrials.h"
+#include "tests/OpenWithEvents.h"
 
 namespace {
 
 using namespace modVantrel;
 using tests::Moving;
 using tests::OpenedWalk;
+using tests::OpenWithEvents;
 using tests::Standing;
 
 using Lines = std::vector<std::string>;
@@ -30,8 +32,6 @@ sample::TrialBuilder TrialWithToes() {
   return builder;
 }
 
-OpenedWalk Open(const sample::TrialBuilder& builder) { return {builder.Build(), FindGaitEvents}; }
-
 std::string Text(const FileState& state, const SubjectRecord& subject = {},
                  const GcdTextOptions& options = {}) {
   clsGcdCalcs calcs(state);
@@ -39,7 +39,7 @@ std::string Text(const FileState& state, const SubjectRecord& subject = {},
 }
 
 Lines TextLinesOf(const sample::TrialBuilder& builder) {
-  OpenedWalk walk = Open(builder);
+  OpenedWalk walk = OpenWithEvents(builder);
   return tests::LinesOf(Text(walk.State()), "\r\n");
 }
 
@@ -102,7 +102,7 @@ TEST(GcdText, WholeFileOfASmallTrial) {
   builder.AddPoint("LKneeAngles", Moving({}, {1, -1, 0.5F}))
       .AddPoint("RKneeAngles", Standing(1, 2, 3))
       .AddPoint("LAnklePower", Standing(1, 2, -3.25F));
-  OpenedWalk walk = Open(builder);
+  OpenedWalk walk = OpenWithEvents(builder);
   std::string expected(kHeader);
   expected += kMeasures;
   expected += kVideoRate;
@@ -119,13 +119,13 @@ TEST(GcdText, WholeFileOfASmallTrial) {
 }
 
 TEST(GcdText, TrialWithoutCurvesHoldsHeaderAndMeasures) {
-  OpenedWalk walk = Open(TrialWithToes());
+  OpenedWalk walk = OpenWithEvents(TrialWithToes());
   EXPECT_EQ(Text(walk.State()),
             std::string(kHeader) + std::string(kMeasures) + std::string(kVideoRate));
 }
 
 TEST(GcdText, HeaderNamesTheSubject) {
-  OpenedWalk walk = Open(TrialWithToes());
+  OpenedWalk walk = OpenWithEvents(TrialWithToes());
   using namespace std::chrono;
   const SubjectRecord subject{"female", year_month_day(2014y, March, 2d),
                               year_month_day(2026y, May, 11d)};
@@ -135,13 +135,13 @@ TEST(GcdText, HeaderNamesTheSubject) {
 }
 
 TEST(GcdText, AppendModeLeavesOutTheHeader) {
-  OpenedWalk walk = Open(TrialWithToes());
+  OpenedWalk walk = OpenWithEvents(TrialWithToes());
   EXPECT_EQ(Text(walk.State(), {}, {.AppendMode = true}),
             std::string(kMeasures) + std::string(kVideoRate));
 }
 
 TEST(GcdText, VideoRateCanBeSuppressed) {
-  OpenedWalk walk = Open(TrialWithToes());
+  OpenedWalk walk = OpenWithEvents(TrialWithToes());
   EXPECT_EQ(Text(walk.State(), {}, {.SuppressVideoRate = true}),
             std::string(kHeader) + std::string(kMeasures));
   EXPECT_EQ(Text(walk.State(), {}, {.AppendMode = true, .SuppressVideoRate = true}), kMeasures);
@@ -307,7 +307,7 @@ TEST(GcdText, CurvesStandInTheOrderOfTheTable) {
 TEST(GcdText, AnatomicalAxesNeedNoToeMarkers) {
   sample::TrialBuilder builder = tests::WholeFrameTrial();
   builder.AddPoint("LKneeAngles", Standing(10, 20, 30));
-  OpenedWalk walk = Open(builder);
+  OpenedWalk walk = OpenWithEvents(builder);
   const Lines lines = tests::LinesOf(Text(walk.State(), {}, {.Axes = GcdAxes::Anatomical}), "\r\n");
   EXPECT_EQ(CurveNamed(lines, "!LeftKneeFlexExt"), Lines(51, "10.0"));
   EXPECT_EQ(CurveNamed(lines, "!LeftKneeValgVar"), Lines(51, "20.0"));

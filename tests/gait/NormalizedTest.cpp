@@ -10,6 +10,7 @@
 #include "gait/EventExtraction.h"
 #include "gait/GcdCalcs.h"
 #include "tests/GaitTrials.h"
+#include "tests/OpenWithEvents.h"
 
 namespace {
 
@@ -17,6 +18,7 @@ using namespace modVantrel;
 using tests::ErrorNumberOf;
 using tests::Moving;
 using tests::OpenedWalk;
+using tests::OpenWithEvents;
 using tests::Standing;
 
 using tests::kDivisionByZero;
@@ -30,10 +32,8 @@ sample::TrialBuilder KneeTrial() {
   return builder;
 }
 
-OpenedWalk Open(const sample::TrialBuilder& builder) { return {builder.Build(), FindGaitEvents}; }
-
 TEST(Normalized, CurveHasTheValuesOfTheFramesItFallsOn) {
-  OpenedWalk walk = Open(KneeTrial());
+  OpenedWalk walk = OpenWithEvents(KneeTrial());
   const NormalizedCurve curve = clsGcdCalcs(walk.State()).NormalizeLabelForStride("lkneeangles", 1);
   ASSERT_EQ(curve.Count(), 51);
   for (std::int32_t k = 1; k <= 51; ++k) {
@@ -46,7 +46,7 @@ TEST(Normalized, CurveHasTheValuesOfTheFramesItFallsOn) {
 }
 
 TEST(Normalized, CurveRunsFromStrikeToStrike) {
-  OpenedWalk walk = Open(KneeTrial());
+  OpenedWalk walk = OpenWithEvents(KneeTrial());
   const NormalizedCurve curve = clsGcdCalcs(walk.State()).NormalizeLabelForStride("LKneeAngles", 1);
   const StrideRecord& stride = walk.Gait().ValidStrides[1];
   EXPECT_EQ(curve[1].Time, stride.StartStrikeTime);
@@ -55,12 +55,12 @@ TEST(Normalized, CurveRunsFromStrikeToStrike) {
 }
 
 TEST(Normalized, UnknownLabelGivesNoCurve) {
-  OpenedWalk walk = Open(KneeTrial());
+  OpenedWalk walk = OpenWithEvents(KneeTrial());
   EXPECT_TRUE(clsGcdCalcs(walk.State()).NormalizeLabelForStride("RKneeAngles", 1).IsEmpty());
 }
 
 TEST(Normalized, StrideOutsideTheListIsAnIndexError) {
-  OpenedWalk walk = Open(KneeTrial());
+  OpenedWalk walk = OpenWithEvents(KneeTrial());
   clsGcdCalcs calcs(walk.State());
   for (const std::int32_t index : {-1, 0, 2}) {
     EXPECT_EQ(ErrorNumberOf([&] { calcs.NormalizeLabelForStride("LKneeAngles", index); }),
@@ -92,14 +92,14 @@ TEST(Normalized, CutTrialIsAnError) {
 }
 
 TEST(Normalized, TrialOfOneFrameIsAnIndexError) {
-  OpenedWalk walk = Open(sample::TrialBuilder().Frames(1, 1));
+  OpenedWalk walk = OpenWithEvents(sample::TrialBuilder().Frames(1, 1));
   walk.State().GaitEvents.ValidStrides.Append({GaitSide::Left, 1, 0, 0, 0, 0, 1});
   EXPECT_EQ(ErrorNumberOf([&] { clsGcdCalcs(walk.State()).NormalizeLabelForStride("LTOE", 1); }),
             kSubscriptOutOfRange);
 }
 
 TEST(Normalized, FramesTooShortForAFloatsTimeAreADivisionByZero) {
-  OpenedWalk walk = Open(sample::TrialBuilder().Frames(1, 10).Rate(100));
+  OpenedWalk walk = OpenWithEvents(sample::TrialBuilder().Frames(1, 10).Rate(100));
   walk.State().Header.PointFrameRate = 1e9F;
   walk.State().WalkStartTime = 100;
   walk.State().GaitEvents.ValidStrides.Append({GaitSide::Left, 1, 0, 0, 0, 0, 1});
@@ -108,7 +108,7 @@ TEST(Normalized, FramesTooShortForAFloatsTimeAreADivisionByZero) {
 }
 
 TEST(CurvesOfLabel, AreThreeNamedValuesOfTheStride) {
-  OpenedWalk walk = Open(KneeTrial());
+  OpenedWalk walk = OpenWithEvents(KneeTrial());
   clsGcdCalcs calcs(walk.State());
   const NormalizedCurve points = calcs.NormalizeLabelForStride("LKneeAngles", 1);
   const std::vector<StrideCurve> curves = calcs.CurvesOfLabel("lkneeangles", 1);
@@ -128,7 +128,7 @@ TEST(CurvesOfLabel, AreThreeNamedValuesOfTheStride) {
 }
 
 TEST(CurvesOfLabel, AreNoneWithoutTheLabel) {
-  OpenedWalk walk = Open(KneeTrial());
+  OpenedWalk walk = OpenWithEvents(KneeTrial());
   EXPECT_TRUE(clsGcdCalcs(walk.State()).CurvesOfLabel("LHipAngles", 1).empty());
 }
 

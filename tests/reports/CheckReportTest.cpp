@@ -24,10 +24,10 @@ std::string Shown(const std::vector<Finding>& findings) {
       [&](modAllPurpose::ReportOutput& output) { reports::ShowFindings(findings, output); });
 }
 
-TEST(CheckReport, ShowsSeverityPlaceAndSentence) {
+TEST(CheckReport, ShowsSeverityCodePlaceAndSentence) {
   EXPECT_EQ(Shown(kFindings),
-            "error  POINT:SCALE  It does not fit.\n"
-            "note   byte 7       It begins late.\n");
+            "error  cannot-open  POINT:SCALE  It does not fit.\n"
+            "note   first-frame  byte 7       It begins late.\n");
 }
 
 TEST(CheckReport, SaysInOneLineThatNothingWasFound) {

@@ -15,13 +15,11 @@ namespace {
 
 using sample::Trial;
 using sample::TrialBuilder;
-
-float Silence(std::int32_t /*sample*/) { return 0; }
-
-std::array<float, 3> Origin(std::int32_t /*frame*/) { return {0, 0, 0}; }
+using tests::Origin;
+using tests::Silence;
 
 // 60 frames of two points and two channels.
-TrialBuilder Walk() {
+TrialBuilder SixtyFrames() {
   return TrialBuilder()
       .Frames(5, 64)
       .Rate(120)
@@ -113,7 +111,7 @@ std::string DerivedLines(std::int32_t dataPosition) {
 }
 
 TEST_F(HeaderReportTest, PrintsEveryLineOfAnIntelTrialInItsPlace) {
-  const Trial trial = Walk().AddHeaderEvent("RHS", 0.5F, 1).Build();
+  const Trial trial = SixtyFrames().AddHeaderEvent("RHS", 0.5F, 1).Build();
   Given(trial);
   const std::int32_t dataPosition = trial.FrameDataPosition();
   EXPECT_EQ(Report(), "OpenC3dFileSpec: " + opener_.File() + "\n\n" +
@@ -122,11 +120,11 @@ TEST_F(HeaderReportTest, PrintsEveryLineOfAnIntelTrialInItsPlace) {
 }
 
 TEST_F(HeaderReportTest, ADecTrialDiffersInProcessorOnly) {
-  Given(Walk());
+  Given(SixtyFrames());
   std::vector<std::string> expected = tests::LinesOf(Report());
   std::ranges::replace(expected, std::string("ProcessorType (0=Intel IEEE):      84"),
                        std::string("ProcessorType (0=Intel IEEE):      85"));
-  Given(Walk().Processor(modVantrel::kProcessorDec));
+  Given(SixtyFrames().Processor(modVantrel::kProcessorDec));
   EXPECT_EQ(tests::LinesOf(Report()), expected);
 }
 

@@ -15,11 +15,10 @@ namespace {
 using reports::TreeNode;
 using sample::SectionSpec;
 using sample::TrialBuilder;
+using tests::Origin;
+using tests::Silence;
 
 using Texts = std::vector<std::string>;
-
-std::array<float, 3> Origin(std::int32_t /*frame*/) { return {0, 0, 0}; }
-float Silence(std::int32_t /*sample*/) { return 0; }
 
 Texts Names(const std::vector<TreeNode>& nodes) {
   Texts names;

@@ -62,7 +62,8 @@ std::string TextOf(const PooledReport& report) {
 
 Complaints AddTo(PooledReport& report, const sample::TrialBuilder& builder) {
   OpenedWalk walk = Opened(builder);
-  return report.Add(walk.State());
+  report.Add(walk.State());
+  return report.Missing(walk.State());
 }
 
 // A left stride of 1.2 m, 0.78125 s, whose knee stands at `knee`.
