@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <algorithm>
+#include <map>
 #include <set>
 #include <tuple>
 
@@ -180,6 +181,27 @@ TEST(PageDrawing, LeavesAGapWhereInstantsAreMissing) {
   const QRectF plot = PlotOf(set, 1);
   EXPECT_NEAR(left[0].Points.back().x(), plot.left() + 0.38 * plot.width(), 0.01);
   EXPECT_NEAR(left[1].Points.front().x(), plot.left() + 0.50 * plot.width(), 0.01);
+}
+
+TEST(PageDrawing, LeavesTheMarksOfBothSidesToBeSeenWhereTheyFallTogether) {
+  const auto set = SamplePages({3, 1, false, {}});
+  for (const Shown shown : {Shown::Strides, Shown::Means}) {
+    const Recording page = PageOf(set, 0, StyleOf(shown));
+    const QRectF plot = PlotOf(set, 2);
+    std::map<QRgb, std::set<Qt::PenStyle>> lines;
+    std::map<QRgb, double> ticks;
+    for (const DrawnLine& line : page.Lines) {
+      const QRectF bounds = line.Points.boundingRect();
+      if (line.Points.size() != 2 || bounds.width() > 0 || !Holds(plot, line.Points)) continue;
+      if (bounds.height() > plot.height() / 2)
+        lines[line.Pen.color().rgb()].insert(line.Pen.style());
+      if (bounds.height() < 40) ticks[line.Pen.color().rgb()] = bounds.height();
+    }
+    EXPECT_THAT(lines[kLeft.rgb()], testing::ElementsAre(Qt::SolidLine));
+    EXPECT_THAT(lines[kRight.rgb()], testing::ElementsAre(Qt::CustomDashLine));
+    EXPECT_GT(ticks[kLeft.rgb()], ticks[kRight.rgb()] + 10);
+    EXPECT_GT(ticks[kRight.rgb()], 10);
+  }
 }
 
 TEST(PageDrawing, CutsCurvesAndBandsAtTheirPanels) {
