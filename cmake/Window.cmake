@@ -1,7 +1,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 
-# The toolkit of the window: Qt 6 Widgets, and QScintilla for the output pane.
-find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets)
+# The toolkit of the window: Qt 6 Widgets, Svg for pages of curves, and QScintilla for the output
+# pane.
+find_package(Qt6 6.4 REQUIRED COMPONENTS Svg Widgets)
 
 find_path(QSCINTILLA_INCLUDE_DIR Qsci/qsciscintilla.h PATH_SUFFIXES qt6 REQUIRED)
 find_library(QSCINTILLA_LIBRARY qscintilla2_qt6 REQUIRED)
@@ -16,7 +17,7 @@ set_target_properties(QScintilla::QScintilla PROPERTIES
 function(vantrel_qt_library name)
   vantrel_library(${name} ${ARGN})
   set_target_properties(${name} PROPERTIES AUTOMOC ON)
-  target_link_libraries(${name} PUBLIC Qt6::Widgets)
+  target_link_libraries(${name} PUBLIC Qt6::Gui)
   target_compile_definitions(${name} PUBLIC QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII
                                             QT_NO_FOREACH)
 endfunction()

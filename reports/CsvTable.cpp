@@ -6,9 +6,13 @@
 
 #include <fmt/format.h>
 
-#include "reports/ShortestNumber.h"
+#include "support/ShortestNumber.h"
 
 namespace reports {
+
+using modAllPurpose::AppendShortest;
+using modAllPurpose::kRoomOfFloat;
+using modAllPurpose::PutShortest;
 
 void CsvTable::Separate() {
   if (!atStart_) Append(",");

@@ -6,7 +6,7 @@
 #include <rapidjson/stringbuffer.h>
 #include <rapidjson/writer.h>
 
-#include "reports/ShortestNumber.h"
+#include "support/ShortestNumber.h"
 
 namespace reports {
 
@@ -86,7 +86,7 @@ void JsonTable::FloatNumber(Float number) {
   }
   Name();
   number_.clear();
-  AppendShortest(number_, number);
+  modAllPurpose::AppendShortest(number_, number);
   writer_->Row().RawValue(number_.data(), number_.size(), rapidjson::kNumberType);
 }
 

@@ -8,7 +8,6 @@
 
 #include "gait/CheckText.h"
 #include "reports/AlignedText.h"
-#include "reports/ComponentName.h"
 #include "reports/PooledLabels.h"
 #include "reports/PooledNumbers.h"
 #include "support/Text.h"
@@ -114,7 +113,7 @@ class NormsReport : public PooledReport {
     for (std::size_t i = 0; i < visit::kGaitMeasureCount; ++i) {
       const GaitMeasureSpec& measure = GaitMeasureTable()[i];
       const visit::Statistics& samples = norms_.Measures()[i];
-      text.AddRow({MeasureTitle(measure.Name), std::string(measure.Unit),
+      text.AddRow({visit::MeasureTitle(measure.Name), std::string(measure.Unit),
                    StatisticsText(samples.Mean(), samples.Deviation(), samples.Count(),
                                   DecimalsFor(measure.Unit))});
     }

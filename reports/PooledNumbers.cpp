@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <cmath>
 #include <cstddef>
 
@@ -56,13 +55,6 @@ std::string CountedText(std::optional<double> number, std::int64_t count, int de
 int DecimalsFor(std::string_view unit) {
   constexpr std::array<std::string_view, 3> kSmall = {"m", "s", "m/s"};
   return std::ranges::find(kSmall, unit) == kSmall.end() ? 1 : 2;
-}
-
-std::string MeasureTitle(std::string_view name) {
-  std::string title(name);
-  std::ranges::replace(title, '_', ' ');
-  if (!title.empty()) title[0] = static_cast<char>(std::toupper(title[0]));
-  return title;
 }
 
 }  // namespace reports

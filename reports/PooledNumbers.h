@@ -32,7 +32,4 @@ std::string CountedText(std::optional<double> number, std::int64_t count, int de
 // degrees, percent and all others.
 int DecimalsFor(std::string_view unit);
 
-// "Walking speed" of "walking_speed".
-std::string MeasureTitle(std::string_view name);
-
 }  // namespace reports

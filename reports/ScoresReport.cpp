@@ -22,8 +22,6 @@ using visit::SideScores;
 
 namespace {
 
-constexpr std::string_view kProfile = "GPS";
-
 void WriteScore(std::string_view side, std::string_view variable, const Score& score,
                 TableOutput& table) {
   table.Text(side);
@@ -59,9 +57,9 @@ class ScoresReport : public PooledReport {
     const GaitScores scores = scores_.Against(normals_);
     WriteVariables(GaitSide::Left, scores.Left, table);
     WriteVariables(GaitSide::Right, scores.Right, table);
-    WriteScore(SideName(GaitSide::Left), kProfile, scores.Left.Profile, table);
-    WriteScore(SideName(GaitSide::Right), kProfile, scores.Right.Profile, table);
-    WriteScore("Overall", kProfile, scores.Overall, table);
+    WriteScore(SideName(GaitSide::Left), visit::kProfileScore, scores.Left.Profile, table);
+    WriteScore(SideName(GaitSide::Right), visit::kProfileScore, scores.Right.Profile, table);
+    WriteScore(visit::kOverall, visit::kProfileScore, scores.Overall, table);
     return scores.Lacking;
   }
 
@@ -75,7 +73,7 @@ class ScoresReport : public PooledReport {
       text.AddRow({std::string(kScoredVariables[i].Name), ScoreText(scores.Left.Variables[i]),
                    ScoreText(scores.Right.Variables[i]), ""});
     }
-    text.AddRow({std::string(kProfile), ScoreText(scores.Left.Profile),
+    text.AddRow({std::string(visit::kProfileScore), ScoreText(scores.Left.Profile),
                  ScoreText(scores.Right.Profile), ScoreText(scores.Overall)});
     output.BeginReport();
     text.Print(output);

@@ -52,7 +52,7 @@ void ShowSummaryText(const Summary& summary, ReportOutput& output) {
   for (std::size_t i = 0; i < visit::kGaitMeasureCount; ++i) {
     const GaitMeasureSpec& measure = visit::GaitMeasureTable()[i];
     const SideStatistics& sides = summary.Measures()[i];
-    text.AddRow({MeasureTitle(measure.Name), std::string(measure.Unit),
+    text.AddRow({visit::MeasureTitle(measure.Name), std::string(measure.Unit),
                  SideText(sides.Left, measure), SideText(sides.Right, measure),
                  NumberText(Asymmetry(sides), 1)});
   }

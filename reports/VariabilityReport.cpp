@@ -6,7 +6,6 @@
 
 #include "gait/EventNames.h"
 #include "reports/AlignedText.h"
-#include "reports/ComponentName.h"
 #include "reports/PooledLabels.h"
 #include "reports/PooledNumbers.h"
 #include "support/Text.h"

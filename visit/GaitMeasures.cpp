@@ -2,7 +2,9 @@
 
 #include "visit/GaitMeasures.h"
 
+#include <algorithm>
 #include <array>
+#include <cctype>
 #include <cmath>
 #include <cstdint>
 #include <string>
@@ -62,7 +64,9 @@ double Across(const FloorVector& unit, const FloorVector& way) {
   return std::fabs(unit.X * way.Y - unit.Y * way.X);
 }
 
-void TakeTimes(const StrideRecord& stride, GaitMeasures& measures) {
+}  // namespace
+
+GaitMeasures TimeMeasuresOf(const StrideRecord& stride) {
   const double start = stride.StartStrikeTime;
   const double oppositeOff = stride.OppositeFootOffTime;
   const double oppositeStrike = stride.OppositeFootStrikeTime;
@@ -71,6 +75,8 @@ void TakeTimes(const StrideRecord& stride, GaitMeasures& measures) {
   const double strideTime = stop - start;
   const auto share = [strideTime](double seconds) { return Divide(seconds, strideTime) * 100.0; };
 
+  GaitMeasures measures;
+  measures.Side = stride.Side;
   constexpr double kStepsPerMinute = 120;  // of strides per second
   measures.StrideTime = strideTime;
   measures.Cadence = Divide(kStepsPerMinute, strideTime);
@@ -80,7 +86,10 @@ void TakeTimes(const StrideRecord& stride, GaitMeasures& measures) {
   measures.OppositeFootContact = share(oppositeStrike - start);
   measures.SingleSupport = share(oppositeStrike - oppositeOff);
   measures.DoubleSupport = share((sameOff - oppositeStrike) + (oppositeOff - start));
+  return measures;
 }
+
+namespace {
 
 // The measures of the strides of one trial.
 class MeasuresOfTrial {
@@ -93,9 +102,7 @@ class MeasuresOfTrial {
         metres_(MetresPerUnit(state)) {}
 
   GaitMeasures Of(const StrideRecord& stride) {
-    GaitMeasures measures;
-    measures.Side = stride.Side;
-    TakeTimes(stride, measures);
+    GaitMeasures measures = TimeMeasuresOf(stride);
     if (left_ != 0 && right_ != 0) TakeLengths(stride, measures);
     return measures;
   }
@@ -142,6 +149,13 @@ class MeasuresOfTrial {
 }  // namespace
 
 std::span<const GaitMeasureSpec, kGaitMeasureCount> GaitMeasureTable() { return kMeasures; }
+
+std::string MeasureTitle(std::string_view name) {
+  std::string title(name);
+  std::ranges::replace(title, '_', ' ');
+  if (!title.empty()) title[0] = static_cast<char>(std::toupper(title[0]));
+  return title;
+}
 
 double MetresPerUnit(const FileState& state) {
   std::string unit;

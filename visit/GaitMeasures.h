@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -48,6 +49,13 @@ struct GaitMeasureSpec {
 // All twelve in the order in which they are written.
 inline constexpr std::size_t kGaitMeasureCount = 12;
 std::span<const GaitMeasureSpec, kGaitMeasureCount> GaitMeasureTable();
+
+// A measure by its name as a person writes it: "Walking speed" of "walking_speed".
+std::string MeasureTitle(std::string_view name);
+
+// The measures of a stride that follow from its times alone; lengths and speed are missing. Error
+// 11 for a stride of no duration.
+GaitMeasures TimeMeasuresOf(const modVantrel::StrideRecord& stride);
 
 // The metres of one unit of the file's positions, by POINT:UNITS: m, cm or mm in any case, zero
 // bytes at its end aside. Anything else counts as mm.

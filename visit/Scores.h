@@ -38,6 +38,10 @@ inline constexpr std::array kScoredVariables = {
     ScoredVariable{"FootProgressAngles.z", "FootProgressAngles", modVantrel::Component::Z, false},
 };
 
+// The Gait Profile Score in tables, and the side of the one that both sides enter.
+inline constexpr std::string_view kProfileScore = "GPS";
+inline constexpr std::string_view kOverall = "Overall";
+
 // A score in degrees, missing where something that it needs is missing.
 struct Score {
   std::optional<double> Value;

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <vector>
+
+// What systems do differently about a program's start and its standard output.
+namespace console {
+
+// The arguments that the tool was started with, its own name aside, in UTF-8 on Windows and as they
+// came elsewhere.
+std::vector<std::string> Arguments(int argc, char** argv);
+
+// The files, not folders, that `file` stands for, in order, where it has a wildcard, "*" or "?", in
+// its last name; `file` itself where it has none or stands for no file. Only Windows shells leave
+// that to a program, and Windows itself says which names fit, short ones among them; elsewhere a
+// name is a name. A RuntimeError where a folder cannot be read to its end.
+std::vector<std::string> WithoutWildcards(const std::string& file);
+
+// Lets standard output and standard error take bytes as they are, UTF-8 on a console, and failed
+// writes come back as errors. A console is as it was when the tool has ended.
+void PrepareOutput();
+
+// Forgets the errors of earlier calls, before a write whose failure is asked about.
+void ForgetErrors();
+
+// Whether the write to standard output that has just failed did so because nobody reads it any
+// more.
+bool IsOutputClosed();
+
+}  // namespace console

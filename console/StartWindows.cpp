@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <fcntl.h>
+#include <io.h>
+#include <memory>
+#include <windows.h>
+
+#include "console/Start.h"
+#include "support/FileSystem.h"
+#include "support/WindowsError.h"
+
+namespace console {
+
+namespace {
+
+// A search for names; closing one that the system refused does nothing.
+struct CloseSearch {
+  void operator()(HANDLE search) const { ::FindClose(search); }
+};
+using Search = std::unique_ptr<void, CloseSearch>;
+
+// `text` in UTF-8, with a mark in place of what is no UTF-16.
+std::string Utf8(const wchar_t* text) {
+  const auto convert = [&](char* into, int size) {
+    return ::WideCharToMultiByte(CP_UTF8, 0, text, -1, into, size, nullptr, nullptr);
+  };
+  std::string utf8(static_cast<std::size_t>(convert(nullptr, 0)), '\0');
+  convert(utf8.data(), static_cast<int>(utf8.size()));
+  return utf8.substr(0, utf8.find('\0'));  // without the NUL at the end
+}
+
+// The user's console, whose code page is put back when the tool ends, by itself or by its user.
+UINT codePageBefore = 0;
+
+void RestoreCodePage() { ::SetConsoleOutputCP(codePageBefore); }
+
+BOOL WINAPI RestoreWhenInterrupted(DWORD /*event*/) {
+  RestoreCodePage();
+  constexpr BOOL kGoOnEnding = FALSE;
+  return kGoOnEnding;
+}
+
+bool IsConsole(DWORD output) {
+  DWORD mode = 0;
+  return ::GetConsoleMode(::GetStdHandle(output), &mode) != 0;
+}
+
+}  // namespace
+
+// main's own arguments are in the code page of the system, which cannot name every file.
+std::vector<std::string> Arguments(int /*argc*/, char** /*argv*/) {
+  int count = 0;
+  wchar_t** const words = ::CommandLineToArgvW(::GetCommandLineW(), &count);
+  std::vector<std::string> arguments;
+  for (int k = 1; k < count; ++k) arguments.push_back(Utf8(words[k]));
+  ::LocalFree(words);
+  return arguments;
+}
+
+std::vector<std::string> WithoutWildcards(const std::string& file) {
+  const auto nameStart = file.find_last_of("/\\:") + 1;
+  if (file.find_first_of("*?", nameStart) == std::string::npos) return {file};
+  WIN32_FIND_DATAW found{};
+  const Search search(::FindFirstFileW(modAllPurpose::NativePath(file).c_str(), &found));
+  if (search.get() == INVALID_HANDLE_VALUE) {
+    const DWORD failure = ::GetLastError();
+    if (failure == ERROR_FILE_NOT_FOUND || failure == ERROR_PATH_NOT_FOUND) return {file};
+    throw modAllPurpose::LastFileError();
+  }
+  std::vector<std::string> files;
+  do {
+    if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) continue;
+    files.push_back(file.substr(0, nameStart) + Utf8(&found.cFileName[0]));
+  } while (::FindNextFileW(search.get(), &found) != 0);
+  if (::GetLastError() != ERROR_NO_MORE_FILES) throw modAllPurpose::LastFileError();
+  if (files.empty()) return {file};
+  std::ranges::sort(files);
+  return files;
+}
+
+void PrepareOutput() {
+  ::_setmode(::_fileno(stdout), _O_BINARY);
+  ::_setmode(::_fileno(stderr), _O_BINARY);
+  if (!IsConsole(STD_OUTPUT_HANDLE) && !IsConsole(STD_ERROR_HANDLE)) return;
+  codePageBefore = ::GetConsoleOutputCP();
+  ::SetConsoleOutputCP(CP_UTF8);
+  std::atexit(RestoreCodePage);
+  ::SetConsoleCtrlHandler(RestoreWhenInterrupted, TRUE);
+}
+
+void ForgetErrors() {
+  errno = 0;
+  _doserrno = 0;
+}
+
+bool IsOutputClosed() {
+  return errno == EPIPE || _doserrno == ERROR_NO_DATA || _doserrno == ERROR_BROKEN_PIPE ||
+         _doserrno == ERROR_PIPE_NOT_CONNECTED;
+}
+
+}  // namespace console

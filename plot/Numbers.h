@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <vector>
+
+#include <QString>
+
+// Numbers beside axes and bars.
+namespace plot {
+
+// The whole multiples of `step` from `low` to `high`; none where there would be more than a
+// hundred.
+std::vector<double> TicksOf(double low, double high, double step);
+
+// A step of 1, 2 or 5 times a power of ten that leaves about `count` ticks in `span`.
+double StepFor(double span, int count);
+
+// How many decimals a multiple of `step` needs, at most four.
+int DecimalsOf(double step);
+
+// With a minus sign, not a hyphen, and never a zero with a sign.
+QString NumberText(double value, int decimals);
+
+}  // namespace plot

@@ -1,0 +1,193 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <array>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <memory>
+
+#include <QBuffer>
+#include <QImage>
+#include <QXmlStreamReader>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "SamplePages.h"
+#include "plot/PageFiles.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using plot::BytesOf;
+using plot::FileKind;
+using plot_tests::SamplePages;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using testing::SizeIs;
+
+QByteArray Bytes(const std::string& text) {
+  return {text.data(), static_cast<qsizetype>(text.size())};
+}
+
+// A folder of its own for each test.
+class PageFiles : public testing::Test {
+ protected:
+  PageFiles() : folder_(fs::path(testing::TempDir()) / Name()) {
+    fs::remove_all(folder_);
+    fs::create_directories(folder_);
+  }
+  ~PageFiles() override { fs::remove_all(folder_); }
+
+  std::string In(const std::string& name) const { return (folder_ / name).string(); }
+  std::vector<std::string> Names() const {
+    std::vector<std::string> names;
+    for (const auto& entry : fs::directory_iterator(folder_)) {
+      names.push_back(entry.path().filename().string());
+    }
+    std::ranges::sort(names);
+    return names;
+  }
+  // What `command`, with %s for the file, prints about a PDF.
+  std::string Asked(const std::string& command, const std::string& pdf) const {
+    std::ofstream(In("asked.pdf"), std::ios::binary) << pdf;
+    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> output(
+        ::popen((command + " '" + In("asked.pdf") + "' -").c_str(), "r"), ::pclose);
+    std::string text;
+    for (int c = 0; (c = std::fgetc(output.get())) != EOF;) text += static_cast<char>(c);
+    return text;
+  }
+
+ private:
+  static std::string Name() {
+    return std::string("vantrel-plot-") +
+           testing::UnitTest::GetInstance()->current_test_info()->name();
+  }
+
+  fs::path folder_;
+};
+
+TEST_F(PageFiles, PdfHoldsAllPagesAndTheirTextsCanBeFound) {
+  const auto files = BytesOf(SamplePages({3, 1, true, {}}), FileKind::Pdf, {}, {});
+  ASSERT_THAT(files, SizeIs(1));
+  const std::string text = Asked("pdftotext", files[0]);
+  EXPECT_THAT(text, HasSubstr("Knee flexion"));
+  EXPECT_THAT(text, HasSubstr("Ankle dorsiflexion"));
+  EXPECT_THAT(text, HasSubstr("Page 5 of 5"));
+  EXPECT_EQ(std::ranges::count(text, '\f'), 5);
+}
+
+TEST_F(PageFiles, PdfCarriesItsThreeFonts) {
+  const auto files = BytesOf(SamplePages({}), FileKind::Pdf, {}, {});
+  std::ofstream(In("a.pdf"), std::ios::binary) << files[0];
+  const std::unique_ptr<std::FILE, int (*)(std::FILE*)> output(
+      ::popen(("pdffonts '" + In("a.pdf") + "'").c_str(), "r"), ::pclose);
+  std::vector<std::string> lines;
+  for (std::array<char, 512> line{}; std::fgets(line.data(), line.size(), output.get());) {
+    lines.emplace_back(line.data());
+  }
+  ASSERT_THAT(lines, SizeIs(5)) << "two lines of heading";
+  lines.erase(lines.begin(), lines.begin() + 2);
+  EXPECT_THAT(lines, testing::Each(testing::MatchesRegex(".*DejaVuSans.* yes .*\n")));
+}
+
+TEST_F(PageFiles, PdfIsOfTheSheetThatWasAskedFor) {
+  const auto set = SamplePages({});
+  const auto size = [&](const plot::SheetKind& sheet) {
+    const auto file = BytesOf(set, FileKind::Pdf, sheet, {})[0];
+    return file.substr(file.find("/MediaBox"), 40);
+  };
+  EXPECT_THAT(size({plot::Paper::A4, false}), HasSubstr("[0 0 595"));
+  EXPECT_THAT(size({plot::Paper::Letter, false}), HasSubstr("[0 0 612"));
+  EXPECT_THAT(size({plot::Paper::Letter, true}), HasSubstr("[0 0 792"));
+}
+
+struct SvgParts {
+  std::map<QString, int> Elements;
+  std::vector<QString> Texts;
+  std::map<QString, int> StrokesOfLines;  // of polylines, by the colour of their group
+};
+
+SvgParts PartsOf(const std::string& svg) {
+  SvgParts parts;
+  QXmlStreamReader reader(Bytes(svg));
+  QString stroke;
+  while (!reader.atEnd()) {
+    if (reader.readNext() != QXmlStreamReader::StartElement) continue;
+    const QString name = reader.name().toString();
+    ++parts.Elements[name];
+    if (name == u"g") stroke = reader.attributes().value(QStringLiteral("stroke")).toString();
+    if (name == u"polyline") ++parts.StrokesOfLines[stroke];
+    if (name == u"text") parts.Texts.push_back(reader.readElementText().trimmed());
+  }
+  EXPECT_FALSE(reader.hasError()) << reader.errorString().toStdString();
+  return parts;
+}
+
+TEST_F(PageFiles, SvgHasTextsAsTextsAndALineForEachStrideAndPanel) {
+  const auto set = SamplePages({2, 1, false, {}});
+  const auto files = BytesOf(set, FileKind::Svg, {}, {});
+  ASSERT_THAT(files, SizeIs(5));
+  const SvgParts parts = PartsOf(files[0]);
+  EXPECT_THAT(parts.Texts, testing::Contains(QStringLiteral("Knee flexion")));
+  // Ten whole panels of two strides, their ticks, one of a curve with a gap, one whose curves leave
+  // it.
+  EXPECT_GE(parts.StrokesOfLines.at(QStringLiteral("#d32f2f")), 22);
+  EXPECT_GE(parts.StrokesOfLines.at(QStringLiteral("#1565c0")), 22);
+  EXPECT_FALSE(parts.Elements.contains(QStringLiteral("clipPath")));
+}
+
+TEST_F(PageFiles, SvgIsAPageOfItsSheetInTenthsOfAPoint) {
+  const auto files = BytesOf(SamplePages({}), FileKind::Svg, {}, {});
+  const std::string start = files[0].substr(0, 200);
+  EXPECT_THAT(start, HasSubstr("viewBox=\"0 0 5950 8420\"")) << "A4 in whole points";
+  EXPECT_THAT(start, HasSubstr("width=\"209.9"));
+}
+
+TEST_F(PageFiles, PngIsAPictureOfEachPage) {
+  const auto files = BytesOf(SamplePages({}), FileKind::Png, {plot::Paper::A4, true}, {});
+  ASSERT_THAT(files, SizeIs(5));
+  const QImage image = QImage::fromData(Bytes(files[0]), "PNG");
+  EXPECT_EQ(image.size(), QSize(2339, 1653));
+  EXPECT_EQ(image.pixelColor(5, 5), QColor(Qt::white));
+}
+
+TEST_F(PageFiles, OfSeveralPagesAreNumberedBeforeTheirEnding) {
+  auto set = SamplePages({});
+  const auto named = [&](const std::string& file) {
+    std::vector<std::string> names;
+    for (const auto& each : plot::FilesOf(file, set, *plot::FileKindOf(file), {}, {})) {
+      names.push_back(each.Path);
+    }
+    return names;
+  };
+  set.Pages.resize(2);
+  EXPECT_THAT(named("a.b/visit.SVG"), ElementsAre("a.b/visit-1.SVG", "a.b/visit-2.SVG"));
+  EXPECT_THAT(named("visit.pdf"), ElementsAre("visit.pdf"));
+  set.Pages.resize(1);
+  EXPECT_THAT(named("visit.svg"), ElementsAre("visit.svg"));
+}
+
+TEST_F(PageFiles, KindIsThatOfTheEndingInAnyCase) {
+  EXPECT_EQ(plot::FileKindOf("x.PDF"), FileKind::Pdf);
+  EXPECT_EQ(plot::FileKindOf("x.Svg"), FileKind::Svg);
+  EXPECT_EQ(plot::FileKindOf("x.pdf.png"), FileKind::Png);
+  EXPECT_EQ(plot::FileKindOf("x.pdf/y"), std::nullopt);
+  EXPECT_EQ(plot::FileKindOf("pdf"), std::nullopt);
+}
+
+TEST_F(PageFiles, WhereOneNameIsTakenNoneIsWritten) {
+  std::ofstream(In("b-2.svg")) << "kept";
+  EXPECT_EQ(plot::WriteFiles({{In("b-1.svg"), "one"}, {In("b-2.svg"), "two"}}, false),
+            In("b-2.svg"));
+  EXPECT_THAT(Names(), ElementsAre("b-2.svg"));
+  EXPECT_EQ(plot::WriteFiles({{In("b-1.svg"), "one"}, {In("b-2.svg"), "two"}}, true), "");
+  EXPECT_THAT(Names(), ElementsAre("b-1.svg", "b-2.svg"));
+  std::string text;
+  std::getline(std::ifstream(In("b-2.svg")), text);
+  EXPECT_EQ(text, "two");
+}
+
+}  // namespace

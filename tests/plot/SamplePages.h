@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+
+#include "pages/Page.h"
+
+// Pages made by hand: what is drawn needs no trial.
+namespace plot_tests {
+
+struct Sample {
+  int Strides = 1;  // a side
+  int Files = 1;
+  bool HasNormals = false;
+  std::string Longer;  // behind every title, name and word
+};
+
+// A page of three by four panels: the first has values outside its range, the second a gap, the
+// last is empty and says why.
+pages::Page SampleCurves(const Sample& sample);
+
+// Twelve panels of one group, as measures have.
+pages::Page SampleMeasures(const Sample& sample);
+
+// One panel of many groups, as scores have.
+pages::Page SampleScores(const Sample& sample);
+
+// A label over the whole trial, with a gap and events.
+pages::Page SampleTrace(const Sample& sample);
+
+// All of them.
+pages::PageSet SamplePages(const Sample& sample);
+
+}  // namespace plot_tests
