@@ -161,6 +161,18 @@ TEST(PageDrawing, OfStridesHasALineForEachStrideOfItsSidesColour) {
   for (const DrawnLine& line : right) EXPECT_EQ(line.Pen.style(), Qt::CustomDashLine);
 }
 
+TEST(PageDrawing, ThatIsQuickHasStridesOfNoMoreThanAPixel) {
+  const auto set = SamplePages({3, 1, false, {}});
+  const QRectF screen(0, 0, kA4.width() / 3, kA4.height() / 3);  // three tenths of a point a pixel
+  DrawingStyle style;
+  const auto thick = CurvesIn(PageOf(set, 0, style, screen));
+  EXPECT_GT(thick[0].Pen.widthF() / 3, 1.9);
+  style.IsQuick = true;
+  const auto quick = CurvesIn(PageOf(set, 0, style, screen));
+  EXPECT_EQ(quick.size(), thick.size());
+  for (const DrawnLine& line : quick) EXPECT_LE(line.Pen.widthF() / 3, 1);
+}
+
 TEST(PageDrawing, OfMeansHasOneThickLineAndOneBandASide) {
   const auto set = SamplePages({3, 1, false, {}});
   const Recording page = PageOf(set, 0, StyleOf(Shown::Means));

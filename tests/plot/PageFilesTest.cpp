@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <filesystem>
@@ -137,6 +138,17 @@ TEST_F(PageFiles, SvgHasTextsAsTextsAndALineForEachStrideAndPanel) {
   EXPECT_GE(parts.StrokesOfLines.at(QStringLiteral("#d32f2f")), 22);
   EXPECT_GE(parts.StrokesOfLines.at(QStringLiteral("#1565c0")), 22);
   EXPECT_FALSE(parts.Elements.contains(QStringLiteral("clipPath")));
+}
+
+TEST_F(PageFiles, SvgIsWellFormedWhateverTheTextsHold) {
+  auto set = SamplePages({1, 1, false, "\x01\n<&>\x7F\xFF\xEF\xBF\xBF\""});
+  set.Pages[0].Title = "Title\x02";
+  const auto files = BytesOf(set, FileKind::Svg, {}, {});
+  ASSERT_THAT(files, SizeIs(5));
+  for (const std::string& file : files) {
+    EXPECT_GT(PartsOf(file).Texts.size(), 20U);
+    EXPECT_TRUE(std::ranges::none_of(file, [](char c) { return c > 0 && c < ' ' && c != '\n'; }));
+  }
 }
 
 TEST_F(PageFiles, SvgIsAPageOfItsSheetInTenthsOfAPoint) {
