@@ -4,12 +4,18 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include <QPainter>
 
 #include "app/OutputPane.h"
 
 namespace app {
+
+ReportPrinter::ReportPrinter(QString caption) : caption_(std::move(caption)) {
+  constexpr double kMargin = 15;
+  setPageMargins({kMargin, kMargin, kMargin, kMargin}, QPageLayout::Millimeter);
+}
 
 void ReportPrinter::Print(OutputPane& pane) {
   pane.SendScintilla(QsciScintillaBase::SCI_SETPRINTCOLOURMODE,

@@ -12,7 +12,7 @@ class OutputPane;
 // longest line stand on the page, and no smaller than can be read: longer lines are wrapped.
 class ReportPrinter : public QsciPrinter {
  public:
-  explicit ReportPrinter(QString caption) : caption_(std::move(caption)) {}
+  explicit ReportPrinter(QString caption);
 
   void Print(OutputPane& pane);
 

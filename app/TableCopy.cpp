@@ -64,7 +64,6 @@ std::size_t IndentOf(const Mask& mask) { return std::min(mask.find('x'), mask.si
 struct Block {
   std::vector<QString> Lines;
   Mask Shared;
-  std::size_t Columns = 0;
 };
 
 QString Cell(const QString& line, const Span& column) {
@@ -92,9 +91,20 @@ QString OneValue(const QString& line) {
   return line.left(colon + 1).trimmed() + u'\t' + line.mid(colon + 2).trimmed();
 }
 
+// Whether each column of `one` lies in a column of `all` by itself.
+bool StayApart(const std::vector<Span>& one, const std::vector<Span>& all) {
+  std::size_t next = 0;
+  for (const Span& column : all) {
+    if (next < one.size() && one[next].Start < column.End) ++next;
+    if (next < one.size() && one[next].Start < column.End) return false;
+  }
+  return true;
+}
+
 // Whether the line goes below those of the block: no column of either runs into another one.
-bool Joins(const Block& block, const Mask& mask, std::size_t columns) {
-  return ColumnsOf(Both(block.Shared, mask)).size() >= std::max(block.Columns, columns);
+bool Joins(const Block& block, const Mask& mask) {
+  const std::vector<Span> all = ColumnsOf(Both(block.Shared, mask));
+  return StayApart(ColumnsOf(block.Shared), all) && StayApart(ColumnsOf(mask), all);
 }
 
 class Table {
@@ -114,16 +124,14 @@ class Table {
  private:
   void Add(const QString& line) {
     const Mask mask = MaskOf(line);
-    const std::size_t columns = ColumnsOf(mask).size();
-    if (columns < 2) {
+    if (ColumnsOf(mask).size() < 2) {
       EndBlock();
       rows_ << OneValue(line);
       return;
     }
-    if (!Joins(block_, mask, columns)) EndBlock();
+    if (!Joins(block_, mask)) EndBlock();
     block_.Lines.push_back(line);
     block_.Shared = Both(std::move(block_.Shared), mask);
-    block_.Columns = ColumnsOf(block_.Shared).size();
   }
 
   void EndBlock() {

@@ -10,7 +10,7 @@ namespace reports {
 // What a table is asked to hold.
 struct TableOptions {
   std::vector<std::string> Labels = {};  // none: all, where a report can do without
-  bool AllLabels = false;           // every point or channel by its place
+  bool AllLabels = false;                // every point or channel by its place
   std::optional<std::string> Group = {};
   std::optional<std::string> Param = {};
 };

@@ -37,7 +37,7 @@ class WindowFile : public tests::WindowTest {
     QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(menu->menuAction()).center());
     ASSERT_TRUE(QTest::qWaitForWindowExposed(menu));
     QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(Entry("mnuRecent")).center());
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(Recent()));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return Recent()->isVisible(); }));
     QAction* entry = Recent()->actions().at(number);
     QTest::mouseClick(Recent(), Qt::LeftButton, {}, Recent()->actionGeometry(entry).center());
   }

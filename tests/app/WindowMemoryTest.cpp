@@ -5,6 +5,7 @@
 #include <fstream>
 
 #include <QApplication>
+#include <QClipboard>
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QScreen>
@@ -162,7 +163,8 @@ TEST_F(WindowMemory, NormalsAreChosenReadAndForgotten) {
     boxes_.Expect([path](QDialog& dialog) {
       auto* name = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
       name->selectAll();
-      QTest::keyClicks(name, QString::fromStdString(path.string()));
+      QApplication::clipboard()->setText(QString::fromStdString(path.string()));
+      QTest::keyClick(name, Qt::Key_V, Qt::ControlModifier);
       QPushButton* open = dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open);
       ASSERT_TRUE(QTest::qWaitFor([open] { return open->isEnabled(); }));
       QTest::mouseClick(open, Qt::LeftButton);
@@ -173,10 +175,13 @@ TEST_F(WindowMemory, NormalsAreChosenReadAndForgotten) {
   EXPECT_EQ(window_.Normals(), normals.string());
   EXPECT_EQ(app::Remembered().Normals(), normals.string());
   EXPECT_EQ(changed.size(), 1);
-  choose(walk);
+  const auto nonsense = folder_ / "nonsense.csv";
+  std::ofstream(nonsense) << "no,normals\n";
+  choose(nonsense);
   boxes_.ExpectAndClick(QStringLiteral("OK"));
   ChooseByArrows(Entry("mnuChooseNormals"));
-  EXPECT_TRUE(boxes_.Seen().back().Text.startsWith(QString::fromStdString(walk)));
+  ASSERT_EQ(boxes_.Seen().size(), 1U);
+  EXPECT_TRUE(boxes_.Seen().back().Text.startsWith(QString::fromStdString(nonsense.string())));
   EXPECT_EQ(window_.Normals(), normals.string());
   Choose("mnuNoNormals");
   EXPECT_EQ(window_.Normals(), "");
