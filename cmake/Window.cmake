@@ -2,7 +2,7 @@
 
 # The toolkit of the window: Qt 6 Widgets, Svg for pages of curves, and QScintilla for the output
 # pane.
-find_package(Qt6 6.4 REQUIRED COMPONENTS Svg Widgets)
+find_package(Qt6 6.4 REQUIRED COMPONENTS PrintSupport Svg Widgets)
 
 find_path(QSCINTILLA_INCLUDE_DIR Qsci/qsciscintilla.h PATH_SUFFIXES qt6 REQUIRED)
 find_library(QSCINTILLA_LIBRARY qscintilla2_qt6 REQUIRED)
@@ -10,7 +10,7 @@ add_library(QScintilla::QScintilla UNKNOWN IMPORTED)
 set_target_properties(QScintilla::QScintilla PROPERTIES
   IMPORTED_LOCATION ${QSCINTILLA_LIBRARY}
   INTERFACE_INCLUDE_DIRECTORIES ${QSCINTILLA_INCLUDE_DIR}
-  INTERFACE_LINK_LIBRARIES Qt6::Widgets)
+  INTERFACE_LINK_LIBRARIES "Qt6::PrintSupport;Qt6::Widgets")
 
 # vantrel_qt_library(NAME SOURCES ... LINKS ...): a library that uses Qt. Bytes and texts of the
 # toolkit are converted where it is written, never silently.

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include <QMainWindow>
+
+#include "app/MenuRows.h"
+#include "app/Remembered.h"
+#include "app/TrialFolder.h"
+#include "c3d/FileState.h"
+#include "pages/PageKinds.h"
+
+class QAction;
+class QMenu;
+
+namespace app {
+
+class frmVantrel;
+
+// The program's window: the form as its client area, and the menus above it. Its title is the
+// form's, it takes dropped files for the form, and closing it unloads the form. It stands where it
+// stood last, and remembers what else its user has chosen.
+class MainWindow : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  // `state` is the one open file; it must outlive the window.
+  explicit MainWindow(modVantrel::FileState& state);
+
+  // Loads the form with the command line of the program. Called once, before the window is shown;
+  // an error in the open leaves the form unloaded.
+  void Load(const std::string& commandLine);
+
+  frmVantrel& Form() { return *form_; }
+
+  // The file of normal values that curves are compared with; empty for none.
+  std::string Normals() const { return remembered_.Normals(); }
+
+  // What the menus run; MenuRows says which entry runs which.
+  void OpenNextTrial();
+  void OpenPreviousTrial();
+  void SaveReportAs();
+  void ExportTable();
+  void PrintReport();
+  void ChooseNormals();
+  void ForgetNormals();
+
+ signals:
+  // The user asks for that page of curves; a file is open.
+  void CurvesAsked(pages::PageKind page);
+  // Another file of normals was chosen, or none.
+  void NormalsChanged();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void FillMenus();
+  void AddReports();
+  void AddCurves();
+  QMenu* Menu(MenuName menu);
+  QAction* ActionOf(const MenuRow& row);
+  bool Has(MenuNeeds needed) const;
+  // Enables what can be done now.
+  void EnableActions();
+
+  void FillRecentFiles();
+  void FileWasOpened();
+  void LookAround();
+  void RememberState();
+  // A path without an ending for what is saved of the open trial.
+  QString ProposedName(std::string_view what) const;
+
+  Remembered remembered_;
+  frmVantrel* form_;
+  QMenu* recent_;
+  Neighbours neighbours_;
+};
+
+}  // namespace app
