@@ -3,6 +3,7 @@
 #include "app/TextBox.h"
 
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QPainter>
 
 #include "app/DarkOutline.h"
@@ -14,6 +15,12 @@ void TextBox::focusOutEvent(QFocusEvent* event) {
   QFocusEvent underMenu(QEvent::FocusOut, Qt::PopupFocusReason);
   const bool toMenu = event->reason() == Qt::MenuBarFocusReason;
   QLineEdit::focusOutEvent(toMenu ? &underMenu : event);
+}
+
+void TextBox::keyPressEvent(QKeyEvent* event) {
+  QLineEdit::keyPressEvent(event);
+  const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (isEnter && !event->isAutoRepeat()) emit EnterPressed();
 }
 
 void TextBox::paintEvent(QPaintEvent* event) {

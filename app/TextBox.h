@@ -5,15 +5,20 @@
 
 namespace app {
 
-// A text box whose edge is seen in dark colours, too.
+// A text box whose edge is seen in dark colours, too, and that tells of Enter once, however long it
+// is held down.
 class TextBox : public QLineEdit {
   Q_OBJECT
 
  public:
   using QLineEdit::QLineEdit;
 
+ signals:
+  void EnterPressed();
+
  protected:
   void focusOutEvent(QFocusEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 };
 
