@@ -38,6 +38,9 @@ void ProposeNames(QLineEdit& box, const std::function<QStringList()>& names) {
   completer->setFilterMode(Qt::MatchContains);
   completer->setMaxVisibleItems(kMostRows);
   completer->popup()->setAccessibleName(QLineEdit::tr("Proposals"));
+  // A list that takes hold of mouse and keys would swallow the click on a button and the way on by
+  // Tab; this one takes nothing but what the box hands on.
+  completer->popup()->setParent(&box, Qt::ToolTip);
   box.setCompleter(completer);
   // Comes before the completer looks.
   QObject::connect(&box, &QLineEdit::textEdited, model, [=, &box](const QString& text) {

@@ -2,6 +2,9 @@
 
 #include "app/TextBox.h"
 
+#include <QAbstractItemView>
+#include <QCompleter>
+#include <QCoreApplication>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QPainter>
@@ -17,10 +20,38 @@ void TextBox::focusOutEvent(QFocusEvent* event) {
   QLineEdit::focusOutEvent(toMenu ? &underMenu : event);
 }
 
+QWidget* TextBox::ShownProposals() const {
+  QWidget* list = completer() == nullptr ? nullptr : completer()->popup();
+  return list != nullptr && list->isVisible() ? list : nullptr;
+}
+
+void TextBox::HideProposals() const {
+  if (QWidget* list = ShownProposals()) list->hide();
+}
+
+bool TextBox::event(QEvent* event) {
+  // The list keeps the box from learning that it was left, so it goes before that.
+  if (event->type() == QEvent::FocusAboutToChange || event->type() == QEvent::WindowDeactivate) {
+    HideProposals();
+  }
+  return QLineEdit::event(event);
+}
+
 void TextBox::keyPressEvent(QKeyEvent* event) {
+  QWidget* list = ShownProposals();
+  const int key = event->key();
+  if (list != nullptr && (key == Qt::Key_Up || key == Qt::Key_Down)) {
+    QCoreApplication::sendEvent(list, event);
+    return;
+  }
+  if (list != nullptr && key == Qt::Key_Escape) {
+    list->hide();
+    return;
+  }
   QLineEdit::keyPressEvent(event);
-  const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (isEnter && !event->isAutoRepeat()) emit EnterPressed();
+  if (key != Qt::Key_Return && key != Qt::Key_Enter) return;
+  HideProposals();
+  if (!event->isAutoRepeat()) emit EnterPressed();
 }
 
 void TextBox::paintEvent(QPaintEvent* event) {

@@ -29,10 +29,8 @@ class WindowCompletion : public tests::WindowTest {
     Pane()->ReplaceText({});
     return text;
   }
-  // Presses a key where it goes, into the list of proposals if that is shown.
   void Press(const char* box, Qt::Key key) {
-    QWidget* target = Popup(box)->isVisible() ? static_cast<QWidget*>(Popup(box)) : Box(box);
-    QTest::keyClick(target, key);
+    QTest::keyClick(Box(box), key);
     QApplication::processEvents();
   }
   // How often the pane was given a text.
@@ -185,6 +183,19 @@ TEST_F(WindowCompletion, AClickOnAProposalTakesItAndEnterThenRunsOnce) {
   EXPECT_EQ(Reports(), 0);
   Press("txtPointLabel", Qt::Key_Return);
   EXPECT_EQ(Reports(), 1);
+}
+
+// Through the window system, which hands what is pressed beside a list to the list first.
+TEST_F(WindowCompletion, AButtonThatIsClickedWhileProposalsAreShownIsPressed) {
+  Start(WriteSampleWalk());
+  Type("txtPointLabel", QStringLiteral("LTOE"));
+  ASSERT_TRUE(Popup("txtPointLabel")->isVisible());
+  const QPoint place = Button("cmdShowPointLabels")->rect().center();
+  QTest::mouseClick(window_.windowHandle(), Qt::LeftButton, {},
+                    Button("cmdShowPointLabels")->mapTo(&window_, place));
+  QApplication::processEvents();
+  EXPECT_FALSE(Popup("txtPointLabel")->isVisible());
+  EXPECT_FALSE(PaneText().empty());
 }
 
 TEST_F(WindowCompletion, EnterThatIsHeldDownRunsOnce) {
