@@ -11,6 +11,7 @@
 #include "app/FormColumn.h"
 #include "app/NodeTree.h"
 #include "app/OutputPane.h"
+#include "app/StatusLine.h"
 #include "app/TextBox.h"
 
 namespace app {
@@ -22,6 +23,8 @@ constexpr int kTextBox = 24;
 constexpr int kLabelWidth = 84;
 constexpr int kCaptionSize = 12;
 
+// Right of the last text box, whose row leaves room for two lines.
+constexpr QRect kStatusPlace(kFormMargin + kColumnWidth - kHalfWidth, 255, kHalfWidth, 32);
 constexpr QRect kCheckBoxPlace(kFormMargin, 447, kColumnWidth, 34);
 constexpr QPoint kTreeLabelPlace(kFormMargin, 483);
 constexpr int kTreeLabelHeight = 37;
@@ -60,6 +63,7 @@ class FormBuilder {
            {row.Place.x() + kLabelWidth, row.Place.y(), kHalfWidth - kLabelWidth, kTextBox});
     AddLabel(text, {row.Place, QSize(kLabelWidth, kTextBox)}, box);
     controls_.*row.Control = box;
+    controls_.Boxes.push_back({box, row.Enter});
   }
 
   QLabel* AddLabel(const QString& text, const QRect& place, QWidget* buddy) {
@@ -68,6 +72,13 @@ class FormBuilder {
     label->setBuddy(buddy);
     label->setGeometry(place);
     return label;
+  }
+
+  void AddStatusLine() {
+    controls_.Status = new StatusLine(column_->Content());
+    controls_.Status->setObjectName(QStringLiteral("status"));
+    controls_.Status->setGeometry(kStatusPlace);
+    QWidget::setTabOrder(controls_.txtAnalogLabel, controls_.Status);
   }
 
   void AddCheckBox() {
@@ -121,6 +132,7 @@ FormControls LayOutForm(QWidget& form) {
   for (const FormRow& row : FormRows()) {
     std::visit([&builder](const auto& control) { builder.Add(control); }, row);
   }
+  builder.AddStatusLine();
   builder.AddCheckBox();
   builder.AddTree();
   controls.Column->FollowTheKeys();

@@ -7,7 +7,6 @@
 
 #include "app/FormRows.h"
 
-class QLineEdit;
 class QPushButton;
 class QWidget;
 
@@ -17,6 +16,8 @@ class CaptionCheckBox;
 class FormColumn;
 class NodeTree;
 class OutputPane;
+class StatusLine;
+class TextBox;
 
 // The size of the form as it is drawn, in device-independent pixels.
 inline constexpr QSize kDesignSize(1180, 740);
@@ -34,17 +35,25 @@ struct PlacedButton {
   FormHandler Click = nullptr;
 };
 
+// A text box of the form with what Enter in it runs.
+struct PlacedBox {
+  TextBox* Box = nullptr;
+  FormHandler Enter = nullptr;
+};
+
 // The controls of the form. The form owns them; each carries its name as its object name.
 struct FormControls {
   std::vector<PlacedButton> Buttons;
-  QLineEdit* txtGroup = nullptr;
-  QLineEdit* txtParam = nullptr;
-  QLineEdit* txtPointLabel = nullptr;
-  QLineEdit* txtAnalogLabel = nullptr;
+  std::vector<PlacedBox> Boxes;
+  TextBox* txtGroup = nullptr;
+  TextBox* txtParam = nullptr;
+  TextBox* txtPointLabel = nullptr;
+  TextBox* txtAnalogLabel = nullptr;
   FormColumn* Column = nullptr;  // holds all but the pane
   CaptionCheckBox* chkOut = nullptr;
   NodeTree* tre = nullptr;
   OutputPane* txt = nullptr;
+  StatusLine* Status = nullptr;
 };
 
 // Gives `form` its design size and its controls, each at its place, with its caption, its

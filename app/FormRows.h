@@ -8,11 +8,10 @@
 #include <QPoint>
 #include <QRect>
 
-class QLineEdit;
-
 namespace app {
 
 class frmVantrel;
+class TextBox;
 struct FormControls;
 
 using FormHandler = void (frmVantrel::*)();
@@ -27,12 +26,14 @@ struct ButtonRow {
   QKeyCombination Keys = Qt::Key_unknown;
 };
 
-// A text box: its object name, the label to the left of it, the place of both and the control.
+// A text box: its object name, the label to the left of it, the place of both, the control, and the
+// report that Enter in it runs.
 struct TextBoxRow {
   const char* Name = nullptr;
   const char16_t* Label = nullptr;
   QPoint Place;
-  QLineEdit* FormControls::*Control = nullptr;
+  TextBox* FormControls::*Control = nullptr;
+  FormHandler Enter = nullptr;
 };
 
 using FormRow = std::variant<ButtonRow, TextBoxRow>;

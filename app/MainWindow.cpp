@@ -2,15 +2,21 @@
 
 #include "app/MainWindow.h"
 
+#include <utility>
+
 #include <QAction>
 #include <QCloseEvent>
 #include <QMenu>
 #include <QMenuBar>
 
 #include "app/CaptionButton.h"
+#include "app/ManualWindow.h"
 #include "app/OutputPane.h"
 #include "app/QtText.h"
+#include "app/StatusLine.h"
+#include "app/TrialStatus.h"
 #include "app/frmVantrel.h"
+#include "reports/CheckReport.h"
 
 namespace app {
 
@@ -23,7 +29,15 @@ QString ObjectNameOf(MenuName menu) {
 }  // namespace
 
 MainWindow::MainWindow(modVantrel::FileState& state)
-    : form_(new frmVantrel(state)), recent_(new QMenu(this)) {
+    : state_(state),
+      form_(new frmVantrel(state)),
+      recent_(new QMenu(this)),
+      status_(new TrialStatus(
+          form_->Status(), state,
+          [](const std::string& file, modVantrel::StopQuestion stop) {
+            return reports::CheckFile(file, std::move(stop));
+          },
+          this)) {
   setObjectName(QStringLiteral("MainWindow"));
   setCentralWidget(form_);
   setWindowTitle(form_->windowTitle());
@@ -38,9 +52,13 @@ MainWindow::MainWindow(modVantrel::FileState& state)
   connect(recent_, &QMenu::aboutToShow, this, &MainWindow::FillRecentFiles);
   connect(Menu(MenuName::File), &QMenu::aboutToShow, this, &MainWindow::LookAround);
   EnableActions();
+  ShowStatus();
 }
 
+MainWindow::~MainWindow() = default;
+
 void MainWindow::Load(const std::string& commandLine) {
+  TakeOverTrialChoices();
   form_->Pane().zoomTo(remembered_.Zoom());
   form_->DesktopCheckBox().setChecked(remembered_.DesktopCopy());
   form_->StartDialogIn(remembered_.LastFolder());
@@ -56,6 +74,8 @@ void MainWindow::RememberState() {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   if (isVisible()) RememberState();
+  status_->Stop();
+  if (manual_) manual_->close();
   form_->close();
   event->accept();
 }
@@ -76,6 +96,8 @@ QAction* MainWindow::ActionOf(const MenuRow& row) {
   if (const auto* run = std::get_if<WindowHandler>(&row.Run)) {
     connect(action, &QAction::triggered, this,
             [this, run = *run] { form_->RunCommand([&] { (this->*run)(); }); });
+    // Also where another command kept it from running.
+    if (row.Checkable) connect(action, &QAction::triggered, this, &MainWindow::ShowMarks);
   } else {
     action->setMenu(recent_);
   }

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <QMainWindow>
 
@@ -10,6 +12,7 @@
 #include "app/Remembered.h"
 #include "app/TrialFolder.h"
 #include "c3d/FileState.h"
+#include "gait/SubjectFileEdit.h"
 #include "pages/PageKinds.h"
 
 class QAction;
@@ -18,6 +21,8 @@ class QMenu;
 namespace app {
 
 class frmVantrel;
+class ManualWindow;
+class TrialStatus;
 
 // The program's window: the form as its client area, and the menus above it. Its title is the
 // form's, it takes dropped files for the form, and closing it unloads the form. It stands where it
@@ -28,6 +33,7 @@ class MainWindow : public QMainWindow {
  public:
   // `state` is the one open file; it must outlive the window.
   explicit MainWindow(modVantrel::FileState& state);
+  ~MainWindow() override;
 
   // Loads the form with the command line of the program. Called once, before the window is shown;
   // an error in the open leaves the form unloaded.
@@ -46,6 +52,12 @@ class MainWindow : public QMainWindow {
   void PrintReport();
   void ChooseNormals();
   void ForgetNormals();
+  void ToggleFurtherLabels();
+  void ToggleAnatomicalAxes();
+  void EditSubject();
+  void ShowManual();
+  void ShowKeys();
+  void ShowAbout();
 
  signals:
   // The user asks for that page of curves; a file is open.
@@ -67,6 +79,13 @@ class MainWindow : public QMainWindow {
   // Enables what can be done now.
   void EnableActions();
 
+  // Sets the check marks of the menus to what is so.
+  void ShowMarks();
+  void ShowStatus();
+  void TakeOverTrialChoices();
+  // Writes what was entered of the subject into the folder's file, where the user wants that.
+  void OfferToKeep(const std::vector<modVantrel::SubjectEntry>& entries);
+
   void FillRecentFiles();
   void FileWasOpened();
   void LookAround();
@@ -74,10 +93,13 @@ class MainWindow : public QMainWindow {
   // A path without an ending for what is saved of the open trial.
   QString ProposedName(std::string_view what) const;
 
+  const modVantrel::FileState& state_;
   Remembered remembered_;
   frmVantrel* form_;
   QMenu* recent_;
   Neighbours neighbours_;
+  TrialStatus* status_;
+  std::unique_ptr<ManualWindow> manual_;  // once it was asked for
 };
 
 }  // namespace app

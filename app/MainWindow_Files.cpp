@@ -19,6 +19,7 @@
 #include "app/QtText.h"
 #include "app/ReportPrinter.h"
 #include "app/SaveFile.h"
+#include "app/TrialStatus.h"
 #include "app/frmVantrel.h"
 #include "reports/CsvTable.h"
 #include "reports/JsonTable.h"
@@ -64,6 +65,7 @@ void MainWindow::FileWasOpened() {
   const std::string path = form_->OpenFileSpec();
   if (!path.empty()) remembered_.AddRecentFile(WholePath(path));
   neighbours_ = {};
+  status_->FileChanged(path);
   EnableActions();
   // The folder may be large: it is looked at when what was opened is on the screen.
   QTimer::singleShot(0, this, &MainWindow::LookAround);

@@ -146,6 +146,33 @@ constexpr std::array kRows = {
             .Caption = u"Normals: &None",
             .Run = &MainWindow::ForgetNormals,
             .Needs = MenuNeeds::Normals},
+    MenuRow{.Menu = Trial,
+            .Name = "mnuFurtherLabels",
+            .Caption = u"&Further Labels",
+            .Run = &MainWindow::ToggleFurtherLabels,
+            .Checkable = true},
+    MenuRow{.Menu = Trial,
+            .Name = "mnuAnatomicalAxes",
+            .Caption = u"&Angles by Anatomical Axes",
+            .Run = &MainWindow::ToggleAnatomicalAxes,
+            .Checkable = true},
+    MenuRow{.Menu = Trial,
+            .Name = "mnuSubject",
+            .Caption = u"&Subject\u2026",
+            .Run = &MainWindow::EditSubject,
+            .Needs = MenuNeeds::OpenFile,
+            .StartsGroup = kNewGroup},
+    MenuRow{.Menu = Help,
+            .Name = "mnuManual",
+            .Caption = u"&Manual",
+            .Keys = {Qt::Key_F1},
+            .Run = &MainWindow::ShowManual},
+    MenuRow{.Menu = Help, .Name = "mnuKeys", .Caption = u"&Keys", .Run = &MainWindow::ShowKeys},
+    MenuRow{.Menu = Help,
+            .Name = "mnuAbout",
+            .Caption = u"&About Vantrel",
+            .Run = &MainWindow::ShowAbout,
+            .StartsGroup = kNewGroup},
 };
 
 }  // namespace
@@ -185,6 +212,7 @@ MenuRow RowOf(const ButtonRow& button) {
 QAction* NewAction(const MenuRow& row, QObject* parent) {
   auto* action = new QAction(QString::fromUtf16(row.Caption), parent);
   action->setObjectName(QLatin1String(row.Name));
+  action->setCheckable(row.Checkable);
   QList<QKeySequence> keys;
   for (const QKeyCombination key : row.Keys) {
     if (key.key() != Qt::Key_unknown) keys << key;

@@ -47,6 +47,7 @@ struct MenuRow {
   MenuTurn Turn = MenuTurn::Command;
   MenuNeeds Needs = MenuNeeds::Nothing;
   bool StartsGroup = false;  // set off from the entry above it
+  bool Checkable = false;    // carries a check mark that running it turns over
 };
 
 // Every entry in the order of the menus, those of the form's buttons aside: the menu of reports

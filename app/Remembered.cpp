@@ -21,6 +21,8 @@ const auto kZoom = QStringLiteral("pane/zoom");
 const auto kDesktopCopy = QStringLiteral("pane/desktopCopy");
 const auto kFolder = QStringLiteral("files/folder");
 const auto kRecent = QStringLiteral("files/recent");
+const auto kFurtherLabels = QStringLiteral("trial/furtherLabels");
+const auto kAnatomicalAxes = QStringLiteral("trial/anatomicalAxes");
 const auto kNormals = QStringLiteral("curves/normals");
 
 QString SettingsFile() {
@@ -94,6 +96,14 @@ void Remembered::AddRecentFile(const std::string& path) {
 }
 
 void Remembered::ClearRecentFiles() { settings_.remove(kRecent); }
+
+bool Remembered::FurtherLabels() const { return settings_.value(kFurtherLabels).toBool(); }
+
+void Remembered::SetFurtherLabels(bool known) { settings_.setValue(kFurtherLabels, known); }
+
+bool Remembered::AnatomicalAxes() const { return settings_.value(kAnatomicalAxes).toBool(); }
+
+void Remembered::SetAnatomicalAxes(bool taken) { settings_.setValue(kAnatomicalAxes, taken); }
 
 std::string Remembered::Normals() const { return Path(kNormals); }
 

@@ -37,6 +37,12 @@ class Remembered {
   void AddRecentFile(const std::string& path);
   void ClearRecentFiles();
 
+  // The check marks of the menu of the trial; off at first.
+  bool FurtherLabels() const;
+  void SetFurtherLabels(bool known);
+  bool AnatomicalAxes() const;
+  void SetAnatomicalAxes(bool taken);
+
   // The file of normal values that curves are compared with; empty for none.
   std::string Normals() const;
   void SetNormals(const std::string& path);

@@ -2,7 +2,11 @@
 
 #include "app/TextBox.h"
 
+#include <QAbstractItemView>
+#include <QCompleter>
+#include <QCoreApplication>
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QPainter>
 
 #include "app/DarkOutline.h"
@@ -14,6 +18,40 @@ void TextBox::focusOutEvent(QFocusEvent* event) {
   QFocusEvent underMenu(QEvent::FocusOut, Qt::PopupFocusReason);
   const bool toMenu = event->reason() == Qt::MenuBarFocusReason;
   QLineEdit::focusOutEvent(toMenu ? &underMenu : event);
+}
+
+QWidget* TextBox::ShownProposals() const {
+  QWidget* list = completer() == nullptr ? nullptr : completer()->popup();
+  return list != nullptr && list->isVisible() ? list : nullptr;
+}
+
+void TextBox::HideProposals() const {
+  if (QWidget* list = ShownProposals()) list->hide();
+}
+
+bool TextBox::event(QEvent* event) {
+  // The list keeps the box from learning that it was left, so it goes before that.
+  if (event->type() == QEvent::FocusAboutToChange || event->type() == QEvent::WindowDeactivate) {
+    HideProposals();
+  }
+  return QLineEdit::event(event);
+}
+
+void TextBox::keyPressEvent(QKeyEvent* event) {
+  QWidget* list = ShownProposals();
+  const int key = event->key();
+  if (list != nullptr && (key == Qt::Key_Up || key == Qt::Key_Down)) {
+    QCoreApplication::sendEvent(list, event);
+    return;
+  }
+  if (list != nullptr && key == Qt::Key_Escape) {
+    list->hide();
+    return;
+  }
+  QLineEdit::keyPressEvent(event);
+  if (key != Qt::Key_Return && key != Qt::Key_Enter) return;
+  HideProposals();
+  if (!event->isAutoRepeat()) emit EnterPressed();
 }
 
 void TextBox::paintEvent(QPaintEvent* event) {

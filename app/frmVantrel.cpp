@@ -21,6 +21,7 @@
 #include "app/OpenFileDialog.h"
 #include "app/OutputPane.h"
 #include "app/QtText.h"
+#include "app/TextBox.h"
 #include "c3d/OpenC3dFile.h"
 #include "gait/EventExtraction.h"
 #include "reports/NavigationTree.h"
@@ -192,6 +193,7 @@ void frmVantrel::OpenAndFillTree() {
       ToQString(DialogFileSpec_).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
   fileOpen_ = true;
   FillTree();
+  if (furtherLabels_) AddFurtherLabels();
   emit OpenFileChanged();
 }
 

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -16,9 +17,12 @@
 #include "app/ShownReport.h"
 #include "app/WindowPlace.h"
 #include "c3d/FileState.h"
+#include "gait/GcdText.h"
+#include "gait/SubjectRecord.h"
 #include "support/ReportOutput.h"
 #include "support/RuntimeError.h"
 
+class QLineEdit;
 class QTreeWidgetItem;
 
 namespace app {
@@ -65,6 +69,18 @@ class frmVantrel : public QWidget {
   const std::optional<ShownReport>& Shown() const { return shown_; }
   OutputPane& Pane() { return *controls_.txt; }
   CaptionCheckBox& DesktopCheckBox() { return *controls_.chkOut; }
+
+  // What the menu of the trial sets for the reports to come: whether they find the labels beyond
+  // the 255th, by which axes GCD files are written, and what was entered of the subject of the open
+  // trial. Labels that cannot be read are told and left out.
+  void SetFurtherLabels(bool known);
+  bool FurtherLabels() const { return furtherLabels_; }
+  void SetGcdAxes(modVantrel::GcdAxes axes) { gcdAxes_ = axes; }
+  modVantrel::GcdAxes Axes() const { return gcdAxes_; }
+  void SetSubject(const modVantrel::SubjectOptions& entered);
+  modVantrel::SubjectOptions EnteredSubject() const;
+
+  StatusLine& Status() { return *controls_.Status; }
 
   // Runs a command as a press of a button does: not while another one runs, and a run-time error
   // ends the program.
@@ -114,6 +130,8 @@ class frmVantrel : public QWidget {
   void OpenFileChanged();
   // The pane shows another report, or none.
   void ReportChanged();
+  // What the user must know of the GCD files that were written, in a sentence.
+  void Remarked(const QString& sentence);
   // The drop of these files, one at least, is over for the program that they come from.
   void FilesDropped(const std::vector<std::string>& files);
 
@@ -150,6 +168,8 @@ class frmVantrel : public QWidget {
   bool EnsureFileOpen();
   void OpenAndFillTree();
   void FillTree();
+  void AddFurtherLabels();
+  void ProposeInBoxes();
   void OpenDroppedFiles(const std::vector<std::string>& files);
 
   void tre_NodeClick(const QTreeWidgetItem* node) const;
@@ -177,6 +197,9 @@ class frmVantrel : public QWidget {
   std::string dialogFolder_;
   std::optional<ShownReport> shown_;
   bool fileOpen_ = false;
+  bool furtherLabels_ = false;
+  modVantrel::GcdAxes gcdAxes_ = modVantrel::GcdAxes::Walk;
+  std::map<std::string, modVantrel::SubjectOptions> subjects_;  // by the paths of their trials
   bool wasPainted_ = false;
   std::optional<WindowPlace> place_;
   std::optional<DesignSizes> design_;

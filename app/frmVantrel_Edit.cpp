@@ -9,6 +9,7 @@
 #include "app/FindBar.h"
 #include "app/OutputPane.h"
 #include "app/TableCopy.h"
+#include "app/TextBox.h"
 #include "app/frmVantrel.h"
 
 namespace app {

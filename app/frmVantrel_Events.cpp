@@ -17,6 +17,7 @@
 #include "app/MessageBoxes.h"
 #include "app/NodeTree.h"
 #include "app/OutputPane.h"
+#include "app/TextBox.h"
 #include "app/frmVantrel.h"
 
 namespace app {
@@ -50,6 +51,13 @@ void frmVantrel::ConnectControls() {
     connect(button, &QPushButton::clicked, this,
             [this, run = handler] { RunCommand([&] { (this->*run)(); }); });
   }
+  for (const auto& [box, handler] : controls_.Boxes) {
+    // Later, when the proposals below the box have taken the key, too, and are gone.
+    connect(
+        box, &TextBox::EnterPressed, this,
+        [this, run = handler] { RunCommand([&] { (this->*run)(); }); }, Qt::QueuedConnection);
+  }
+  ProposeInBoxes();
   // The first click of a double-click fills the boxes; the second must not be dropped for that.
   connect(controls_.tre, &NodeTree::NodeClick, this, [this](const QTreeWidgetItem* node) {
     if (!gate_.IsBusy()) Run([&] { tre_NodeClick(node); });

@@ -12,6 +12,8 @@
 #include "app/OpenAnew.h"
 #include "app/OutputPane.h"
 #include "app/OverwritePrompt.h"
+#include "app/QtText.h"
+#include "app/TextBox.h"
 #include "app/frmVantrel.h"
 #include "gait/GcdCommand.h"
 #include "reports/CheckReport.h"
@@ -149,8 +151,10 @@ void frmVantrel::cmdWriteGcdFiles_Click() {
   FormReport output = NewReport(CopyToDesktop::Never);
   OverwritePrompt prompt(this, output);
   const ReportResult result = RunShowingWhatWasWritten(output, [&](ReportOutput& lines) {
-    return modVantrel::WriteGcdFiles(state_, {}, prompt, lines);
+    const modVantrel::GcdOptions options{{}, EnteredSubject(), gcdAxes_};
+    return modVantrel::WriteGcdFiles(state_, options, prompt, lines);
   });
+  emit Remarked(ToQString(prompt.Remark()));
   if (result.IsRejected()) {
     ShowMessage(this, result.Text());
     controls_.txt->ReplaceText(result.Text());

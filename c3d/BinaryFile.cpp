@@ -56,6 +56,7 @@ void BinaryFile::ForgetBuffer() {
 }
 
 void BinaryFile::Fill(std::size_t count) {
+  if (stop_ && stop_()) throw Stopped();
   // A large claim is held against the file before memory is taken for it.
   if (count > readAhead_) RequireLeft(count);
   const std::size_t wanted = std::max(count, readAhead_);

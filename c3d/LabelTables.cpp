@@ -17,6 +17,8 @@ using modAllPurpose::UpperCase;
 
 namespace {
 
+constexpr std::int32_t kMostEntries = 255;  // of one dimension, and so of one parameter
+
 // Fills as much of `table` as `param` has entries.
 void FillFrom(const ParamRecord& param, std::string_view prefix,
               OneBasedTable<std::string>& table) {
@@ -31,7 +33,6 @@ void FillFrom(const ParamRecord& param, std::string_view prefix,
 template <typename Take>
 void ForFurtherEntries(const FileState& state, std::string_view group, std::string_view param,
                        std::int32_t count, Take take) {
-  constexpr std::int32_t kMostEntries = 255;
   for (std::int32_t first = kMostEntries; first < count; first += kMostEntries) {
     const std::string name = fmt::format("{}{}", param, first / kMostEntries + 1);
     const GroupAndParam further = FindGroupAndParam(state, group, name);
@@ -105,6 +106,12 @@ void AddFurtherLabels(FileState& state) {
   AddFurtherEntries(state, "POINT", "LABELS", state.PointLabels);
   AddFurtherEntries(state, "ANALOG", "LABELS", state.AnalogLabels);
   AddFurtherEntries(state, "ANALOG", "DESCRIPTIONS", state.AnalogDescriptions);
+}
+
+void DropFurtherLabels(FileState& state) {
+  for (auto* table : {&state.PointLabels, &state.AnalogLabels, &state.AnalogDescriptions}) {
+    for (std::int32_t i = kMostEntries + 1; i <= table->Count(); ++i) (*table)[i].clear();
+  }
 }
 
 }  // namespace modVantrel

@@ -36,4 +36,7 @@ modAllPurpose::OneBasedTable<std::string> ReadTextTable(const FileState& state,
 // LABELS2, LABELS3 ... and DESCRIPTIONS2 ... of POINT and ANALOG, the prefix cut like the others.
 void AddFurtherLabels(FileState& state);
 
+// Takes back what AddFurtherLabels did, as far as it came.
+void DropFurtherLabels(FileState& state);
+
 }  // namespace modVantrel

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "gait/CheckFindings.h"
 #include "gait/CheckedTrial.h"
@@ -42,8 +43,10 @@ bool HasError(const std::vector<Finding>& findings) {
       findings, [](const Finding& finding) { return finding.Level == Severity::Error; });
 }
 
-std::vector<Finding> CheckTrial(const std::string& file, const SummaryStrides& summary) {
+std::vector<Finding> CheckTrial(const std::string& file, const SummaryStrides& summary,
+                                StopQuestion stop) {
   CheckedTrial trial;
+  trial.State.C3dFileNumber.AskBeforeReading(std::move(stop));
   Findings findings;
   const BinaryFile::Look look(trial.State.C3dFileNumber);
   IgnoringErrors([&] { ReadTrial(trial, file); });

@@ -36,6 +36,11 @@ class GcdWriter {
     return name;
   }
 
+  void TellRemark() {
+    const std::string remark = files_.AxesRemark();
+    if (!remark.empty()) question_.Tell(remark);
+  }
+
  private:
   // Whether the user said so of this file or of all.
   bool MayReplace(const std::string& name) {
@@ -71,6 +76,7 @@ ReportResult WriteGcdFiles(const FileState& state, const GcdOptions& options,
     output.PaneLine("Output: " + name);
   }
   output.PaneLine("Done.");
+  writer.TellRemark();
   return ReportResult::Written();
 }
 

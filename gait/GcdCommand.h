@@ -22,6 +22,10 @@ class OverwriteQuestion {
   virtual ~OverwriteQuestion() = default;
 
   virtual OverwriteAnswer Ask(const std::string& gcdFileName) = 0;
+
+  // Is told what the user must know of the files (GcdFiles::AxesRemark, never empty), when all are
+  // written.
+  virtual void Tell(const std::string& /*remark*/) {}
 };
 
 // What is said of a trial for which there is no GCD file to write.

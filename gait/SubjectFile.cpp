@@ -65,7 +65,7 @@ std::string ReadSubjectFile(const std::string& trial) {
   modAllPurpose::IgnoringErrors([&] {
     const auto folder = modAllPurpose::NativePath(trial).parent_path();
     modAllPurpose::RandomAccessFile file;
-    file.Open(modAllPurpose::Utf8Path(folder / "subject.ini"));
+    file.Open(modAllPurpose::Utf8Path(folder / kSubjectFileName));
     std::string bytes(kLargestSubjectFile + 1, '\0');
     bytes.resize(file.ReadAt(0, std::as_writable_bytes(std::span(bytes))));
     text = SubjectFileText(bytes);

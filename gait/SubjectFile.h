@@ -7,6 +7,9 @@
 
 namespace modVantrel {
 
+// The name of the file in a trial's folder that tells of its subject.
+inline constexpr std::string_view kSubjectFileName = "subject.ini";
+
 // How much of a subject file is read.
 inline constexpr std::size_t kLargestSubjectFile = std::size_t{64} * 1024;
 

@@ -68,6 +68,8 @@ std::string FindGender(const FileState& state, const std::string& option,
   return gender.empty() ? std::string(iniValue) : gender;
 }
 
+std::string PlaceOf(const char* group, const char* name) { return std::string(group) + ':' + name; }
+
 // The texts of a kind that are given, dates or not.
 std::vector<GivenDate> DatesGiven(const ParamCatalog& params, std::span<const char* const> names,
                                   std::string_view iniValue) {
@@ -77,26 +79,28 @@ std::vector<GivenDate> DatesGiven(const ParamCatalog& params, std::span<const ch
   };
   TryParamsBy(find, names, [&](std::string_view text, const char* group, const char* name) {
     if (Trimmed(text).empty()) return false;
-    dates.push_back(
-        {std::string(group) + ':' + name, std::string(Trimmed(text)), ParseIsoDate(text)});
+    dates.push_back({PlaceOf(group, name), std::string(Trimmed(text)), ParseIsoDate(text)});
     return false;
   });
   if (!iniValue.empty()) {
-    dates.push_back({"subject.ini", std::string(iniValue), ParseIsoDate(iniValue)});
+    dates.push_back({std::string(kSubjectFileName), std::string(iniValue), ParseIsoDate(iniValue)});
   }
   return dates;
 }
 
-std::string GenderGiven(const ParamCatalog& params, std::string_view iniValue) {
-  std::string gender;
+void FindGenderGiven(const ParamCatalog& params, std::string_view iniValue,
+                     SubjectSources& sources) {
   const auto find = [&params](const char* group, const char* name) {
     return params.Param(group, name).TextValues.First();
   };
-  TryParamsBy(find, kGenderParams, [&gender](std::string_view text, auto...) {
-    gender = Trimmed(text);
-    return !gender.empty();
+  TryParamsBy(find, kGenderParams, [&](std::string_view text, const char* group, const char* name) {
+    sources.Gender = Trimmed(text);
+    sources.GenderPlace = PlaceOf(group, name);
+    return !sources.Gender.empty();
   });
-  return gender.empty() ? std::string(iniValue) : gender;
+  if (!sources.Gender.empty()) return;
+  sources.Gender = iniValue;
+  sources.GenderPlace = iniValue.empty() ? "" : kSubjectFileName;
 }
 
 // The number that `digits` write; nothing where anything but digits stands there.
@@ -120,9 +124,11 @@ SubjectRecord FindSubject(const FileState& state, const SubjectOptions& options)
 
 SubjectSources FindSubjectSources(const std::string& trial, const ParamCatalog& params) {
   const std::string file = ReadSubjectFile(trial);
-  return {GenderGiven(params, IniValue(file, "GENDER")),
-          DatesGiven(params, kBirthParams, IniValue(file, "DOB")),
-          DatesGiven(params, kVisitParams, IniValue(file, "DATE"))};
+  SubjectSources sources;
+  FindGenderGiven(params, IniValue(file, "GENDER"), sources);
+  sources.BirthDates = DatesGiven(params, kBirthParams, IniValue(file, "DOB"));
+  sources.VisitDates = DatesGiven(params, kVisitParams, IniValue(file, "DATE"));
+  return sources;
 }
 
 Date ParseIsoDate(std::string_view text) {

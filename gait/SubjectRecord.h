@@ -43,6 +43,7 @@ struct GivenDate {
 // not. Dates stand in the order in which FindSubject looks for them.
 struct SubjectSources {
   std::string Gender;
+  std::string GenderPlace;  // as that of a date; empty without a gender
   std::vector<GivenDate> BirthDates;
   std::vector<GivenDate> VisitDates;
 };

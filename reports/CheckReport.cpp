@@ -3,6 +3,7 @@
 #include "reports/CheckReport.h"
 
 #include <string>
+#include <utility>
 
 #include "reports/AlignedText.h"
 #include "visit/GaitMeasures.h"
@@ -32,8 +33,8 @@ std::vector<modVantrel::SummaryStride> StridesOf(const modVantrel::FileState& st
 
 }  // namespace
 
-std::vector<Finding> CheckFile(const std::string& file) {
-  return modVantrel::CheckTrial(file, StridesOf);
+std::vector<Finding> CheckFile(const std::string& file, modVantrel::StopQuestion stop) {
+  return modVantrel::CheckTrial(file, StridesOf, std::move(stop));
 }
 
 void CheckRows(std::string_view file, const std::vector<Finding>& findings, TableOutput& table) {

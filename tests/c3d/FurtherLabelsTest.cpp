@@ -46,6 +46,15 @@ TEST(FurtherLabels, ComeFromTheNumberedTables) {
   EXPECT_EQ(GetPointLabelIndex(trial.State(), "a257"), 257);
 }
 
+TEST(FurtherLabels, CanBeTakenBack) {
+  tests::OpenedTrial trial(TrialOfManyPoints().SetParam("POINT", Texts("LABELS2", {"A256"})));
+  const auto asOpened = trial.State().PointLabels;
+  AddFurtherLabels(trial.State());
+  ASSERT_NE(trial.State().PointLabels, asOpened);
+  modVantrel::DropFurtherLabels(trial.State());
+  EXPECT_EQ(trial.State().PointLabels, asOpened);
+}
+
 TEST(FurtherLabels, LoseThePrefixLikeTheOthers) {
   tests::OpenedTrial trial(TrialOfManyPoints().SetParam("POINT", Texts("LABELS2", {"Ann:X"})));
   trial.State().LabelPrefix = "Ann:";

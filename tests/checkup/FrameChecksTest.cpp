@@ -239,4 +239,20 @@ TEST(WalkInPlace, IsNotSaidWhereTheScaleIsNotKnown) {
               ElementsAre("cannot-open at POINT:SCALE"));
 }
 
+TEST(Checkup, EndsAtTheNextReadingOnceItIsToStop) {
+  tests::TemporaryFolder folder;
+  const std::string file = (folder / "trial.c3d").string();
+  CleanWalk().Build().WriteTo(file);
+  int askedInAll = 0;
+  (void)modVantrel::CheckTrial(file, {}, [&askedInAll] { return ++askedInAll < 0; });
+  ASSERT_GE(askedInAll, 3) << "when it opens, and for parameters and frames";
+  // Wherever it is by then: what goes on behind errors does not go on behind this.
+  for (int last = 1; last <= askedInAll; ++last) {
+    int asked = 0;
+    EXPECT_THROW((void)modVantrel::CheckTrial(file, {}, [&] { return ++asked == last; }),
+                 modVantrel::Stopped);
+    EXPECT_EQ(asked, last);
+  }
+}
+
 }  // namespace

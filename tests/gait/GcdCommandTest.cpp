@@ -44,7 +44,10 @@ class ToldAnswers : public OverwriteQuestion {
     return answer;
   }
 
+  void Tell(const std::string& remark) override { Told.push_back(remark); }
+
   std::vector<std::string> Asked;
+  std::vector<std::string> Told;
 
  private:
   std::deque<OverwriteAnswer> answers_;
@@ -78,6 +81,7 @@ class GcdFilesTest : public testing::Test {
     EXPECT_FALSE(result.IsRejected());
     EXPECT_TRUE(output.Begun());
     asked_ = question.Asked;
+    told_ = question.Told;
     return output.Text();
   }
 
@@ -93,7 +97,20 @@ class GcdFilesTest : public testing::Test {
 
   OpenedWalk walk_{ThreeStrides(), FindGaitEvents, "walk.c3d"};
   std::vector<std::string> asked_;
+  std::vector<std::string> told_;
 };
+
+TEST_F(GcdFilesTest, WhatTheAxesDoToTheCurvesIsToldOnceAllAreWritten) {
+  Write({});
+  ASSERT_EQ(told_.size(), 1U);
+  EXPECT_EQ(told_[0].substr(0, 26), "there are no toe markers t");
+  Write({OverwriteAnswer::Cancel});
+  EXPECT_TRUE(told_.empty());
+  GcdOptions anatomical;
+  anatomical.Axes = modVantrel::GcdAxes::Anatomical;
+  Write({OverwriteAnswer::YesToAll}, anatomical);
+  EXPECT_TRUE(told_.empty());
+}
 
 TEST(GcdFileName, EndsInSideLetterAndNumber) {
   EXPECT_EQ(GcdFileName("D:\\gait\\walk03.c3d", {GaitSide::Left, 2}, ""),
