@@ -11,9 +11,19 @@ namespace app::FormReader {
 
 namespace {
 
+// The form is a window where it stands alone, else the client area of one.
+class Reader : public QAccessibleWidget {
+ public:
+  explicit Reader(frmVantrel* form) : QAccessibleWidget(form) {}
+
+  QAccessible::Role role() const override {
+    return widget()->isWindow() ? QAccessible::Window : QAccessible::Client;
+  }
+};
+
 QAccessibleInterface* MakeReader(const QString& /*className*/, QObject* object) {
   auto* form = qobject_cast<frmVantrel*>(object);
-  return form == nullptr ? nullptr : new QAccessibleWidget(form, QAccessible::Window);
+  return form == nullptr ? nullptr : new Reader(form);
 }
 
 }  // namespace

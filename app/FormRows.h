@@ -4,6 +4,7 @@
 #include <span>
 #include <variant>
 
+#include <QKeyCombination>
 #include <QPoint>
 #include <QRect>
 
@@ -17,12 +18,13 @@ struct FormControls;
 using FormHandler = void (frmVantrel::*)();
 
 // A button: its object name, its caption ("&&" shows one ampersand), its place on the form as it is
-// drawn, and what a press of it runs.
+// drawn, what a press of it runs, and the keys of its entry in the menus.
 struct ButtonRow {
   const char* Name = nullptr;
   const char16_t* Caption = nullptr;
   QRect Place;
   FormHandler Click = nullptr;
+  QKeyCombination Keys = Qt::Key_unknown;
 };
 
 // A text box: its object name, the label to the left of it, the place of both and the control.
@@ -36,7 +38,7 @@ struct TextBoxRow {
 using FormRow = std::variant<ButtonRow, TextBoxRow>;
 
 // Every button and text box of the form in the tab order, from left to right and then downwards. A
-// row here and a handler in the form are all that a new button takes.
+// row here and a handler in the form are all that a new button and its entry in the menus take.
 std::span<const FormRow> FormRows();
 
 }  // namespace app

@@ -15,6 +15,7 @@
 #include <QTimer>
 
 #include "app/FormLayout.h"
+#include "app/MainWindow.h"
 #include "app/QtText.h"
 #include "app/frmVantrel.h"
 #include "c3d/FileState.h"
@@ -53,11 +54,12 @@ bool SavePicture(const std::vector<std::string>& arguments) {
   bool refused = false;
   AnswerMessageBoxes(timer, refused);
   modVantrel::FileState state;
-  app::frmVantrel form(state);
-  form.Form_Load(arguments[0]);
+  app::MainWindow window(state);
+  app::frmVantrel& form = window.Form();
+  window.Load(arguments[0]);
   if (refused) return false;
-  form.resize(app::kDesignSize);  // whatever screen there is
-  form.show();
+  window.show();
+  window.resize(window.size() + app::kDesignSize - form.size());  // whatever screen there is
   const bool withLabel = arguments.size() > 2;
   if (withLabel) {
     form.findChild<QLineEdit*>(QStringLiteral("txtPointLabel"))
@@ -68,7 +70,7 @@ bool SavePicture(const std::vector<std::string>& arguments) {
       ->click();
   if (form.IsUnloaded()) return false;
   QApplication::processEvents();
-  return form.grab().save(app::ToQString(arguments[1]), "PNG");
+  return window.grab().save(app::ToQString(arguments[1]), "PNG");
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include <QString>
 
 #include "app/CommandLine.h"
+#include "app/MainWindow.h"
 #include "app/MessageBoxes.h"
 #include "app/frmVantrel.h"
 #include "c3d/FileState.h"
@@ -48,11 +49,11 @@ int RunVantrel(int argc, char** argv, const Deployment& deployment) {
   if (!Form_Initialize(deployment)) return 0;
 
   modVantrel::FileState state;
-  frmVantrel form(state);
-  form.Form_Load(commandLine);
-  if (form.IsUnloaded()) return form.ExitStatus();
-  QObject::connect(&form, &frmVantrel::Unloaded, &QApplication::exit);
-  form.show();
+  MainWindow window(state);
+  window.Load(commandLine);
+  if (window.Form().IsUnloaded()) return window.Form().ExitStatus();
+  QObject::connect(&window.Form(), &frmVantrel::Unloaded, &QApplication::exit);
+  window.show();
   return QApplication::exec();
 }
 

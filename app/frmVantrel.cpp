@@ -8,9 +8,6 @@
 #include <QCloseEvent>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScreen>
-#include <QShortcut>
-#include <QStyle>
 
 #include "app/CaptionButton.h"
 #include "app/CommandLine.h"
@@ -24,7 +21,6 @@
 #include "app/OpenFileDialog.h"
 #include "app/OutputPane.h"
 #include "app/QtText.h"
-#include "app/Screens.h"
 #include "c3d/OpenC3dFile.h"
 #include "gait/EventExtraction.h"
 #include "reports/NavigationTree.h"
@@ -34,53 +30,32 @@ namespace app {
 using modAllPurpose::RuntimeError;
 using modVantrel::OpenResult;
 
-namespace {
-
-// The frame that the window system will most likely put around the form.
-QMargins UsualFrame(const QWidget& form) {
-  return {1, form.style()->pixelMetric(QStyle::PM_TitleBarHeight), 1, 1};
-}
-
-}  // namespace
-
 frmVantrel::frmVantrel(modVantrel::FileState& state)
     : state_(state), controls_(LayOutForm(*this)), findBar_(new FindBar(controls_.txt)) {
   FormReader::Install();
   setObjectName(QStringLiteral("frmVantrel"));
   setWindowTitle(QStringLiteral("Vantrel"));
   // Not within the painting that tells of it.
-  connect(this, &frmVantrel::Framed, this, &frmVantrel::FitFrame, Qt::QueuedConnection);
+  connect(
+      this, &frmVantrel::Framed, this,
+      [this] {
+        if (place_) place_->FitFrame();
+      },
+      Qt::QueuedConnection);
   ConnectControls();
-  AddShortcuts();
+  AddActions();
   AcceptDrops();
 }
 
 void frmVantrel::Form_Load(const std::string& commandLine) {
   design_ = DesignSizes{size(), controls_.txt->size(), controls_.tre->height()};
-  OpenWithin(UsualFrame(*this));
+  place_.emplace(*window(), *this);
+  place_->OpenWithin();
   DesktopOutputPath_ = GetDesktopFolder() + "Vantrel_Output.txt";
   controls_.tre->clear();
   controls_.tre->setRootIsDecorated(true);
   if (commandLine.empty()) return;
   Run([&] { OpenFile(FileNameOnCommandLine(commandLine)); });
-}
-
-void frmVantrel::OpenWithin(const QMargins& frame) {
-  const QRect room = screen()->availableGeometry();
-  resize(FormSizeWithin(room.marginsRemoved(frame).size()));
-  openedSize_ = size();
-  const QRect place = screen()->geometry();
-  const QPoint corner = place.topLeft() + FormPosition(place.size(), size());
-  move(NearestPlaceInside(room, {corner, size()}));
-}
-
-void frmVantrel::FitFrame() {
-  if (isMaximized() || isFullScreen()) return;
-  const QRect room = screen()->availableGeometry();
-  // A window system that gave the form another size has its reasons.
-  if (size() == openedSize_) resize(FormSizeWithin(room.size() - (frameSize() - size())));
-  const QPoint place = NearestPlaceInside(room, {pos(), size() + (frameSize() - size())});
-  if (place != pos()) move(place);
 }
 
 void frmVantrel::Run(const std::function<void()>& handler) {
@@ -93,9 +68,9 @@ void frmVantrel::Run(const std::function<void()>& handler) {
   }
 }
 
-void frmVantrel::RunCommand(const std::function<void()>& handler) {
+void frmVantrel::RunCommand(const std::function<void()>& command) {
   gate_.Run([&] {
-    Run(handler);
+    Run(command);
     return !IsUnloaded();
   });
 }
@@ -108,7 +83,7 @@ void frmVantrel::EndWithError(const RuntimeError& error) {
 void frmVantrel::Unload(int exitStatus) {
   if (IsUnloaded()) return;
   exitStatus_ = exitStatus;
-  close();
+  window()->close();
 }
 
 void frmVantrel::closeEvent(QCloseEvent* event) {
@@ -195,6 +170,7 @@ void frmVantrel::OpenAndFillTree() {
     return modVantrel::OpenC3dFile(state_, DialogFileSpec_, modVantrel::FindGaitEvents);
   }();
   if (result != OpenResult::Success) {
+    emit OpenFileChanged();
     ShowMessage(this, modVantrel::OpenFailureMessage(result));
     return;
   }
@@ -203,6 +179,7 @@ void frmVantrel::OpenAndFillTree() {
       ToQString(DialogFileSpec_).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
   fileOpen_ = true;
   FillTree();
+  emit OpenFileChanged();
 }
 
 void frmVantrel::FillTree() {

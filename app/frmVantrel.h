@@ -12,6 +12,7 @@
 #include "app/DesktopCopy.h"
 #include "app/FormLayout.h"
 #include "app/FormReport.h"
+#include "app/WindowPlace.h"
 #include "c3d/FileState.h"
 #include "support/ReportOutput.h"
 #include "support/RuntimeError.h"
@@ -21,8 +22,10 @@ class QTreeWidgetItem;
 namespace app {
 
 class FindBar;
+struct MenuRow;
 
-// The program's window. Its handlers carry the names of their controls.
+// The form of the program: the client area of its window, or a window by itself. Its handlers carry
+// the names of their controls.
 //
 // A run-time error in any handler shows what the report had written, then a message box, and ends
 // the program with exit status 1.
@@ -33,13 +36,28 @@ class frmVantrel : public QWidget {
   // `state` is the one open file; it must outlive the form.
   explicit frmVantrel(modVantrel::FileState& state);
 
-  // Takes down the design sizes, places the form, finds the desktop, and opens the file that
+  // Takes down the design sizes, places the window, finds the desktop, and opens the file that
   // `commandLine` names, where it names one. Called once, before the form is shown.
   void Form_Load(const std::string& commandLine);
 
   // Whether the form was unloaded, which ends the program, and with what exit status.
   bool IsUnloaded() const { return exitStatus_.has_value(); }
   int ExitStatus() const { return exitStatus_.value_or(0); }
+
+  // The path of the open file; empty where none is open.
+  std::string OpenFileSpec() const { return fileOpen_ ? DialogFileSpec_ : std::string(); }
+
+  // Runs a command as a press of a button does: not while another one runs, and a run-time error
+  // ends the program.
+  void RunCommand(const std::function<void()>& command);
+
+  // What the menu of editing runs.
+  void Find();
+  void FindNext();
+  void FindPrevious();
+  void ZoomIn();
+  void ZoomOut();
+  void ZoomReset();
 
   // What the buttons run; FormRows says which button runs which.
   void cmdOpen_Click();
@@ -65,6 +83,8 @@ class frmVantrel : public QWidget {
   void Unloaded(int exitStatus);
   // It is shown in the frame of the window system.
   void Framed();
+  // A file was opened, or could not be opened and none is open now.
+  void OpenFileChanged();
   // The drop of these files, one at least, is over for the program that they come from.
   void FilesDropped(const std::vector<std::string>& files);
 
@@ -87,16 +107,13 @@ class frmVantrel : public QWidget {
   };
 
   void ConnectControls();
-  void AddShortcuts();
+  void AddActions();
+  void AddAction(const MenuRow& row);
   void AcceptDrops();
-  void OnKeys(const QKeySequence& keys, FormHandler handler);
   void Run(const std::function<void()>& handler);
-  void RunCommand(const std::function<void()>& handler);
   void EndWithError(const modAllPurpose::RuntimeError& error);
   void Unload(int exitStatus);
 
-  void OpenWithin(const QMargins& frame);
-  void FitFrame();
   void Form_Resize();
   void Form_Unload();
 
@@ -127,7 +144,7 @@ class frmVantrel : public QWidget {
   std::string DialogFileSpec_;
   bool fileOpen_ = false;
   bool wasPainted_ = false;
-  QSize openedSize_;
+  std::optional<WindowPlace> place_;
   std::optional<DesignSizes> design_;
   std::optional<int> exitStatus_;
 };

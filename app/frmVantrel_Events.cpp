@@ -5,15 +5,15 @@
 #include <string>
 #include <vector>
 
+#include <QAction>
 #include <QApplication>
 #include <QDropEvent>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPushButton>
-#include <QShortcut>
 
 #include "app/CaptionButton.h"
-#include "app/FindBar.h"
+#include "app/MenuRows.h"
 #include "app/MessageBoxes.h"
 #include "app/NodeTree.h"
 #include "app/OutputPane.h"
@@ -45,13 +45,6 @@ bool AcceptCopy(QDropEvent* event) {
 
 }  // namespace
 
-void frmVantrel::OnKeys(const QKeySequence& keys, FormHandler handler) {
-  auto* shortcut = new QShortcut(keys, this);
-  shortcut->setAutoRepeat(false);
-  connect(shortcut, &QShortcut::activated, this,
-          [this, handler] { RunCommand([&] { (this->*handler)(); }); });
-}
-
 void frmVantrel::ConnectControls() {
   for (const auto& [button, handler] : controls_.Buttons) {
     connect(button, &QPushButton::clicked, this,
@@ -65,20 +58,25 @@ void frmVantrel::ConnectControls() {
           [this](const QTreeWidgetItem* node) { RunCommand([&] { tre_DblClick(node); }); });
 }
 
-void frmVantrel::AddShortcuts() {
-  OnKeys(QKeySequence(Qt::CTRL | Qt::Key_O), &frmVantrel::cmdOpen_Click);
-  OnKeys(QKeySequence(Qt::CTRL | Qt::Key_Q), &frmVantrel::cmdExit_Click);
-  const auto on = [this](const QKeySequence& keys, auto* receiver, auto handler) {
-    connect(new QShortcut(keys, this), &QShortcut::activated, receiver, handler);
-  };
-  on(QKeySequence(Qt::CTRL | Qt::Key_F), findBar_, &FindBar::Open);
-  on(QKeySequence(Qt::Key_F3), findBar_, &FindBar::FindNext);
-  on(QKeySequence(Qt::SHIFT | Qt::Key_F3), findBar_, &FindBar::FindPrevious);
-  OutputPane* txt = controls_.txt;
-  on(QKeySequence(Qt::CTRL | Qt::Key_Plus), txt, [txt] { txt->zoomIn(); });
-  on(QKeySequence(Qt::CTRL | Qt::Key_Equal), txt, [txt] { txt->zoomIn(); });
-  on(QKeySequence(Qt::CTRL | Qt::Key_Minus), txt, [txt] { txt->zoomOut(); });
-  on(QKeySequence(Qt::CTRL | Qt::Key_0), txt, [txt] { txt->zoomTo(0); });
+void frmVantrel::AddActions() {
+  for (const MenuRow& row : MenuRows()) AddAction(row);
+  for (const FormRow& row : FormRows()) {
+    const auto* button = std::get_if<ButtonRow>(&row);
+    if (button != nullptr && IsReportButton(*button)) AddAction(RowOf(*button));
+  }
+}
+
+void frmVantrel::AddAction(const MenuRow& row) {
+  const auto* handler = std::get_if<FormHandler>(&row.Run);
+  if (handler == nullptr) return;
+  QAction* action = NewAction(row, this);
+  if (row.Turn == MenuTurn::Command) {
+    connect(action, &QAction::triggered, this,
+            [this, run = *handler] { RunCommand([&] { (this->*run)(); }); });
+  } else {
+    connect(action, &QAction::triggered, this, *handler);
+  }
+  addAction(action);
 }
 
 void frmVantrel::AcceptDrops() {

@@ -51,10 +51,10 @@ class FormCommand : public tests::FormTest {
  protected:
   // Hands an event to the window system's queue, from which the program takes it when it next asks.
   void PostMouse(QWidget* target, QPoint place, QEvent::Type type) {
-    QWindow* window = form_.windowHandle();
+    QWindow* window = form_.window()->windowHandle();
     Control<app::FormColumn>("column")->ensureWidgetVisible(target);
     const QPointF global = target->mapToGlobal(QPointF(place));
-    const QPointF local = target->mapTo(&form_, QPointF(place));
+    const QPointF local = target->mapTo(form_.window(), QPointF(place));
     const auto held = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
     QWindowSystemInterface::handleMouseEvent<Late>(
         window, QHighDpi::toNativeLocalPosition(local, window),
@@ -70,7 +70,8 @@ class FormCommand : public tests::FormTest {
 
   void PostKey(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-      QWindowSystemInterface::handleKeyEvent<Late>(form_.windowHandle(), type, key, modifiers);
+      QWindowSystemInterface::handleKeyEvent<Late>(form_.window()->windowHandle(), type, key,
+                                                   modifiers);
     }
   }
 

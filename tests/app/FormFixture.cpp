@@ -12,11 +12,33 @@
 #include <QTest>
 #include <QUrl>
 
+#include "app/MainWindow.h"
 #include "sample/SampleWalk.h"
 
 namespace tests {
 
-FormTest::FormTest() {
+namespace {
+
+Around AroundAsAsked() {
+  return qEnvironmentVariable("VANTREL_TEST_AROUND") == QStringLiteral("window") ? Around::Window
+                                                                                 : Around::Nothing;
+}
+
+std::unique_ptr<QWidget> MakeTop(modVantrel::FileState& state, Around around) {
+  if (around == Around::Window) return std::make_unique<app::MainWindow>(state);
+  return std::make_unique<app::frmVantrel>(state);
+}
+
+app::frmVantrel& FormOf(QWidget& top) {
+  auto* window = qobject_cast<app::MainWindow*>(&top);
+  return window == nullptr ? dynamic_cast<app::frmVantrel&>(top) : window->Form();
+}
+
+}  // namespace
+
+FormTest::FormTest() : FormTest(AroundAsAsked()) {}
+
+FormTest::FormTest(Around around) : top_(MakeTop(state_, around)), form_(FormOf(*top_)) {
   std::filesystem::create_directory(folder_ / "Desktop");
   std::filesystem::create_directory(folder_ / "config");
   std::ofstream(folder_ / "config/user-dirs.dirs")
@@ -24,11 +46,15 @@ FormTest::FormTest() {
 }
 
 void FormTest::Start(const std::string& commandLine) {
-  form_.Form_Load(commandLine);
+  if (auto* window = qobject_cast<app::MainWindow*>(top_.get())) {
+    window->Load(commandLine);
+  } else {
+    form_.Form_Load(commandLine);
+  }
   if (form_.IsUnloaded()) return;
-  form_.show();
-  form_.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&form_));
+  top_->show();
+  top_->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(top_.get()));
 }
 
 const sample::Trial& FormTest::SampleTrial() {

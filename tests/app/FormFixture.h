@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -23,12 +24,17 @@
 
 namespace tests {
 
-// The form of the program on a desktop of its own, worked by mouse and keys.
+// What stands around the form: nothing, so that it is a window by itself, or the program's window.
+enum class Around { Nothing, Window };
+
+// The form of the program on a desktop of its own, worked by mouse and keys. By itself, unless
+// VANTREL_TEST_AROUND=window asks for the whole window, in which its rules are the same.
 class FormTest : public ::testing::Test {
  protected:
   FormTest();
+  explicit FormTest(Around around);
 
-  // Starts the form with that command line and shows it.
+  // Starts the program with that command line and shows its window.
   void Start(const std::string& commandLine = {});
   void Start(const sample::Trial& trial) { Start(Write(trial)); }
 
@@ -72,7 +78,8 @@ class FormTest : public ::testing::Test {
   TemporaryFolder folder_;
   ConfigFolder config_{(folder_ / "config").string()};
   modVantrel::FileState state_;
-  app::frmVantrel form_{state_};
+  std::unique_ptr<QWidget> top_;  // the form itself or the window around it
+  app::frmVantrel& form_;
   Boxes boxes_;
 
  private:

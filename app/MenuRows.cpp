@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/MenuRows.h"
+
+#include <QAction>
+#include <QString>
+
+#include "app/FormLayout.h"
+#include "app/MainWindow.h"
+#include "app/frmVantrel.h"
+
+namespace app {
+
+namespace {
+
+using enum MenuName;
+
+constexpr MenuTurn kAtOnce = MenuTurn::AtOnce;
+constexpr bool kNewGroup = true;
+
+constexpr std::array kRows = {
+    MenuRow{.Menu = File,
+            .Name = "mnuOpen",
+            .Caption = u"&Open\u2026",
+            .Keys = {Qt::CTRL | Qt::Key_O},
+            .Run = &frmVantrel::cmdOpen_Click},
+    MenuRow{.Menu = File,
+            .Name = "mnuQuit",
+            .Caption = u"&Quit",
+            .Keys = {Qt::CTRL | Qt::Key_Q},
+            .Run = &frmVantrel::cmdExit_Click,
+            .StartsGroup = kNewGroup},
+    MenuRow{.Menu = Edit,
+            .Name = "mnuFind",
+            .Caption = u"&Find\u2026",
+            .Keys = {Qt::CTRL | Qt::Key_F},
+            .Run = &frmVantrel::Find,
+            .Turn = kAtOnce,
+            .StartsGroup = kNewGroup},
+    MenuRow{.Menu = Edit,
+            .Name = "mnuFindNext",
+            .Caption = u"Find &Next",
+            .Keys = {Qt::Key_F3},
+            .Run = &frmVantrel::FindNext,
+            .Turn = kAtOnce},
+    MenuRow{.Menu = Edit,
+            .Name = "mnuFindPrevious",
+            .Caption = u"Find &Previous",
+            .Keys = {Qt::SHIFT | Qt::Key_F3},
+            .Run = &frmVantrel::FindPrevious,
+            .Turn = kAtOnce},
+    MenuRow{.Menu = Edit,
+            .Name = "mnuZoomIn",
+            .Caption = u"Zoom &In",
+            .Keys = {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal},
+            .Run = &frmVantrel::ZoomIn,
+            .Turn = kAtOnce,
+            .StartsGroup = kNewGroup},
+    MenuRow{.Menu = Edit,
+            .Name = "mnuZoomOut",
+            .Caption = u"Zoom &Out",
+            .Keys = {Qt::CTRL | Qt::Key_Minus},
+            .Run = &frmVantrel::ZoomOut,
+            .Turn = kAtOnce},
+    MenuRow{.Menu = Edit,
+            .Name = "mnuZoomReset",
+            .Caption = u"&Reset Zoom",
+            .Keys = {Qt::CTRL | Qt::Key_0},
+            .Run = &frmVantrel::ZoomReset,
+            .Turn = kAtOnce},
+};
+
+}  // namespace
+
+QString CaptionOf(MenuName menu) {
+  switch (menu) {
+    case File:
+      return MainWindow::tr("&File");
+    case Edit:
+      return MainWindow::tr("&Edit");
+    case Reports:
+      return MainWindow::tr("&Reports");
+    case Curves:
+      return MainWindow::tr("&Curves");
+    case Trial:
+      return MainWindow::tr("&Trial");
+    case Help:
+      return MainWindow::tr("&Help");
+  }
+  return {};
+}
+
+std::span<const MenuRow> MenuRows() { return kRows; }
+
+bool IsReportButton(const ButtonRow& button) {
+  return button.Click != &frmVantrel::cmdOpen_Click && button.Click != &frmVantrel::cmdExit_Click;
+}
+
+MenuRow RowOf(const ButtonRow& button) {
+  return {.Menu = Reports,
+          .Name = button.Name,
+          .Caption = button.Caption,
+          .Keys = {button.Keys},
+          .Run = button.Click};
+}
+
+QAction* NewAction(const MenuRow& row, QObject* parent) {
+  auto* action = new QAction(QString::fromUtf16(row.Caption), parent);
+  action->setObjectName(QLatin1String(row.Name));
+  QList<QKeySequence> keys;
+  for (const QKeyCombination key : row.Keys) {
+    if (key.key() != Qt::Key_unknown) keys << key;
+  }
+  action->setShortcuts(keys);
+  // A key that is held down runs a command once.
+  action->setAutoRepeat(row.Turn == MenuTurn::AtOnce);
+  return action;
+}
+
+}  // namespace app

@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// How the whole window opens on the screen that the tests run on: its frame and its menus are
+// within the work area, and the form inside shrinks by its own rule.
+
+#include <QScreen>
+#include <QScrollBar>
+#include <QTest>
+
+#include "app/FormColumn.h"
+#include "app/FormLayout.h"
+#include "app/Screens.h"
+#include "tests/app/WindowFixture.h"
+
+namespace {
+
+class WindowScreen : public tests::WindowTest {
+ protected:
+  void StartAndSettle() {
+    Start(WriteSampleWalk());
+    constexpr int kLateAnswers = 100;  // milliseconds; of the window system
+    QTest::qWait(kLateAnswers);
+  }
+
+  QRect Room() const { return window_.screen()->availableGeometry(); }
+  app::FormColumn* Column() { return Control<app::FormColumn>("column"); }
+};
+
+TEST_F(WindowScreen, LiesWithItsFrameWithinTheWorkArea) {
+  StartAndSettle();
+  const QRect frame = window_.frameGeometry();
+  EXPECT_TRUE(Room().contains(frame))
+      << frame.x() << ' ' << frame.y() << ' ' << frame.width() << ' ' << frame.height() << " in "
+      << Room().width() << ' ' << Room().height();
+}
+
+TEST_F(WindowScreen, ItsClientAreaIsAsLargeAsTheDesignOrAsFrameAndMenusLet) {
+  StartAndSettle();
+  const QSize room = Room().size() - (window_.frameSize() - form_.size());
+  EXPECT_EQ(form_.size(), app::FormSizeWithin(room));
+}
+
+TEST_F(WindowScreen, TheMenusStandAboveTheFormAndTakeNothingOfIt) {
+  StartAndSettle();
+  EXPECT_GT(window_.menuBar()->height(), 0);
+  EXPECT_EQ(form_.geometry().topLeft(), QPoint(0, window_.menuBar()->height()));
+  EXPECT_EQ(form_.width(), window_.width());
+  EXPECT_EQ(form_.geometry().bottom(), window_.height() - 1);
+  EXPECT_EQ(Button("cmdOpen")->mapTo(&form_, QPoint(0, 0)), QPoint(8, 8));
+}
+
+TEST_F(WindowScreen, BeforeItIsShownStandsInTheMiddleAndAThirdOfTheWayDownTheScreen) {
+  window_.Load({});
+  const QRect screen = window_.screen()->geometry();
+  const QRect place(screen.topLeft() + app::FormPosition(screen.size(), window_.size()),
+                    window_.size());
+  EXPECT_EQ(window_.pos(), app::NearestPlaceInside(Room(), place));
+}
+
+TEST_F(WindowScreen, OpenedSmallerOnlyThePaneAndTheTreeChangeByTheRule) {
+  const QRect pane = Pane()->geometry();
+  const QRect tree = Tree()->geometry();
+  StartAndSettle();
+  const QSize smaller = app::kDesignSize - form_.size();
+  const int treeHeight = tree.height() - smaller.height();
+  EXPECT_EQ(Pane()->geometry(), QRect(pane.topLeft(), pane.size() - smaller));
+  EXPECT_EQ(Tree()->height(), treeHeight < 0 ? tree.height() : treeHeight);
+}
+
+TEST_F(WindowScreen, EveryControlOfTheColumnCanBeScrolledIntoSight) {
+  StartAndSettle();
+  QList<QWidget*> controls{Tree(), CheckBox()};
+  for (auto* button : form_.findChildren<app::CaptionButton*>()) controls << button;
+  for (QWidget* control : controls) {
+    QScrollBar* bar = Column()->verticalScrollBar();
+    bar->setValue(control->geometry().center().y() - Column()->height() / 2);
+    QApplication::processEvents();
+    EXPECT_EQ(control->visibleRegion().boundingRect().size(), control->size())
+        << control->objectName().toStdString();
+  }
+}
+
+TEST_F(WindowScreen, EveryMenuAndEveryEntryIsOnTheScreen) {
+  StartAndSettle();
+  for (QAction* top : window_.menuBar()->actions()) {
+    const QRect place = window_.menuBar()->actionGeometry(top);
+    EXPECT_TRUE(window_.menuBar()->rect().contains(place)) << top->text().toStdString();
+    QTest::mouseClick(window_.menuBar(), Qt::LeftButton, {}, place.center());
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(top->menu()));
+    EXPECT_TRUE(window_.screen()->geometry().contains(top->menu()->geometry()))
+        << top->text().toStdString();
+    QTest::keyClick(top->menu(), Qt::Key_Escape);
+  }
+}
+
+// Where a window manager does not keep windows within the work area.
+class WindowResize : public WindowScreen {};
+
+TEST_F(WindowResize, GrowingTheWindowGrowsThePaneAndTheTreeByExactlyThat) {
+  StartAndSettle();
+  ResizeClient(app::kDesignSize);
+  const QRect pane = Pane()->geometry();
+  const QRect tree = Tree()->geometry();
+  ResizeClient(app::kDesignSize + QSize(137, 59));
+  EXPECT_EQ(Pane()->geometry(), QRect(pane.topLeft(), pane.size() + QSize(137, 59)));
+  EXPECT_EQ(Tree()->geometry(), QRect(tree.topLeft(), tree.size() + QSize(0, 59)));
+}
+
+}  // namespace
