@@ -2,20 +2,25 @@
 
 #include "cli/CommandLine.h"
 
-#include <algorithm>
-#include <map>
-#include <sstream>
 #include <string_view>
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
 #include "Version.h"
-#include "cli/ParserWords.h"
+#include "console/ParserChoices.h"
+#include "console/ParserWords.h"
 #include "gait/SubjectRecord.h"
 #include "reports/ReportList.h"
 
 namespace cli {
+
+using console::AddChoice;
+using console::AskedText;
+using console::Choices;
+using console::NotEmpty;
+using console::TakeArguments;
+using console::TakeValuesOutOfWords;
 
 namespace {
 
@@ -66,44 +71,11 @@ CLI::Validator Date() {
           ""};
 }
 
-CLI::Validator NotEmpty(const char* refusal) {
-  return {[refusal](const std::string& text) { return text.empty() ? refusal : std::string(); },
-          ""};
-}
-
-// A choice of an option and its name.
-template <typename Choice>
-using Choices = std::map<std::string, Choice>;
-
 const Choices<OutputFormat> kFormats = {
     {"text", OutputFormat::Text}, {"csv", OutputFormat::Csv}, {"json", OutputFormat::Json}};
 
 const Choices<modVantrel::GcdAxes> kAxes = {{"walk", modVantrel::GcdAxes::Walk},
                                             {"anatomical", modVantrel::GcdAxes::Anatomical}};
-
-template <typename Choice>
-std::string NamesOf(const Choices<Choice>& choices) {
-  std::string names;
-  for (const auto& [name, choice] : choices) names += (names.empty() ? "" : "|") + name;
-  return names;
-}
-
-// The option `name`, whose value is the name of one of `choices`.
-template <typename Choice>
-void AddChoice(CLI::App& app, const std::string& name, const Choices<Choice>& choices,
-               Choice& chosen, const std::string& description) {
-  const CLI::Validator isKnown(
-      [&choices](const std::string& text) {
-        return choices.contains(text) ? std::string()
-                                      : fmt::format("'{}' is none of {}", text, NamesOf(choices));
-      },
-      "");
-  app.add_option_function<std::string>(
-         name, [&choices, &chosen](const std::string& text) { chosen = choices.at(text); },
-         description)
-      ->type_name(NamesOf(choices))
-      ->check(isKnown);
-}
 
 void AddOptions(CLI::App& app, Request& request) {
   app.add_option("--label", request.Options.Labels,
@@ -177,40 +149,16 @@ void CheckRequest(const Request& request) {
   CheckNormals(request, report);
 }
 
-AskedText TextOf(const CLI::App& app, const CLI::Success& asked) {
-  std::ostringstream text;
-  app.exit(asked, text, text);
-  if (!text.str().ends_with('\n')) text << '\n';
-  return {text.str()};
-}
-
 }  // namespace
 
 std::variant<Request, AskedText> ParseCommandLine(const std::vector<std::string>& arguments) {
   CLI::App app(kDescription, "vantrel-report");
   app.footer(Footer());
   app.allow_windows_style_options(false);
-  app.set_version_flag("--version", std::string("vantrel-report ") + kVersion);
+  app.set_version_flag("--version", std::string("vantrel-report ") + console::kVersion);
   Request request;
   AddOptions(app, request);
-  ParserWords words = WordsOf(arguments, app);
-  std::string refusal;
-  try {
-    std::ranges::reverse(words.Words);  // the order in which the parser takes them
-    app.parse(std::move(words.Words));
-    CheckRequest(request);
-  } catch (const CLI::Success& asked) {
-    return TextOf(app, asked);
-  } catch (const CLI::ParseError& error) {
-    refusal = error.what();
-  }
-  if (!words.FlagWithValue.empty()) {
-    refusal = fmt::format("{} takes no value", words.FlagWithValue);
-  }
-  if (!words.UnknownOption.empty()) {
-    refusal = fmt::format("there is no option '{}'", words.UnknownOption);
-  }
-  if (!refusal.empty()) throw UsageError(refusal);
+  if (auto asked = TakeArguments(app, arguments, [&] { CheckRequest(request); })) return *asked;
   return request;
 }
 

@@ -6,16 +6,22 @@
 
 #include <fmt/format.h>
 
-#include "cli/OpenTrial.h"
-#include "cli/StandardOutput.h"
 #include "cli/TableOfRequest.h"
-#include "cli/Tool.h"
+#include "console/OpenTrial.h"
+#include "console/StandardOutput.h"
+#include "console/Usage.h"
 #include "gait/Checkup.h"
 #include "reports/CheckReport.h"
 #include "reports/ReportList.h"
 #include "support/Text.h"
 
 namespace cli {
+
+using console::ComplainOf;
+using console::kSomeFailed;
+using console::MessageOf;
+using console::StandardOutput;
+using console::Streams;
 
 using modVantrel::Finding;
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "cli/Request.h"
-#include "cli/Streams.h"
+#include "console/Streams.h"
 
 namespace cli {
 
@@ -13,6 +13,6 @@ namespace cli {
 // as one table. A finding that is an error makes `status` kSomeFailed; the error stream is told of
 // output alone that cannot be written. OutputClosed passes.
 void RunChecks(const Request& request, const std::vector<std::string>& files,
-               const Streams& streams, int& status);
+               const console::Streams& streams, int& status);
 
 }  // namespace cli

@@ -7,11 +7,11 @@
 #include <variant>
 
 #include "c3d/FileState.h"
-#include "cli/Complaint.h"
-#include "cli/OpenTrial.h"
-#include "cli/StandardOutput.h"
 #include "cli/TableOfRequest.h"
-#include "cli/Tool.h"
+#include "console/Complaint.h"
+#include "console/OpenTrial.h"
+#include "console/StandardOutput.h"
+#include "console/Usage.h"
 #include "reports/NormsReport.h"
 #include "reports/PooledReport.h"
 #include "reports/ReportList.h"
@@ -21,6 +21,15 @@
 #include "visit/NormalFile.h"
 
 namespace cli {
+
+using console::Complain;
+using console::ComplainOf;
+using console::kSomeFailed;
+using console::Labels;
+using console::MessageOf;
+using console::OpenTrial;
+using console::StandardOutput;
+using console::Streams;
 
 using reports::Complaints;
 using reports::PooledReport;
@@ -85,7 +94,7 @@ void RunPooled(const Request& request, const std::vector<std::string>& files,
                const Streams& streams, int& status) {
   const Made made = MakeReport(request);
   if (const auto* failure = std::get_if<std::string>(&made)) {
-    Complain(streams.Error, *failure);
+    Complain(streams, *failure);
     status = kSomeFailed;
     return;
   }

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "cli/Request.h"
-#include "cli/Streams.h"
+#include "console/Streams.h"
 
 namespace cli {
 
@@ -14,6 +14,6 @@ namespace cli {
 // either makes `status` kSomeFailed. Nothing is printed where the normal values cannot be read.
 // OutputClosed passes.
 void RunPooled(const Request& request, const std::vector<std::string>& files,
-               const Streams& streams, int& status);
+               const console::Streams& streams, int& status);
 
 }  // namespace cli

@@ -2,8 +2,6 @@
 
 #include "cli/RunReports.h"
 
-#include <algorithm>
-#include <iterator>
 #include <string>
 #include <utility>
 #include <vector>
@@ -11,41 +9,36 @@
 #include <fmt/format.h>
 
 #include "c3d/FileState.h"
-#include "cli/OpenTrial.h"
 #include "cli/ReportTable.h"
 #include "cli/RunChecks.h"
 #include "cli/RunPooled.h"
 #include "cli/RunTables.h"
-#include "cli/StandardOutput.h"
-#include "cli/Start.h"
-#include "cli/Tool.h"
+#include "console/NamedFiles.h"
+#include "console/OpenTrial.h"
+#include "console/StandardOutput.h"
+#include "console/Usage.h"
 #include "reports/ReportList.h"
 #include "support/ReportOutput.h"
 #include "support/RuntimeError.h"
 
 namespace cli {
 
+using console::ComplainOf;
+using console::FilesToRead;
+using console::kAllWell;
+using console::kSomeFailed;
+using console::Labels;
+using console::MessageOf;
+using console::OpenTrial;
+using console::OutputClosed;
+using console::StandardOutput;
+using console::Streams;
+using console::Unwritten;
+
 using modAllPurpose::ReportOutput;
 using modAllPurpose::RuntimeError;
 
 namespace {
-
-// The files that those of the command line stand for. One that cannot be told is complained about
-// and left out; `status` says so.
-std::vector<std::string> FilesToRead(const std::vector<std::string>& named, const Streams& streams,
-                                     int& status) {
-  std::vector<std::string> files;
-  for (const std::string& file : named) {
-    const std::string complaint = MessageOf([&] {
-      std::ranges::move(WithoutWildcards(file), std::back_inserter(files));
-      return std::string();
-    });
-    if (complaint.empty()) continue;
-    ComplainOf(file, complaint, streams);
-    status = kSomeFailed;
-  }
-  return files;
-}
 
 // Opens `file` and writes its report; answers with the message of a failed open or a refused input,
 // empty where all is well.

@@ -2,12 +2,12 @@
 #pragma once
 
 #include "cli/Request.h"
-#include "cli/Streams.h"
+#include "console/Streams.h"
 
 namespace cli {
 
 // Opens each file of the request with fresh state and prints its report. What fails is named on
 // the error stream and the next file is taken. Returns the exit status.
-int RunReports(Request request, const Streams& streams);
+int RunReports(Request request, const console::Streams& streams);
 
 }  // namespace cli

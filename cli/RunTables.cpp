@@ -6,15 +6,23 @@
 #include <iterator>
 
 #include "c3d/FileState.h"
-#include "cli/OpenTrial.h"
 #include "cli/ReportTable.h"
-#include "cli/StandardOutput.h"
 #include "cli/TableOfRequest.h"
-#include "cli/Tool.h"
+#include "console/OpenTrial.h"
+#include "console/StandardOutput.h"
+#include "console/Usage.h"
 #include "reports/ReportList.h"
 #include "support/Text.h"
 
 namespace cli {
+
+using console::ComplainOf;
+using console::kSomeFailed;
+using console::Labels;
+using console::MessageOf;
+using console::OpenTrial;
+using console::StandardOutput;
+using console::Streams;
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "cli/Request.h"
-#include "cli/Streams.h"
+#include "console/Streams.h"
 
 namespace cli {
 
@@ -13,6 +13,6 @@ namespace cli {
 // named on the error stream and makes `status` kSomeFailed, the rows before it stand, and the table
 // is ended as it must. OutputClosed passes.
 void RunTables(const Request& request, const std::vector<std::string>& files,
-               const Streams& streams, int& status);
+               const console::Streams& streams, int& status);
 
 }  // namespace cli

@@ -6,42 +6,25 @@
 #include <variant>
 
 #include "cli/CommandLine.h"
-#include "cli/Complaint.h"
 #include "cli/RunReports.h"
-#include "cli/StandardOutput.h"
-#include "support/RuntimeError.h"
+#include "console/RunCommandLine.h"
 
 namespace cli {
 
-namespace {
+using console::AskedText;
+using console::Streams;
 
-// Prints what was asked for in place of a report, and returns the exit status.
-int Print(const AskedText& asked, const Streams& streams) {
-  StandardOutput output(streams.Output, {});
-  try {
-    output.Piece(asked.Text);
-    output.Flush();
-  } catch (const OutputClosed&) {
-    // Whoever asked has seen enough.
-  } catch (const modAllPurpose::RuntimeError& error) {
-    Complain(streams.Error, RuntimeErrorLine(error));
-    return kSomeFailed;
-  }
-  return kAllWell;
-}
-
-}  // namespace
-
-int RunTool(const std::vector<std::string>& arguments, const Streams& streams) {
-  try {
-    auto parsed = ParseCommandLine(arguments);
-    if (const auto* asked = std::get_if<AskedText>(&parsed)) return Print(*asked, streams);
-    return RunReports(std::get<Request>(std::move(parsed)), streams);
-  } catch (const UsageError& error) {
-    Complain(streams.Error, error.what());
-    std::fputs("Try 'vantrel-report --help' for more information.\n", streams.Error);
-    return kUsageError;
-  }
+int RunTool(const std::vector<std::string>& arguments, const Streams& given) {
+  const Streams streams{given.Output, given.Error, "vantrel-report"};
+  return console::RunCommandLine(
+      [&] {
+        auto parsed = ParseCommandLine(arguments);
+        if (const auto* asked = std::get_if<AskedText>(&parsed)) {
+          return console::Print(*asked, streams);
+        }
+        return RunReports(std::get<Request>(std::move(parsed)), streams);
+      },
+      streams);
 }
 
 }  // namespace cli

@@ -2,12 +2,12 @@
 
 #include <cstdio>
 
-#include "cli/Start.h"
 #include "cli/Tool.h"
+#include "console/Start.h"
 #include "support/Interruption.h"
 
 int main(int argc, char* argv[]) {
   modAllPurpose::LetInterruptionsWait();
-  cli::PrepareOutput();
-  return cli::RunTool(cli::Arguments(argc, argv), {stdout, stderr});
+  console::PrepareOutput();
+  return cli::RunTool(console::Arguments(argc, argv), {stdout, stderr});
 }

@@ -18,6 +18,7 @@
 
 #include "plot/Texts.h"
 #include "support/RuntimeError.h"
+#include "support/Text.h"
 
 namespace plot {
 
@@ -27,22 +28,13 @@ namespace {
 
 constexpr int kTenthsOfAnInch = 720;  // tenths of a point in an inch
 
-constexpr std::array kEndings = {std::pair<std::string_view, FileKind>{".pdf", FileKind::Pdf},
-                                 std::pair<std::string_view, FileKind>{".svg", FileKind::Svg},
-                                 std::pair<std::string_view, FileKind>{".png", FileKind::Png}};
+constexpr std::array kEndings = {std::pair<std::string_view, FileKind>{".PDF", FileKind::Pdf},
+                                 std::pair<std::string_view, FileKind>{".SVG", FileKind::Svg},
+                                 std::pair<std::string_view, FileKind>{".PNG", FileKind::Png}};
 
 std::string_view EndingOf(std::string_view file) {
   const auto dot = file.rfind('.');
   return dot == std::string_view::npos ? std::string_view() : file.substr(dot);
-}
-
-// No locale decides what an ending is.
-std::string InLowerCase(std::string_view text) {
-  std::string lower(text);
-  for (char& letter : lower) {
-    if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter - 'A' + 'a');
-  }
-  return lower;
 }
 
 std::string BytesIn(const QBuffer& buffer) {
@@ -122,7 +114,7 @@ std::string PngOf(const pages::PageSet& set, std::size_t index, const SheetKind&
 }  // namespace
 
 std::optional<FileKind> FileKindOf(std::string_view file) {
-  const std::string ending = InLowerCase(EndingOf(file));
+  const std::string ending = modAllPurpose::UpperCase(EndingOf(file));
   for (const auto& [name, kind] : kEndings) {
     if (name == ending) return kind;
   }

@@ -28,12 +28,14 @@ const std::map<std::string, std::vector<std::string>> kMayInclude = {
     {"pages", {"support", "c3d", "gait", "visit"}},
     {"plot", {"support", "c3d", "gait", "visit", "pages"}},
     {"app", {"support", "c3d", "gait", "visit", "deploy", "reports", "pages", "plot"}},
-    {"cli", {"support", "c3d", "gait", "visit", "reports"}},
+    {"console", {"support", "c3d", "gait"}},
+    {"cli", {"support", "c3d", "gait", "visit", "reports", "console"}},
+    {"curves", {"support", "c3d", "gait", "visit", "pages", "plot", "console"}},
     {"sample", {"support", "c3d"}},
 };
 
 // The folders whose sources may use the toolkit.
-const std::vector<std::string> kMayUseQt = {"plot", "app"};
+const std::vector<std::string> kMayUseQt = {"plot", "app", "curves"};
 
 struct Include {
   std::string File;    // from the root of the tree

@@ -14,10 +14,10 @@
 // What a command line asks for.
 namespace {
 
-using cli::AskedText;
 using cli::ParseCommandLine;
 using cli::Request;
-using cli::UsageError;
+using console::AskedText;
+using console::UsageError;
 using testing::ElementsAre;
 
 Request Parsed(const std::vector<std::string>& arguments) {

@@ -11,7 +11,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "cli/Start.h"
+#include "console/Start.h"
 #include "sample/TrialBuilder.h"
 #include "support/FileSystem.h"
 #include "tests/TestTrials.h"
@@ -55,10 +55,10 @@ TEST_F(ToolOnWindows, TakesWildcardsOfTheLastNameOnly) {
   Write("walk.c3d");
   const std::string folder = modAllPurpose::Utf8Path(folder_.Path());
   for (const std::string name : {"walk.c3d", "wa*/walk.c3d", "wa?\\walk.c3d", ""}) {
-    EXPECT_THAT(cli::WithoutWildcards(name), ElementsAre(name));
+    EXPECT_THAT(console::WithoutWildcards(name), ElementsAre(name));
   }
-  EXPECT_THAT(cli::WithoutWildcards(folder + "/w*.c3d"), ElementsAre(folder + "/walk.c3d"));
-  EXPECT_THAT(cli::WithoutWildcards(folder + "\\w?lk.c3d"), ElementsAre(folder + "\\walk.c3d"));
+  EXPECT_THAT(console::WithoutWildcards(folder + "/w*.c3d"), ElementsAre(folder + "/walk.c3d"));
+  EXPECT_THAT(console::WithoutWildcards(folder + "\\w?lk.c3d"), ElementsAre(folder + "\\walk.c3d"));
 }
 
 TEST_F(ToolOnWindows, TakesFilesInTheOrderOfTheirPatterns) {

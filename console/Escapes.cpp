@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "cli/Escapes.h"
+#include "console/Escapes.h"
 
 #include <cstddef>
 
@@ -8,7 +8,7 @@
 
 #include "support/Text.h"
 
-namespace cli {
+namespace console {
 
 namespace {
 
@@ -45,4 +45,4 @@ std::string Escaped(std::string_view text) {
   return escaped;
 }
 
-}  // namespace cli
+}  // namespace console

@@ -5,7 +5,7 @@
 #include <vector>
 
 // What systems do differently about a program's start and its standard output.
-namespace cli {
+namespace console {
 
 // The arguments that the tool was started with, its own name aside, in UTF-8 on Windows and as they
 // came elsewhere.
@@ -28,4 +28,4 @@ void ForgetErrors();
 // more.
 bool IsOutputClosed();
 
-}  // namespace cli
+}  // namespace console

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "cli/ParserWords.h"
+#include "console/ParserWords.h"
 
-namespace cli {
+namespace console {
 
 namespace {
 
@@ -62,4 +62,4 @@ void TakeValuesOutOfWords(CLI::App& app) {
   for (CLI::Option* option : app.get_options()) option->transform(unshield);
 }
 
-}  // namespace cli
+}  // namespace console

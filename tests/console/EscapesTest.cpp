@@ -4,11 +4,11 @@
 
 #include <gtest/gtest.h>
 
-#include "cli/Escapes.h"
+#include "console/Escapes.h"
 
 namespace {
 
-using cli::Escaped;
+using console::Escaped;
 
 TEST(Escaped, LeavesWhatIsReadableAsItStands) {
   for (const std::string text :

@@ -3,9 +3,9 @@
 #include <cerrno>
 #include <csignal>
 
-#include "cli/Start.h"
+#include "console/Start.h"
 
-namespace cli {
+namespace console {
 
 std::vector<std::string> Arguments(int argc, char** argv) { return {argv + 1, argv + argc}; }
 
@@ -22,4 +22,4 @@ void ForgetErrors() { errno = 0; }
 
 bool IsOutputClosed() { return errno == EPIPE; }
 
-}  // namespace cli
+}  // namespace console

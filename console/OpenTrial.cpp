@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "cli/OpenTrial.h"
+#include "console/OpenTrial.h"
 
 #include <fmt/format.h>
 
 #include "c3d/LabelTables.h"
 #include "c3d/OpenC3dFile.h"
-#include "cli/Complaint.h"
+#include "console/Complaint.h"
 #include "gait/EventExtraction.h"
 
-namespace cli {
+namespace console {
 
 std::string OpenTrial(const std::string& file, Labels labels, modVantrel::FileState& state) {
   const auto opened = modVantrel::OpenC3dFile(state, file, modVantrel::FindGaitEvents);
@@ -21,7 +21,7 @@ std::string OpenTrial(const std::string& file, Labels labels, modVantrel::FileSt
 }
 
 void ComplainOf(const std::string& file, std::string_view message, const Streams& streams) {
-  Complain(streams.Error, fmt::format("{}: {}", file, message));
+  Complain(streams, fmt::format("{}: {}", file, message));
 }
 
-}  // namespace cli
+}  // namespace console

@@ -10,7 +10,7 @@
 #include "support/ReportOutput.h"
 #include "support/RuntimeError.h"
 
-namespace cli {
+namespace console {
 
 // Thrown when nobody reads the tool's output any more; the tool then ends without a word.
 struct OutputClosed {};
@@ -53,4 +53,4 @@ class StandardOutput : public modAllPurpose::ReportOutput {
   std::string pending_;
 };
 
-}  // namespace cli
+}  // namespace console

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "cli/StandardOutput.h"
+#include "console/StandardOutput.h"
 
 #include <cerrno>
 
-#include "cli/Start.h"
+#include "console/Start.h"
 #include "support/RuntimeError.h"
 
-namespace cli {
+namespace console {
 
 namespace {
 
@@ -50,4 +50,4 @@ void StandardOutput::HandOver(const std::string& piece) {
   throw modAllPurpose::FileErrorFromErrno(errno);
 }
 
-}  // namespace cli
+}  // namespace console

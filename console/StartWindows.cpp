@@ -9,11 +9,11 @@
 #include <memory>
 #include <windows.h>
 
-#include "cli/Start.h"
+#include "console/Start.h"
 #include "support/FileSystem.h"
 #include "support/WindowsError.h"
 
-namespace cli {
+namespace console {
 
 namespace {
 
@@ -102,4 +102,4 @@ bool IsOutputClosed() {
          _doserrno == ERROR_PIPE_NOT_CONNECTED;
 }
 
-}  // namespace cli
+}  // namespace console

@@ -6,7 +6,7 @@
 
 #include <CLI/App.hpp>
 
-namespace cli {
+namespace console {
 
 // A command line in words that the parser cannot misread, and the name of the first option in it
 // that the parser does not know, and of the first that is given a value and takes none, as in
@@ -24,4 +24,4 @@ ParserWords WordsOf(const std::vector<std::string>& arguments, const CLI::App& a
 // Lets the options of `app`, all of which it must have by now, take their values out of such words.
 void TakeValuesOutOfWords(CLI::App& app);
 
-}  // namespace cli
+}  // namespace console

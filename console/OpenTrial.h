@@ -6,10 +6,10 @@
 #include <string_view>
 
 #include "c3d/FileState.h"
-#include "cli/Streams.h"
+#include "console/Streams.h"
 #include "support/RuntimeError.h"
 
-namespace cli {
+namespace console {
 
 // Which labels an open trial is to know.
 enum class Labels { First255, All };
@@ -34,4 +34,4 @@ std::string MessageOf(Work work) {
   }
 }
 
-}  // namespace cli
+}  // namespace console

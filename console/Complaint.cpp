@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "console/Complaint.h"
+
+#include <cstdio>
+#include <string>
+
+#include <fmt/format.h>
+
+#include "console/Escapes.h"
+
+namespace console {
+
+void Complain(const Streams& streams, std::string_view message) {
+  const std::string line = fmt::format("{}: {}\n", streams.Program, Escaped(message));
+  std::fwrite(line.data(), 1, line.size(), streams.Error);
+}
+
+}  // namespace console

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "curves/RunCurves.h"
+
+#include <utility>
+#include <variant>
+
+#include "console/Complaint.h"
+#include "console/OpenTrial.h"
+#include "console/RunCommandLine.h"
+#include "curves/CommandLine.h"
+#include "curves/ReadTrials.h"
+#include "curves/Toolkit.h"
+#include "pages/MakePages.h"
+#include "pages/PageJson.h"
+#include "visit/NormalFile.h"
+
+namespace curves {
+
+using console::ComplainOf;
+using console::Streams;
+using modAllPurpose::WholeFile;
+
+namespace {
+
+pages::PageSet PagesOf(const Request& request, const std::vector<pages::TrialValues>& trials,
+                       const visit::Normals* normals) {
+  pages::PageChoice choice;
+  choice.Kinds = request.Kinds;
+  choice.Program = ProgramAndVersion();
+  choice.Title = request.Title;
+  choice.Subject = request.Subject;
+  choice.Normals = normals;
+  return pages::MakePages(trials, choice);
+}
+
+std::vector<WholeFile> FilesOf(const Request& request, const pages::PageSet& set) {
+  if (!request.OutputKind) return {{request.Output, pages::JsonOf(set)}};
+  StartToolkit();
+  plot::DrawingStyle style;
+  style.Curves =
+      request.Curves.value_or(set.Files.size() > 1 ? plot::Shown::Means : plot::Shown::Strides);
+  style.IsMonochrome = request.IsMonochrome;
+  return plot::FilesOf(request.Output, set, *request.OutputKind, request.Sheet, style);
+}
+
+// Writes the files; false where one is complained of.
+bool Write(const Request& request, const pages::PageSet& set, const Streams& streams) {
+  std::string taken;
+  const std::string failure = console::MessageOf([&] {
+    taken = plot::WriteFiles(FilesOf(request, set), request.Overwrite);
+    return std::string();
+  });
+  if (!taken.empty()) Complain(streams, taken + " exists already (--overwrite replaces it)");
+  if (!failure.empty()) ComplainOf(request.Output, failure, streams);
+  return taken.empty() && failure.empty();
+}
+
+int DrawCurves(const Request& request, const Streams& streams) {
+  std::variant<visit::Normals, std::string> normals;
+  if (!request.NormalFile.empty()) normals = visit::ReadNormalFile(request.NormalFile);
+  if (const auto* fault = std::get_if<std::string>(&normals)) {
+    Complain(streams, *fault);
+    return console::kSomeFailed;
+  }
+  int status = console::kAllWell;
+  const auto trials = ReadTrials(request, streams, status);
+  if (trials.empty()) return status;
+  const pages::PageSet set =
+      PagesOf(request, trials,
+              request.NormalFile.empty() ? nullptr : std::get_if<visit::Normals>(&normals));
+  if (set.Pages.empty()) return status;
+  return Write(request, set, streams) ? status : console::kSomeFailed;
+}
+
+}  // namespace
+
+int RunCurves(const std::vector<std::string>& arguments, const Streams& given) {
+  const Streams streams{given.Output, given.Error, kProgram};
+  return console::RunCommandLine(
+      [&] {
+        const auto parsed = ParseCommandLine(arguments);
+        if (const auto* asked = std::get_if<console::AskedText>(&parsed)) {
+          return console::Print(*asked, streams);
+        }
+        return DrawCurves(std::get<Request>(parsed), streams);
+      },
+      streams);
+}
+
+}  // namespace curves

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "console/Streams.h"
+
+namespace curves {
+
+// Does what the command line `arguments` (without the program's name) says and returns the exit
+// status. What was asked for goes to `streams.Output`, what went wrong is named on `streams.Error`.
+int RunCurves(const std::vector<std::string>& arguments, const console::Streams& streams);
+
+}  // namespace curves

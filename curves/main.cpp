@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <cstdio>
+
+#include "console/Start.h"
+#include "curves/RunCurves.h"
+#include "support/Interruption.h"
+
+int main(int argc, char* argv[]) {
+  modAllPurpose::LetInterruptionsWait();
+  console::PrepareOutput();
+  return curves::RunCurves(console::Arguments(argc, argv), {stdout, stderr});
+}
