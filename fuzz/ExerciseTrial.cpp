@@ -13,6 +13,8 @@
 #include "gait/GcdCalcs.h"
 #include "gait/GcdCommand.h"
 #include "gait/GcdText.h"
+#include "pages/MakePages.h"
+#include "pages/PageJson.h"
 #include "reports/CheckReport.h"
 #include "reports/HeaderReport.h"
 #include "reports/ListingReport.h"
@@ -106,12 +108,24 @@ void RunGcdTexts(const FileState& state) {
   }
 }
 
+void RunPages(const FileState& state) {
+  pages::TrialReading reading{{}, SomeLabels(state.PointLabels)};
+  pages::PageChoice choice;
+  for (const pages::PageInfo& page : pages::kPages) reading.Kinds.push_back(page.Kind);
+  choice.Kinds = reading.Kinds;
+  Run([&](ReportOutput& output) {
+    const std::vector trials = {ReadTrialValues(state, reading)};
+    output.Line(JsonOf(MakePages(trials, choice)));
+  });
+}
+
 }  // namespace
 
 void ExerciseOpenFile(const FileState& state) {
   RunPlainReports(state);
   RunLabelReports(state);
   RunGcdTexts(state);
+  RunPages(state);
 }
 
 void ExerciseCheckup(const std::string& path) {

@@ -23,17 +23,6 @@ using modVantrel::GaitSide;
 
 namespace {
 
-// The unit of the first trial that has the label on either side.
-ShownUnit UnitOf(const ShownTrials& shown, const PanelLayout& layout) {
-  for (const TrialValues& trial : shown.Trials()) {
-    for (const GaitSide side : kSides) {
-      const TrialLabel* label = FindLabel(trial, WithLetter(side, layout.Label));
-      if (label != nullptr) return UnitShownFor(layout.Kind, label->Unit);
-    }
-  }
-  return UnitShownFor(layout.Kind, "");
-}
-
 CurvePoints PointsOf(const LabelStride& stride, modVantrel::Component part, double factor) {
   CurvePoints points{};
   for (std::size_t i = 0; i < points.size(); ++i) {
@@ -44,13 +33,13 @@ CurvePoints PointsOf(const LabelStride& stride, modVantrel::Component part, doub
   return points;
 }
 
-std::vector<Curve> CurvesOf(const ShownTrials& shown, const PanelLayout& layout, GaitSide side,
-                            double factor) {
+std::vector<Curve> CurvesOf(const ShownTrials& shown, const PanelLayout& layout, GaitSide side) {
   std::vector<Curve> curves;
   for (std::size_t file = 0; file < shown.Trials().size(); ++file) {
     const TrialValues& trial = shown.Trials()[file];
-    const TrialLabel* label = FindLabel(trial, WithLetter(side, layout.Label));
+    const TrialLabel* label = shown.FindLabel(file, side, layout.Label);
     if (label == nullptr) continue;
+    const double factor = UnitShownFor(layout.Kind, label->Unit).Factor;
     for (const LabelStride& stride : label->Strides) {
       const TrialStride& record = trial.Strides.at(stride.Stride);
       if (!shown.IsShown(file, record)) continue;
@@ -102,7 +91,7 @@ Range OrdinateOf(const PanelLayout& layout, const ShownUnit& unit,
 }
 
 CurvePanel PanelOf(const ShownTrials& shown, const PanelLayout& layout) {
-  const ShownUnit unit = UnitOf(shown, layout);
+  const ShownUnit unit = shown.UnitOf(layout.Kind, layout.Label);
   CurvePanel panel;
   panel.Row = layout.Row;
   panel.Column = layout.Column;
@@ -113,7 +102,7 @@ CurvePanel PanelOf(const ShownTrials& shown, const PanelLayout& layout) {
   panel.Down = layout.Down;
   panel.Up = layout.Up;
   for (const GaitSide side : kSides) {
-    auto curves = CurvesOf(shown, layout, side, unit.Factor);
+    auto curves = CurvesOf(shown, layout, side);
     if (!curves.empty()) AddMarks(shown, side, panel.Marks);
     std::ranges::move(curves, std::back_inserter(panel.Curves));
     AddMean(panel, side, shown.Pooled(side, layout.Label), unit.Factor);

@@ -36,8 +36,9 @@ std::string LabelsWhere(const ShownTrials& shown, const PanelLayout& layout, Con
   std::string text;
   for (const GaitSide side : kSides) {
     Affected affected{WithLetter(side, layout.Label), {}};
-    for (const TrialValues& trial : shown.Trials()) {
-      if (isAffected(FindLabel(trial, affected.Label))) affected.Files.push_back(trial.File);
+    for (std::size_t file = 0; file < shown.Trials().size(); ++file) {
+      const TrialLabel* label = shown.FindLabel(file, side, layout.Label);
+      if (isAffected(label)) affected.Files.push_back(shown.Trials()[file].File);
     }
     if (affected.Files.empty()) continue;
     if (!text.empty()) text += ", ";
@@ -67,6 +68,11 @@ std::vector<std::string> NotesOf(const ShownTrials& shown, const PanelLayout& la
     return label != nullptr && HasNoNumbers(*label, layout.Part);
   });
   if (!damaged.empty()) notes.push_back("Values that are no numbers: " + damaged);
+  const ShownUnit unit = shown.UnitOf(layout.Kind, layout.Label);
+  const std::string others = LabelsWhere(shown, layout, [&](const TrialLabel* label) {
+    return label != nullptr && UnitShownFor(layout.Kind, label->Unit).Text != unit.Text;
+  });
+  if (!others.empty()) notes.push_back("In another unit: " + others);
   return notes;
 }
 

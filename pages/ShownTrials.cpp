@@ -2,7 +2,7 @@
 
 #include "pages/ShownTrials.h"
 
-#include <algorithm>
+#include <array>
 #include <utility>
 
 #include "gait/EventNames.h"
@@ -11,19 +11,30 @@
 namespace pages {
 
 using modAllPurpose::SearchKey;
+using modVantrel::Component;
 using modVantrel::GaitSide;
 using visit::LabelCurves;
+
+namespace {
+
+// A curve whose unit is `ratio` times that of the trials before it.
+std::array<visit::CurveValues, 3> Scaled(const modVantrel::NormalizedCurve& curve, double ratio) {
+  std::array<visit::CurveValues, 3> scaled{};
+  for (std::size_t part = 0; part < scaled.size(); ++part) {
+    const Component component = modVantrel::kComponents.at(part);
+    for (std::size_t i = 0; i < visit::kInstants; ++i) {
+      const auto& point = curve[static_cast<std::int32_t>(i) + 1];
+      scaled.at(part).at(i) = double{ComponentOf(point, component)} * ratio;
+    }
+  }
+  return scaled;
+}
+
+}  // namespace
 
 std::string WithLetter(GaitSide side, std::string_view label) {
   std::string name(modVantrel::SideName(side).substr(0, 1));
   return name.append(label);
-}
-
-const TrialLabel* FindLabel(const TrialValues& trial, std::string_view label) {
-  const std::string key = SearchKey(label);
-  const auto found = std::ranges::find(
-      trial.Labels, key, [](const TrialLabel& candidate) { return SearchKey(candidate.Label); });
-  return found == trial.Labels.end() ? nullptr : &*found;
 }
 
 std::string_view ShortName(std::string_view file) {
@@ -32,6 +43,10 @@ std::string_view ShortName(std::string_view file) {
 
 ShownTrials::ShownTrials(std::span<const TrialValues> trials, const PageChoice& choice)
     : trials_(trials), choice_(choice) {
+  for (const TrialValues& trial : trials_) {
+    auto& labels = labels_.emplace_back();
+    for (const TrialLabel& label : trial.Labels) labels.emplace(SearchKey(label.Label), &label);
+  }
   for (std::size_t file = 0; file < trials_.size(); ++file) curves_.push_back(CurvesOf(file));
 }
 
@@ -47,15 +62,38 @@ std::vector<const TrialStride*> ShownTrials::StridesOf(std::size_t file) const {
   return strides;
 }
 
+const TrialLabel* ShownTrials::FindLabel(std::size_t file, GaitSide side,
+                                         std::string_view label) const {
+  const auto found = labels_.at(file).find(SearchKey(WithLetter(side, label)));
+  return found == labels_.at(file).end() ? nullptr : found->second;
+}
+
+ShownUnit ShownTrials::UnitOf(modVantrel::PointKind kind, std::string_view label) const {
+  for (std::size_t file = 0; file < trials_.size(); ++file) {
+    for (const GaitSide side : kSides) {
+      const TrialLabel* found = FindLabel(file, side, label);
+      if (found != nullptr) return UnitShownFor(kind, found->Unit);
+    }
+  }
+  return UnitShownFor(kind, "");
+}
+
 std::vector<LabelCurves> ShownTrials::CurvesOf(std::size_t file) const {
   const TrialValues& trial = trials_[file];
   std::vector<LabelCurves> labels;
   for (const TrialLabel& label : trial.Labels) {
     LabelCurves curves{label.Label, label.Unit, {}, {}};
+    const std::string name = SearchKey(label.Label).substr(1);
+    const double ratio =
+        UnitShownFor(label.Kind, label.Unit).Factor / UnitOf(label.Kind, name).Factor;
     for (const LabelStride& stride : label.Strides) {
       const TrialStride& record = trial.Strides.at(stride.Stride);
       if (!stride.EntersMeans || !IsShown(file, record)) continue;
-      curves.Of(record.Side).Add(stride.Curve);
+      if (ratio == 1) {
+        curves.Of(record.Side).Add(stride.Curve);
+      } else {
+        curves.Of(record.Side).Add(Scaled(stride.Curve, ratio));
+      }
     }
     labels.push_back(std::move(curves));
   }

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstddef>
+#include <map>
 #include <span>
 #include <string>
 #include <string_view>
@@ -11,6 +12,7 @@
 #include "c3d/GaitEvents.h"
 #include "pages/MakePages.h"
 #include "pages/Page.h"
+#include "pages/PageUnits.h"
 #include "pages/TrialValues.h"
 #include "visit/TrialCurves.h"
 
@@ -37,9 +39,15 @@ class ShownTrials {
   // The strides of a file, from 0, that are not left out.
   std::vector<const TrialStride*> StridesOf(std::size_t file) const;
 
+  // The label of that side in a file, as names are compared; null where there is none.
+  const TrialLabel* FindLabel(std::size_t file, modVantrel::GaitSide side,
+                              std::string_view label) const;
+  // The unit in which a label, without its letter, is shown: that of the first trial that has it.
+  ShownUnit UnitOf(modVantrel::PointKind kind, std::string_view label) const;
+
   // The curves of each trial that enter means, label by label as the trial has them.
   const std::vector<std::vector<visit::LabelCurves>>& CurvesForMeans() const { return curves_; }
-  // Those of all trials together.
+  // Those of all trials together, in the unit of the first one.
   visit::CurveStatistics Pooled(modVantrel::GaitSide side, std::string_view label) const;
 
  private:
@@ -47,11 +55,9 @@ class ShownTrials {
 
   std::span<const TrialValues> trials_;
   const PageChoice& choice_;
+  std::vector<std::map<std::string, const TrialLabel*>> labels_;  // of each file, as compared
   std::vector<std::vector<visit::LabelCurves>> curves_;
 };
-
-// The label of that name in a trial, as names are compared; null where there is none.
-const TrialLabel* FindLabel(const TrialValues& trial, std::string_view label);
 
 // The name of a file without its folders.
 std::string_view ShortName(std::string_view file);
