@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include "app/CurvesWindow.h"
 #include "app/QtText.h"
 #include "app/frmVantrel.h"
 
@@ -26,6 +27,8 @@ MainWindow::MainWindow(modVantrel::FileState& state) : form_(new frmVantrel(stat
   setWindowTitle(form_->windowTitle());
   connect(form_, &QWidget::windowTitleChanged, this, &QWidget::setWindowTitle);
   connect(form_, &frmVantrel::OpenFileChanged, this, &MainWindow::EnableActions);
+  connect(form_, &frmVantrel::OpenFileChanged, this, &MainWindow::FollowWithCurves);
+  connect(this, &MainWindow::CurvesAsked, this, &MainWindow::ShowCurves);
   // A file that is dropped on the menu bar is for the form too.
   setAcceptDrops(true);
   installEventFilter(form_);
@@ -36,6 +39,7 @@ MainWindow::MainWindow(modVantrel::FileState& state) : form_(new frmVantrel(stat
 void MainWindow::Load(const std::string& commandLine) { form_->Form_Load(commandLine); }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+  CloseCurves();
   form_->close();
   event->accept();
 }

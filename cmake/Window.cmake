@@ -2,7 +2,7 @@
 
 # The toolkit of the window: Qt 6 Widgets, Svg for pages of curves, and QScintilla for the output
 # pane.
-find_package(Qt6 6.4 REQUIRED COMPONENTS Svg Widgets)
+find_package(Qt6 6.4 REQUIRED COMPONENTS PrintSupport Svg Widgets)
 
 find_path(QSCINTILLA_INCLUDE_DIR Qsci/qsciscintilla.h PATH_SUFFIXES qt6 REQUIRED)
 find_library(QSCINTILLA_LIBRARY qscintilla2_qt6 REQUIRED)
