@@ -2,6 +2,8 @@
 
 // What the curves window gives away: saved pages, prints, pictures, tables.
 
+#include <algorithm>
+#include <filesystem>
 #include <fstream>
 
 #include <QAction>
@@ -15,7 +17,6 @@
 #include <QTest>
 
 #include "app/MainWindow.h"
-#include "tests/GaitTrials.h"
 #include "tests/app/CurvesFixture.h"
 #include "tests/app/FormFixture.h"
 #include "tests/app/WindowFixture.h"
@@ -24,6 +25,15 @@ namespace {
 
 using pages::PageKind;
 using tests::ReadWholeFile;
+
+std::vector<std::string> NamesIn(const std::filesystem::path& folder) {
+  std::vector<std::string> names;
+  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+    names.push_back(entry.path().filename().string());
+  }
+  std::ranges::sort(names);
+  return names;
+}
 
 class CurvesFiles : public tests::CurvesTest {
  protected:
@@ -63,7 +73,7 @@ TEST_F(CurvesFiles, APageIsSavedInEachOfTheThreeForms) {
     WaitUntilRead();
     EXPECT_TRUE(ReadWholeFile(folder_ / "out" / name).starts_with(beginning)) << name;
   }
-  EXPECT_EQ(tests::NamesIn(folder_ / "out").size(), 3U);
+  EXPECT_EQ(NamesIn(folder_ / "out").size(), 3U);
 }
 
 TEST_F(CurvesFiles, AllPagesAreSavedAndThoseWithNothingToShowAreNot) {
@@ -72,7 +82,7 @@ TEST_F(CurvesFiles, AllPagesAreSavedAndThoseWithNothingToShowAreNot) {
   Entry("mnuSavePages")->trigger();
   WaitUntilRead();
   // Kinematics, kinetics, measures, variability and the label of three trials; no scores.
-  const auto names = tests::NamesIn(folder_ / "out");
+  const auto names = NamesIn(folder_ / "out");
   EXPECT_GE(names.size(), 4U);
   EXPECT_EQ(names.front(), "all-1.png");
 }
@@ -123,7 +133,7 @@ TEST_F(CurvesFiles, TheTablesAreThoseOfTheTool) {
 
 TEST_F(CurvesFiles, AStrideThatIsLeftOutIsInNoTable) {
   StartWithThree();
-  ClickCheckMark(Trial(0)->child(2));
+  ClickCheckMark(Stride(0, "Left stride 3"));
   const auto file = folder_ / "out/measures.csv";
   window_->ExportTable("measures", file.string());
   WaitUntilRead();

@@ -72,6 +72,13 @@ void CurvesTest::DropAll(const std::vector<std::string>& paths) {
   WaitUntilRead();
 }
 
+QTreeWidgetItem* CurvesTest::Stride(int trial, const char* text) {
+  for (int i = 0; i < Trial(trial)->childCount(); ++i) {
+    if (Trial(trial)->child(i)->text(0) == QLatin1String(text)) return Trial(trial)->child(i);
+  }
+  throw std::out_of_range(text);
+}
+
 void CurvesTest::ClickCheckMark(QTreeWidgetItem* item) {
   for (auto* parent = item->parent(); parent != nullptr; parent = parent->parent()) {
     parent->setExpanded(true);

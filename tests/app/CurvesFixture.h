@@ -39,6 +39,8 @@ class CurvesTest : public ::testing::Test {
 
   app::PageView& View() { return window_->View(); }
   QTreeWidgetItem* Trial(int trial) { return List()->topLevelItem(trial); }
+  // The line of a stride, by its text: "Left stride 3".
+  QTreeWidgetItem* Stride(int trial, const char* text);
   app::VisitList* List() { return Part<app::VisitList>("visitList"); }
   QAction* Entry(const char* name) { return Part<QAction>(name); }
   // Clicks the check mark of a line of the list.

@@ -111,8 +111,8 @@ TEST_F(CurvesPage, SpaceAndDeleteLeaveTheLiftedStrideOut) {
     EXPECT_EQ(CurvesOf("Knee flexion").Curves.size(), before - 1);
     EXPECT_FALSE(View().Lifted());
   }
-  EXPECT_EQ(Trial(0)->child(0)->checkState(0), Qt::Unchecked);
-  EXPECT_EQ(Trial(0)->child(1)->checkState(0), Qt::Unchecked);
+  EXPECT_EQ(Stride(0, "Left stride 1")->checkState(0), Qt::Unchecked);
+  EXPECT_EQ(Stride(0, "Left stride 2")->checkState(0), Qt::Unchecked);
   EXPECT_EQ(List()->topLevelItemCount(), 1) << "Delete in the page removes no trial";
   Entry("mnuAllStrides")->trigger();
   EXPECT_EQ(CurvesOf("Knee flexion").Curves.size(), 5U);
@@ -136,7 +136,7 @@ TEST_F(CurvesPage, TheWheelZoomsThePanelAroundThePointerAndADoubleClickPutsItBac
   EXPECT_TRUE(Pointed().startsWith(QStringLiteral("Left stride 2 of one.c3d, 40 %")));
   View().Lift(std::nullopt);
   QTest::mouseMove(&View(), {1, 1});
-  QTest::mouseDClick(&View(), Qt::LeftButton, {}, PlaceOf("Knee flexion", 40, zoomed.High));
+  QTest::mouseDClick(&View(), Qt::LeftButton, {}, PlaceOf("Knee flexion", 80, zoomed.Low + 1));
   EXPECT_EQ(View().Sight(knee).View.High, whole.High);
   View().Lift(std::nullopt);
   EXPECT_EQ(View().Picture().toImage(), before);
