@@ -7,7 +7,9 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include "app/CaptionButton.h"
 #include "app/CurvesWindow.h"
+#include "app/OutputPane.h"
 #include "app/QtText.h"
 #include "app/frmVantrel.h"
 
@@ -21,24 +23,43 @@ QString ObjectNameOf(MenuName menu) {
 
 }  // namespace
 
-MainWindow::MainWindow(modVantrel::FileState& state) : form_(new frmVantrel(state)) {
+MainWindow::MainWindow(modVantrel::FileState& state)
+    : form_(new frmVantrel(state)), recent_(new QMenu(this)) {
   setObjectName(QStringLiteral("MainWindow"));
   setCentralWidget(form_);
   setWindowTitle(form_->windowTitle());
   connect(form_, &QWidget::windowTitleChanged, this, &QWidget::setWindowTitle);
-  connect(form_, &frmVantrel::OpenFileChanged, this, &MainWindow::EnableActions);
+  connect(form_, &frmVantrel::OpenFileChanged, this, &MainWindow::FileWasOpened);
   connect(form_, &frmVantrel::OpenFileChanged, this, &MainWindow::FollowWithCurves);
   connect(this, &MainWindow::CurvesAsked, this, &MainWindow::ShowCurves);
+  connect(this, &MainWindow::NormalsChanged, this, &MainWindow::CompareCurves);
+  connect(form_, &frmVantrel::ReportChanged, this, &MainWindow::EnableActions);
   // A file that is dropped on the menu bar is for the form too.
   setAcceptDrops(true);
   installEventFilter(form_);
   FillMenus();
+  // Not while one of its entries runs, which would be deleted.
+  connect(recent_, &QMenu::aboutToShow, this, &MainWindow::FillRecentFiles);
+  connect(Menu(MenuName::File), &QMenu::aboutToShow, this, &MainWindow::LookAround);
   EnableActions();
 }
 
-void MainWindow::Load(const std::string& commandLine) { form_->Form_Load(commandLine); }
+void MainWindow::Load(const std::string& commandLine) {
+  form_->Pane().zoomTo(remembered_.Zoom());
+  form_->DesktopCheckBox().setChecked(remembered_.DesktopCopy());
+  form_->StartDialogIn(remembered_.LastFolder());
+  form_->Form_Load(commandLine, remembered_.Place());
+}
+
+void MainWindow::RememberState() {
+  remembered_.SetPlace(PlaceOf(*this, *form_));
+  const long zoom = form_->Pane().SendScintilla(QsciScintillaBase::SCI_GETZOOM);
+  remembered_.SetZoom(static_cast<int>(zoom));
+  remembered_.SetDesktopCopy(form_->DesktopCheckBox().isChecked());
+}
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+  if (isVisible()) RememberState();
   CloseCurves();
   form_->close();
   event->accept();
@@ -53,14 +74,15 @@ QMenu* MainWindow::Menu(MenuName menu) {
 }
 
 QAction* MainWindow::ActionOf(const MenuRow& row) {
-  const auto* handler = std::get_if<WindowHandler>(&row.Run);
-  if (handler == nullptr) return form_->findChild<QAction*>(QLatin1String(row.Name));
+  if (std::holds_alternative<FormHandler>(row.Run)) {
+    return form_->findChild<QAction*>(QLatin1String(row.Name));
+  }
   QAction* action = NewAction(row, this);
-  if (row.Turn == MenuTurn::Command) {
+  if (const auto* run = std::get_if<WindowHandler>(&row.Run)) {
     connect(action, &QAction::triggered, this,
-            [this, run = *handler] { form_->RunCommand([&] { (this->*run)(); }); });
+            [this, run = *run] { form_->RunCommand([&] { (this->*run)(); }); });
   } else {
-    connect(action, &QAction::triggered, this, *handler);
+    action->setMenu(recent_);
   }
   return action;
 }
@@ -99,7 +121,23 @@ void MainWindow::AddCurves() {
 }
 
 bool MainWindow::Has(MenuNeeds needed) const {
-  return needed == MenuNeeds::Nothing || !form_->OpenFileSpec().empty();
+  switch (needed) {
+    case MenuNeeds::Nothing:
+      return true;
+    case MenuNeeds::OpenFile:
+      return !form_->OpenFileSpec().empty();
+    case MenuNeeds::NextTrial:
+      return !neighbours_.Next.empty();
+    case MenuNeeds::PreviousTrial:
+      return !neighbours_.Previous.empty();
+    case MenuNeeds::Table:
+      return form_->Shown() && HasTable(*form_->Shown());
+    case MenuNeeds::RecentFiles:
+      return !remembered_.RecentFiles().empty();
+    case MenuNeeds::Normals:
+      return !Normals().empty();
+  }
+  return false;
 }
 
 void MainWindow::EnableActions() {

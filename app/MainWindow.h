@@ -3,10 +3,13 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include <QMainWindow>
 
 #include "app/MenuRows.h"
+#include "app/Remembered.h"
+#include "app/TrialFolder.h"
 #include "c3d/FileState.h"
 #include "pages/PageKinds.h"
 
@@ -19,7 +22,8 @@ class CurvesWindow;
 class frmVantrel;
 
 // The program's window: the form as its client area, and the menus above it. Its title is the
-// form's, it takes dropped files for the form, and closing it unloads the form.
+// form's, it takes dropped files for the form, and closing it unloads the form. It stands where it
+// stood last, and remembers what else its user has chosen.
 class MainWindow : public QMainWindow {
   Q_OBJECT
 
@@ -36,13 +40,27 @@ class MainWindow : public QMainWindow {
 
   // The window of curves; null as long as nobody has asked for a page.
   CurvesWindow* Curves() { return curves_.get(); }
+  // The file of normal values that curves are compared with; empty for none.
+  std::string Normals() const { return remembered_.Normals(); }
+
+  // What the menus run; MenuRows says which entry runs which.
+  void OpenNextTrial();
+  void OpenPreviousTrial();
+  void SaveReportAs();
+  void ExportTable();
+  void PrintReport();
+  void ChooseNormals();
+  void ForgetNormals();
 
  signals:
   // The user asks for that page of curves; a file is open.
   void CurvesAsked(pages::PageKind page);
+  // Another file of normals was chosen, or none.
+  void NormalsChanged();
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   void FillMenus();
@@ -54,11 +72,22 @@ class MainWindow : public QMainWindow {
   void ShowCurves(pages::PageKind page);
   void FollowWithCurves();
   void CloseCurves();
+  void CompareCurves();
   // Enables what can be done now.
   void EnableActions();
 
+  void FillRecentFiles();
+  void FileWasOpened();
+  void LookAround();
+  void RememberState();
+  // A path without an ending for what is saved of the open trial.
+  QString ProposedName(std::string_view what) const;
+
+  Remembered remembered_;
   frmVantrel* form_;
   std::unique_ptr<CurvesWindow> curves_;
+  QMenu* recent_;
+  Neighbours neighbours_;
 };
 
 }  // namespace app

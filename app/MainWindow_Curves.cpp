@@ -11,13 +11,20 @@ namespace app {
 MainWindow::~MainWindow() = default;
 
 void MainWindow::ShowCurves(pages::PageKind page) {
-  if (!curves_) curves_ = std::make_unique<CurvesWindow>();
+  if (!curves_) {
+    curves_ = std::make_unique<CurvesWindow>();
+    CompareCurves();
+  }
   curves_->Follow(form_->OpenFileSpec());
   curves_->ShowPage(page);
 }
 
 void MainWindow::FollowWithCurves() {
   if (curves_) curves_->Follow(form_->OpenFileSpec());
+}
+
+void MainWindow::CompareCurves() {
+  if (curves_) curves_->SetNormals(Normals());
 }
 
 void MainWindow::CloseCurves() {

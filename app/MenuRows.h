@@ -30,7 +30,7 @@ QString CaptionOf(MenuName menu);
 enum class MenuTurn { Command, AtOnce };
 
 // What must be there for an entry to be enabled.
-enum class MenuNeeds { Nothing, OpenFile };
+enum class MenuNeeds { Nothing, OpenFile, NextTrial, PreviousTrial, Table, RecentFiles, Normals };
 
 using WindowHandler = void (MainWindow::*)();
 
@@ -42,7 +42,8 @@ struct MenuRow {
   const char* Name = nullptr;
   const char16_t* Caption = nullptr;
   std::array<QKeyCombination, 2> Keys = {};  // Qt::Key_unknown: none
-  std::variant<FormHandler, WindowHandler> Run;
+  std::variant<std::monostate, FormHandler, WindowHandler> Run =
+      {};  // a menu of its own runs nothing
   MenuTurn Turn = MenuTurn::Command;
   MenuNeeds Needs = MenuNeeds::Nothing;
   bool StartsGroup = false;  // set off from the entry above it

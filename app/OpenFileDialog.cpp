@@ -2,7 +2,9 @@
 
 #include "app/OpenFileDialog.h"
 
+#include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QPushButton>
 #include <QStringList>
 
 #include "support/Text.h"
@@ -30,6 +32,13 @@ QStringList NameFilters(std::string_view filter) {
   return filters;
 }
 
+// A dialog of the desktop has no buttons of the toolkit.
+void HintAtCancel(const QFileDialog& dialog, const QString& hint) {
+  const auto* buttons = dialog.findChild<QDialogButtonBox*>();
+  QPushButton* cancel = buttons == nullptr ? nullptr : buttons->button(QDialogButtonBox::Cancel);
+  if (cancel != nullptr) cancel->setToolTip(hint);
+}
+
 }  // namespace
 
 DialogResult ResultForChosenFile(std::string_view path) {
@@ -44,13 +53,14 @@ DialogResult ResultForChosenFile(std::string_view path) {
 
 DialogResult ShowOpenFileDialog(QWidget* owner, std::string_view filter,
                                 const std::string& initialFolder, const QString& title,
-                                unsigned flags) {
+                                unsigned flags, const QString& cancelHint) {
   QFileDialog dialog(owner, title, QString::fromStdString(initialFolder));
   dialog.setOption(QFileDialog::HideNameFilterDetails);
   dialog.setNameFilters(NameFilters(filter));
   if ((flags & (kPathMustExist | kFileMustExist)) != 0) {
     dialog.setFileMode(QFileDialog::ExistingFile);
   }
+  HintAtCancel(dialog, cancelHint);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
   return ResultForChosenFile(dialog.selectedFiles().constFirst().toStdString());
 }

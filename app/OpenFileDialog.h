@@ -4,7 +4,8 @@
 #include <string>
 #include <string_view>
 
-class QString;
+#include <QString>
+
 class QWidget;
 
 // The system's dialog for choosing a file to open.
@@ -28,10 +29,11 @@ struct DialogResult {
 // pattern, each ended by NUL; patterns are matched without regard to case. An empty
 // `initialFolder` starts in the folder visited last, at first in the current one. One existing file
 // can be chosen, which is what the flags ask for; there is no read-only box to hide. A path may be
-// as long as the system allows.
+// as long as the system allows. `cancelHint` is the tooltip of the dialog's Cancel button, where
+// the dialog is not the desktop's own.
 DialogResult ShowOpenFileDialog(QWidget* owner, std::string_view filter,
                                 const std::string& initialFolder, const QString& title,
-                                unsigned flags);
+                                unsigned flags, const QString& cancelHint = {});
 
 // The result for a chosen path.
 DialogResult ResultForChosenFile(std::string_view path);

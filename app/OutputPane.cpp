@@ -18,8 +18,7 @@ namespace app {
 
 namespace {
 
-constexpr int kFontSize = 10;  // points
-constexpr int kLeftEdge = 4;   // pixels between the frame and the text
+constexpr int kLeftEdge = 4;  // pixels between the frame and the text
 constexpr unsigned long kDefaultStyle = QsciScintillaBase::STYLE_DEFAULT;
 
 // Lets the pane's text be changed while it lives.
@@ -35,7 +34,7 @@ class Writable {
 };
 
 // The characters of the longest line, a tab taken for one.
-long LongestLine(std::string_view text) {
+long LongestLineOf(std::string_view text) {
   long longest = 0;
   long length = 0;
   for (const char byte : text) {
@@ -87,7 +86,7 @@ OutputPane::OutputPane(QWidget* parent) : QsciScintilla(parent) {
   SendScintilla(SCI_SETMODEVENTMASK, 0UL);
   SendScintilla(SCI_SETRECTANGULARSELECTIONMODIFIER, static_cast<unsigned long>(SCMOD_CTRL));
   SendScintilla(SCI_STYLESETFONT, kDefaultStyle, PaneFontFamily().toUtf8().constData());
-  SendScintilla(SCI_STYLESETSIZE, kDefaultStyle, long{kFontSize});
+  SendScintilla(SCI_STYLESETSIZE, kDefaultStyle, long{kPaneLetters});
   connect(this, &QsciScintilla::SCN_ZOOM, this, &OutputPane::SetScrollWidth);
   connect(this, &QsciScintilla::SCN_UPDATEUI, this, [this](int changes) {
     if ((changes & SC_UPDATE_SELECTION) != 0) OutputPaneReader::SelectionWasMoved(*this);
@@ -124,7 +123,7 @@ void OutputPane::Append(std::string_view text) {
     SendScintilla(SCI_APPENDTEXT, static_cast<unsigned long>(text.size()), text.data());
   }
   SendScintilla(SCI_SETEMPTYSELECTION, static_cast<unsigned long>(length()));
-  longestLine_ = std::max(longestLine_, LongestLine(text));
+  longestLine_ = std::max(longestLine_, LongestLineOf(text));
   SetScrollWidth();
   ascii_ = ascii_ && IsAscii(text);
   if (!text.empty()) OutputPaneReader::TextWasAppended(*this, start);
@@ -231,6 +230,13 @@ QRect OutputPane::SelectionPlace() const {
                SendScintilla(SCI_GETLINEENDPOSITION, static_cast<unsigned long>(line)));
   const QPoint corner(at(SCI_POINTXFROMPOSITION, start), at(SCI_POINTYFROMPOSITION, start));
   return {corner, QSize(at(SCI_POINTXFROMPOSITION, end) - corner.x(), textHeight(0))};
+}
+
+QString OutputPane::SelectedColumns() const {
+  const QString text = selectedText();
+  if (SendScintilla(SCI_SELECTIONISRECTANGLE) != 0 || !text.contains(u'\n')) return text;
+  const auto start = static_cast<unsigned long>(SendScintilla(SCI_GETSELECTIONSTART));
+  return QString(static_cast<qsizetype>(SendScintilla(SCI_GETCOLUMN, start)), u' ') + text;
 }
 
 void OutputPane::keyPressEvent(QKeyEvent* event) {

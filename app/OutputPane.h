@@ -8,6 +8,9 @@
 
 namespace app {
 
+// The size of the pane's letters, in points, as long as nobody has zoomed.
+inline constexpr int kPaneLetters = 10;
+
 // What came of a search; GoneRound: found after the search went on from the other end of the text.
 enum class Found { Nowhere, Ahead, GoneRound };
 
@@ -37,6 +40,13 @@ class OutputPane : public QsciScintilla {
   // where that still stands behind a report, at the first line that is seen. Letters match in both
   // cases. The selection stays where there is no such place.
   Found Find(std::string_view text, bool forward);
+
+  // The selected text. Where it begins within a line and goes on below it, blanks take the place of
+  // that line's start, so that columns stay below each other.
+  QString SelectedColumns() const;
+
+  // The characters of the longest line, a tab taken for one.
+  long LongestLine() const { return longestLine_; }
 
   // Where the selection is seen, from its start to its end or to the end of the first line, in the
   // coordinates of the viewport; empty without a selection.

@@ -12,6 +12,7 @@
 #include <QPalette>
 #include <QPushButton>
 #include <QStyleFactory>
+#include <QTemporaryDir>
 #include <QTimer>
 
 #include "app/CurvesWindow.h"
@@ -107,6 +108,9 @@ int main(int argc, char* argv[]) {
   if (!checkDisplay && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
   }
+  // The picture is that of a first start, whatever the user's window looks like.
+  const QTemporaryDir settings;
+  qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
   // Without a display that answers the toolkit ends the program here.
   const QApplication application(argc, argv);
   if (checkDisplay) return 0;

@@ -4,15 +4,15 @@
 
 #include <algorithm>
 
-#include "app/FormLayout.h"
-
 namespace app {
 
-QSize FormSizeWithin(QSize room) {
+QSize FormSizeWithin(QSize room, QSize wanted) {
   constexpr int kLeastTree = 60;  // three lines
   constexpr int kWithoutTree = kDesignSize.height() - kTreeHeight;
-  const QSize size = room.boundedTo(kDesignSize);
-  if (size.height() < kWithoutTree || size.height() >= kWithoutTree + kLeastTree) return size;
+  const QSize size = room.boundedTo(wanted);
+  if (size.height() == wanted.height() || size.height() < kWithoutTree ||
+      size.height() >= kWithoutTree + kLeastTree)
+    return size;
   return {size.width(), kWithoutTree - 1};
 }
 

@@ -13,6 +13,7 @@ class TextBox : public QLineEdit {
   using QLineEdit::QLineEdit;
 
  protected:
+  void focusOutEvent(QFocusEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 };
 

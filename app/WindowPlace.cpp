@@ -2,12 +2,14 @@
 
 #include "app/WindowPlace.h"
 
+#include <QGuiApplication>
 #include <QLayout>
 #include <QMargins>
 #include <QMenuBar>
 #include <QScreen>
 #include <QStyle>
 
+#include "app/FormLayout.h"
 #include "app/Screens.h"
 
 namespace app {
@@ -27,17 +29,58 @@ QSize AboveClient(const QWidget& window) {
   return {0, bar->sizeHint().height()};
 }
 
+// The screen of today on which enough of the title bar would be seen to take the window by.
+const QScreen* ScreenOf(const KnownPlace& known) {
+  constexpr int kEnough = 100;
+  const QRect top(known.Corner, QSize(known.Client.width(), 1));
+  for (const QScreen* screen : QGuiApplication::screens()) {
+    if (screen->availableGeometry().intersected(top).width() >= kEnough) return screen;
+  }
+  return nullptr;
+}
+
 }  // namespace
 
-void WindowPlace::OpenWithin() {
-  const QRect room = window_.screen()->availableGeometry();
+KnownPlace PlaceOf(const QWidget& window, const QWidget& client) {
+  const QSize above = window.size() - client.size();
+  const QPoint frame = window.geometry().topLeft() - window.pos();
+  const QRect normal = window.normalGeometry();
+  if (window.isMaximized() || window.isFullScreen()) {
+    return {normal.topLeft() - frame, normal.size() - above, true};
+  }
+  return {window.pos(), client.size(), false};
+}
+
+void WindowPlace::Open(const std::optional<KnownPlace>& known) {
+  const QScreen* screen = known ? ScreenOf(*known) : nullptr;
+  if (screen == nullptr) {
+    OpenAsDrawn();
+  } else {
+    OpenAt(*known, *screen);
+  }
+}
+
+void WindowPlace::ResizeWithin(const QScreen& screen) {
   const QSize above = AboveClient(window_);
-  const QSize inside = room.marginsRemoved(UsualFrame(window_)).size() - above;
-  window_.resize(FormSizeWithin(inside) + above);
+  const QSize inside =
+      screen.availableGeometry().marginsRemoved(UsualFrame(window_)).size() - above;
+  window_.resize(FormSizeWithin(inside, wanted_.value_or(kDesignSize)) + above);
   openedSize_ = window_.size();
-  const QRect place = window_.screen()->geometry();
+}
+
+void WindowPlace::OpenAsDrawn() {
+  const QScreen& screen = *window_.screen();
+  ResizeWithin(screen);
+  const QRect place = screen.geometry();
   const QPoint corner = place.topLeft() + FormPosition(place.size(), window_.size());
-  window_.move(NearestPlaceInside(room, {corner, window_.size()}));
+  window_.move(NearestPlaceInside(screen.availableGeometry(), {corner, window_.size()}));
+}
+
+void WindowPlace::OpenAt(const KnownPlace& known, const QScreen& screen) {
+  wanted_ = known.Client;
+  ResizeWithin(screen);
+  window_.move(NearestPlaceInside(screen.availableGeometry(), {known.Corner, window_.size()}));
+  if (known.Maximized) window_.setWindowState(Qt::WindowMaximized);
 }
 
 void WindowPlace::FitFrame() {
@@ -47,7 +90,8 @@ void WindowPlace::FitFrame() {
   const QSize above = window_.size() - client_.size();
   // A window system that gave the window another size has its reasons.
   if (window_.size() == openedSize_) {
-    window_.resize(FormSizeWithin(room.size() - frame - above) + above);
+    window_.resize(FormSizeWithin(room.size() - frame - above, wanted_.value_or(kDesignSize)) +
+                   above);
   }
   const QPoint place = NearestPlaceInside(room, {window_.pos(), window_.size() + frame});
   if (place != window_.pos()) window_.move(place);

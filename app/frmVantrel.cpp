@@ -47,10 +47,11 @@ frmVantrel::frmVantrel(modVantrel::FileState& state)
   AcceptDrops();
 }
 
-void frmVantrel::Form_Load(const std::string& commandLine) {
+void frmVantrel::Form_Load(const std::string& commandLine,
+                           const std::optional<KnownPlace>& knownPlace) {
   design_ = DesignSizes{size(), controls_.txt->size(), controls_.tre->height()};
   place_.emplace(*window(), *this);
-  place_->OpenWithin();
+  place_->Open(knownPlace);
   DesktopOutputPath_ = GetDesktopFolder() + "Vantrel_Output.txt";
   controls_.tre->clear();
   controls_.tre->setRootIsDecorated(true);
@@ -137,11 +138,12 @@ void frmVantrel::cmdOpen_Click() {
   using namespace std::string_view_literals;
   const std::string folder =
       fileOpen_ ? modApiCommonDialog::ResultForChosenFile(DialogFileSpec_).DialogFolder
-                : std::string();
+                : dialogFolder_;
   const modApiCommonDialog::DialogResult chosen = modApiCommonDialog::ShowOpenFileDialog(
       this, "C3D Files (*.c3d)\0*.c3d\0"sv, folder, QStringLiteral("Vantrel"),
       modApiCommonDialog::kHideReadOnly | modApiCommonDialog::kPathMustExist |
-          modApiCommonDialog::kFileMustExist);
+          modApiCommonDialog::kFileMustExist,
+      tr("Ends the program"));
   if (chosen.DialogOk) {
     OpenFile(chosen.DialogFileSpec);
   } else {
@@ -156,15 +158,26 @@ void frmVantrel::OpenFile(const std::string& fileSpec) {
   OpenAndFillTree();
 }
 
+void frmVantrel::Reload() {
+  QStringList texts;
+  for (const QLineEdit* box : Boxes()) texts << box->text();
+  OpenFile(DialogFileSpec_);
+  if (!fileOpen_) return;
+  for (QLineEdit* box : Boxes()) box->setText(texts.takeFirst());
+}
+
+std::array<QLineEdit*, 4> frmVantrel::Boxes() const {
+  return {controls_.txtGroup, controls_.txtParam, controls_.txtPointLabel,
+          controls_.txtAnalogLabel};
+}
+
 void frmVantrel::OpenAndFillTree() {
   modVantrel::CloseC3dFile(state_);
   fileOpen_ = false;
+  PaneShows({});
   controls_.txt->Empty();
   controls_.tre->clear();
-  for (QLineEdit* box : {controls_.txtGroup, controls_.txtParam, controls_.txtPointLabel,
-                         controls_.txtAnalogLabel}) {
-    box->clear();
-  }
+  for (QLineEdit* box : Boxes()) box->clear();
   const OpenResult result = [this] {
     const CursorOverride wait(Qt::WaitCursor);
     return modVantrel::OpenC3dFile(state_, DialogFileSpec_, modVantrel::FindGaitEvents);

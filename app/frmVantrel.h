@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <array>
 #include <functional>
 #include <optional>
 #include <string>
@@ -12,6 +13,7 @@
 #include "app/DesktopCopy.h"
 #include "app/FormLayout.h"
 #include "app/FormReport.h"
+#include "app/ShownReport.h"
 #include "app/WindowPlace.h"
 #include "c3d/FileState.h"
 #include "support/ReportOutput.h"
@@ -36,9 +38,10 @@ class frmVantrel : public QWidget {
   // `state` is the one open file; it must outlive the form.
   explicit frmVantrel(modVantrel::FileState& state);
 
-  // Takes down the design sizes, places the window, finds the desktop, and opens the file that
-  // `commandLine` names, where it names one. Called once, before the form is shown.
-  void Form_Load(const std::string& commandLine);
+  // Takes down the design sizes, places the window (where it stood last, if that is known), finds
+  // the desktop, and opens the file that `commandLine` names, where it names one. Called once,
+  // before the form is shown.
+  void Form_Load(const std::string& commandLine, const std::optional<KnownPlace>& knownPlace = {});
 
   // Whether the form was unloaded, which ends the program, and with what exit status.
   bool IsUnloaded() const { return exitStatus_.has_value(); }
@@ -47,11 +50,30 @@ class frmVantrel : public QWidget {
   // The path of the open file; empty where none is open.
   std::string OpenFileSpec() const { return fileOpen_ ? DialogFileSpec_ : std::string(); }
 
+  // Opens that file in place of the one that is open; a file that cannot be opened is told and
+  // leaves none open. Errors as OpenC3dFile.
+  void OpenFile(const std::string& fileSpec);
+
+  // Where the open dialog starts as long as no file is open; empty: in the folder visited last.
+  void StartDialogIn(const std::string& folder) { dialogFolder_ = folder; }
+
+  // Opens the open file once more, and keeps what stands in the four text boxes.
+  void Reload();
+
+  // The report that the pane shows; none where the pane is empty, shows a refusal or what was
+  // written before an error.
+  const std::optional<ShownReport>& Shown() const { return shown_; }
+  OutputPane& Pane() { return *controls_.txt; }
+  CaptionCheckBox& DesktopCheckBox() { return *controls_.chkOut; }
+
   // Runs a command as a press of a button does: not while another one runs, and a run-time error
   // ends the program.
   void RunCommand(const std::function<void()>& command);
 
-  // What the menu of editing runs.
+  // What the menu of editing runs: copies are of what is selected in the text box that has the
+  // focus, else in the pane, as a table of the pane alone.
+  void Copy();
+  void CopyAsTable();
   void Find();
   void FindNext();
   void FindPrevious();
@@ -78,6 +100,11 @@ class frmVantrel : public QWidget {
   void cmdShowNormalized_Click();
   void cmdWriteGcdFiles_Click();
 
+  // The reports that have an entry in the menus and no button.
+  void ShowCheckup();
+  void ShowStrides();
+  void ShowSummary();
+
  signals:
   // The form was closed, for good: the program ends with that status.
   void Unloaded(int exitStatus);
@@ -85,6 +112,8 @@ class frmVantrel : public QWidget {
   void Framed();
   // A file was opened, or could not be opened and none is open now.
   void OpenFileChanged();
+  // The pane shows another report, or none.
+  void ReportChanged();
   // The drop of these files, one at least, is over for the program that they come from.
   void FilesDropped(const std::vector<std::string>& files);
 
@@ -117,22 +146,25 @@ class frmVantrel : public QWidget {
   void Form_Resize();
   void Form_Unload();
 
+  std::array<QLineEdit*, 4> Boxes() const;
   bool EnsureFileOpen();
   void OpenAndFillTree();
   void FillTree();
-  void OpenFile(const std::string& fileSpec);
   void OpenDroppedFiles(const std::vector<std::string>& files);
 
   void tre_NodeClick(const QTreeWidgetItem* node) const;
   void tre_DblClick(const QTreeWidgetItem* node);
 
   // What every report command does around its report.
-  void ShowReport(const Report& report);
-  void ShowPlainReport(void (*report)(const modVantrel::FileState&, modAllPurpose::ReportOutput&));
-  void ShowLabelReport(modAllPurpose::ReportResult (*report)(const modVantrel::FileState&,
+  void ShowReport(ShownReport what, const Report& report);
+  void ShowPlainReport(std::string_view name,
+                       void (*report)(const modVantrel::FileState&, modAllPurpose::ReportOutput&));
+  void ShowLabelReport(std::string_view name,
+                       modAllPurpose::ReportResult (*report)(const modVantrel::FileState&,
                                                              std::string_view,
                                                              modAllPurpose::ReportOutput&),
                        const QLineEdit* labelBox);
+  void PaneShows(std::optional<ShownReport> report);
   FormReport NewReport(CopyToDesktop copyToDesktop);
 
   modVantrel::FileState& state_;
@@ -142,6 +174,8 @@ class frmVantrel : public QWidget {
   DesktopCopy desktopCopy_;
   std::string DesktopOutputPath_;
   std::string DialogFileSpec_;
+  std::string dialogFolder_;
+  std::optional<ShownReport> shown_;
   bool fileOpen_ = false;
   bool wasPainted_ = false;
   std::optional<WindowPlace> place_;

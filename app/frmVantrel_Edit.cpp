@@ -2,11 +2,29 @@
 
 // What the menu of editing does with the pane.
 
+#include <QApplication>
+#include <QClipboard>
+#include <QLineEdit>
+
 #include "app/FindBar.h"
 #include "app/OutputPane.h"
+#include "app/TableCopy.h"
 #include "app/frmVantrel.h"
 
 namespace app {
+
+void frmVantrel::Copy() {
+  if (const auto* box = qobject_cast<QLineEdit*>(window()->focusWidget())) {
+    box->copy();
+  } else {
+    controls_.txt->copy();
+  }
+}
+
+void frmVantrel::CopyAsTable() {
+  const QString selected = controls_.txt->SelectedColumns();
+  if (!selected.isEmpty()) QApplication::clipboard()->setText(AsTable(selected));
+}
 
 void frmVantrel::Find() { findBar_->Open(); }
 

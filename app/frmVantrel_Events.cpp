@@ -65,10 +65,7 @@ void frmVantrel::AcceptDrops() {
         RunCommand([&] { OpenDroppedFiles(files); });
       },
       Qt::QueuedConnection);
-  for (QLineEdit* box : {controls_.txtGroup, controls_.txtParam, controls_.txtPointLabel,
-                         controls_.txtAnalogLabel}) {
-    box->installEventFilter(this);
-  }
+  for (QLineEdit* box : Boxes()) box->installEventFilter(this);
 }
 
 void frmVantrel::OpenDroppedFiles(const std::vector<std::string>& files) {

@@ -2,21 +2,27 @@
 
 // The report commands of the form.
 
+#include <utility>
+
 #include <QLineEdit>
 
 #include "app/CaptionButton.h"
 #include "app/CursorOverride.h"
 #include "app/MessageBoxes.h"
+#include "app/OpenAnew.h"
 #include "app/OutputPane.h"
 #include "app/OverwritePrompt.h"
 #include "app/frmVantrel.h"
 #include "gait/GcdCommand.h"
+#include "reports/CheckReport.h"
 #include "reports/HeaderReport.h"
 #include "reports/ListingReport.h"
 #include "reports/MeasuresReport.h"
 #include "reports/NormalizedReport.h"
 #include "reports/ParameterReport.h"
+#include "reports/StrideReport.h"
 #include "reports/StrikeOffReport.h"
+#include "reports/SummaryReport.h"
 
 namespace app {
 
@@ -46,79 +52,100 @@ FormReport frmVantrel::NewReport(CopyToDesktop copyToDesktop) {
   return {*controls_.txt, *controls_.chkOut, desktopCopy_, DesktopOutputPath_, copyToDesktop};
 }
 
-void frmVantrel::ShowReport(const Report& report) {
-  if (!EnsureFileOpen()) return;
-  FormReport output = NewReport(CopyToDesktop::AsTicked);
-  const ReportResult result = RunShowingWhatWasWritten(output, report);
-  if (result.IsRejected()) controls_.txt->ReplaceText(result.Text());
+void frmVantrel::PaneShows(std::optional<ShownReport> report) {
+  shown_ = std::move(report);
+  emit ReportChanged();
 }
 
-void frmVantrel::ShowPlainReport(void (*report)(const FileState&, ReportOutput&)) {
-  ShowReport([&](ReportOutput& output) {
+void frmVantrel::ShowReport(ShownReport what, const Report& report) {
+  if (!EnsureFileOpen()) return;
+  PaneShows({});
+  FormReport output = NewReport(CopyToDesktop::AsTicked);
+  const ReportResult result = RunShowingWhatWasWritten(output, report);
+  if (result.IsRejected()) {
+    controls_.txt->ReplaceText(result.Text());
+  } else {
+    PaneShows(std::move(what));
+  }
+}
+
+void frmVantrel::ShowPlainReport(std::string_view name,
+                                 void (*report)(const FileState&, ReportOutput&)) {
+  ShowReport({name, {}}, [&](ReportOutput& output) {
     report(state_, output);
     return ReportResult::Written();
   });
 }
 
-void frmVantrel::ShowLabelReport(ReportResult (*report)(const FileState&, std::string_view,
+void frmVantrel::ShowLabelReport(std::string_view name,
+                                 ReportResult (*report)(const FileState&, std::string_view,
                                                         ReportOutput&),
                                  const QLineEdit* labelBox) {
   const std::string label = labelBox->text().toStdString();
-  ShowReport([&](ReportOutput& output) { return report(state_, label, output); });
+  ShowReport({name, {.Labels = {label}}},
+             [&](ReportOutput& output) { return report(state_, label, output); });
 }
 
-void frmVantrel::cmdShowHeaderInfo_Click() { ShowPlainReport(reports::ShowHeaderInfo); }
+void frmVantrel::cmdShowHeaderInfo_Click() { ShowPlainReport("header", reports::ShowHeaderInfo); }
 
-void frmVantrel::cmdShowParameterHeader_Click() { ShowPlainReport(reports::ShowParameterHeader); }
+void frmVantrel::cmdShowParameterHeader_Click() {
+  ShowPlainReport("parameter-header", reports::ShowParameterHeader);
+}
 
-void frmVantrel::cmdShowAllGroups_Click() { ShowPlainReport(reports::ShowAllGroups); }
+void frmVantrel::cmdShowAllGroups_Click() { ShowPlainReport("groups", reports::ShowAllGroups); }
 
 void frmVantrel::cmdShowAllGroupsAndAllParams_Click() {
-  ShowPlainReport(reports::ShowAllGroupsAndAllParams);
+  ShowPlainReport("parameters", reports::ShowAllGroupsAndAllParams);
 }
 
 void frmVantrel::cmdShowMatchingGroupAndAllParams_Click() {
-  ShowLabelReport(reports::ShowMatchingGroupAndAllParams, controls_.txtGroup);
+  const std::string group = controls_.txtGroup->text().toStdString();
+  ShowReport({"parameters", {.Group = group}}, [&](ReportOutput& output) {
+    return reports::ShowMatchingGroupAndAllParams(state_, group, output);
+  });
 }
 
 void frmVantrel::cmdShowMatchingGroupAndMatchingParam_Click() {
   const std::string group = controls_.txtGroup->text().toStdString();
   const std::string param = controls_.txtParam->text().toStdString();
-  ShowReport([&](ReportOutput& output) {
+  ShowReport({"parameters", {.Group = group, .Param = param}}, [&](ReportOutput& output) {
     return reports::ShowMatchingGroupAndMatchingParam(state_, group, param, output);
   });
 }
 
-void frmVantrel::cmdShowPointLabels_Click() { ShowPlainReport(reports::ShowPointLabels); }
+void frmVantrel::cmdShowPointLabels_Click() { ShowPlainReport("labels", reports::ShowPointLabels); }
 
 void frmVantrel::cmdShowPointData_Click() {
-  ShowLabelReport(reports::ShowPointData, controls_.txtPointLabel);
+  ShowLabelReport("point", reports::ShowPointData, controls_.txtPointLabel);
 }
 
 void frmVantrel::cmdShowPointDataWithEvents_Click() {
-  ShowLabelReport(reports::ShowPointDataWithEvents, controls_.txtPointLabel);
+  ShowLabelReport("point", reports::ShowPointDataWithEvents, controls_.txtPointLabel);
 }
 
 void frmVantrel::cmdShowAnalogData_Click() {
-  ShowLabelReport(reports::ShowAnalogData, controls_.txtAnalogLabel);
+  ShowLabelReport("analog", reports::ShowAnalogData, controls_.txtAnalogLabel);
 }
 
 void frmVantrel::cmdShowAnalogDataWithEvents_Click() {
-  ShowLabelReport(reports::ShowAnalogDataWithEvents, controls_.txtAnalogLabel);
+  ShowLabelReport("analog", reports::ShowAnalogDataWithEvents, controls_.txtAnalogLabel);
 }
 
-void frmVantrel::cmdShowStrikeOffEvents_Click() { ShowPlainReport(reports::ShowStrikeOffEvents); }
+void frmVantrel::cmdShowStrikeOffEvents_Click() {
+  ShowPlainReport("events", reports::ShowStrikeOffEvents);
+}
 
 void frmVantrel::cmdShowSingleValueStrikeOffMeasures_Click() {
-  ShowPlainReport(reports::ShowSingleValueStrikeOffMeasures);
+  ShowPlainReport("measures", reports::ShowSingleValueStrikeOffMeasures);
 }
 
 void frmVantrel::cmdShowNormalized_Click() {
-  ShowLabelReport(reports::ShowNormalized, controls_.txtPointLabel);
+  ShowLabelReport("normalized", reports::ShowNormalized, controls_.txtPointLabel);
 }
 
 void frmVantrel::cmdWriteGcdFiles_Click() {
   if (!EnsureFileOpen()) return;
+  PaneShows({});
   FormReport output = NewReport(CopyToDesktop::Never);
   OverwritePrompt prompt(this, output);
   const ReportResult result = RunShowingWhatWasWritten(output, [&](ReportOutput& lines) {
@@ -129,6 +156,26 @@ void frmVantrel::cmdWriteGcdFiles_Click() {
     controls_.txt->ReplaceText(result.Text());
   }
   if (prompt.Cancelled()) Unload(0);
+}
+
+void frmVantrel::ShowCheckup() {
+  ShowReport({"check", {}}, [&](ReportOutput& output) {
+    reports::ShowFindings(reports::CheckFile(DialogFileSpec_), output);
+    return ReportResult::Written();
+  });
+}
+
+void frmVantrel::ShowStrides() { ShowPlainReport("strides", reports::ShowStrides); }
+
+void frmVantrel::ShowSummary() {
+  ShowReport({"summary", {}}, [&](ReportOutput& output) {
+    FileState trial;
+    if (std::string refusal = OpenAnew(DialogFileSpec_, trial); !refusal.empty()) {
+      return ReportResult::Rejected(std::move(refusal));
+    }
+    reports::ShowSummary(trial, output);
+    return ReportResult::Written();
+  });
 }
 
 }  // namespace app

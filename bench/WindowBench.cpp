@@ -27,6 +27,7 @@
 #include <QScrollBar>
 
 #include "app/FormLayout.h"
+#include "app/MainWindow.h"
 #include "app/OutputPane.h"
 #include "app/Startup.h"
 #include "app/frmVantrel.h"
@@ -110,10 +111,11 @@ double SecondsToShow(const std::string& text) {
 int MeasureListing(int argc, char** argv) {
   QApplication application(argc, argv);
   modVantrel::FileState state;
-  app::frmVantrel form(state);
-  form.Form_Load(argv[2]);
-  form.resize(app::kDesignSize);  // whatever screen there is
-  form.show();
+  app::MainWindow window(state);
+  window.Load(argv[2]);
+  const app::frmVantrel& form = window.Form();
+  window.show();
+  window.resize(window.size() + app::kDesignSize - form.size());  // whatever screen there is
   Settle();
   form.findChild<QLineEdit*>(QStringLiteral("txtAnalogLabel"))->setText(QStringLiteral("EMG"));
   auto* pane = form.findChild<app::OutputPane*>(QStringLiteral("txt"));
@@ -174,6 +176,7 @@ int MeasureAll() {
   const fs::path folder =
       fs::temp_directory_path() / ("vantrel-bench-" + std::to_string(std::random_device()()));
   fs::create_directory(folder);
+  qputenv("XDG_CONFIG_HOME", folder.c_str());  // nobody's settings
   sample::SampleWalk().Build().WriteTo(folder / "walk.c3d");
   sample::TrialBuilder()
       .Frames(1, kFrames)

@@ -10,7 +10,7 @@ add_library(QScintilla::QScintilla UNKNOWN IMPORTED)
 set_target_properties(QScintilla::QScintilla PROPERTIES
   IMPORTED_LOCATION ${QSCINTILLA_LIBRARY}
   INTERFACE_INCLUDE_DIRECTORIES ${QSCINTILLA_INCLUDE_DIR}
-  INTERFACE_LINK_LIBRARIES Qt6::Widgets)
+  INTERFACE_LINK_LIBRARIES "Qt6::PrintSupport;Qt6::Widgets")
 
 # vantrel_qt_library(NAME SOURCES ... LINKS ...): a library that uses Qt. Bytes and texts of the
 # toolkit are converted where it is written, never silently.

@@ -2,17 +2,15 @@
 
 #include "gait/GcdFiles.h"
 
-#include <array>
 #include <filesystem>
 #include <string_view>
 
 #include <fmt/format.h>
 
-#include "c3d/C3dFormat.h"
+#include "c3d/FileKey.h"
 #include "gait/EventNames.h"
 #include "gait/GcdText.h"
 #include "support/FileSystem.h"
-#include "support/RandomAccessFile.h"
 #include "support/RuntimeError.h"
 #include "support/Text.h"
 
@@ -30,14 +28,6 @@ std::string WithSeparator(const std::string& folder) {
   constexpr char kSeparator = std::filesystem::path::preferred_separator;
   if (folder.back() == '/' || folder.back() == kSeparator) return folder;
   return folder + (folder.find(kSeparator) == std::string::npos ? '/' : kSeparator);
-}
-
-// Whether the reader would take the regular file `name` for a C3D file by its first bytes.
-bool BeginsLikeC3dFile(const std::string& name) {
-  modAllPurpose::RandomAccessFile file;
-  file.Open(name);
-  std::array<std::byte, 2> start{};
-  return file.ReadAt(0, start) == start.size() && std::to_integer<int>(start[1]) == kFileKey;
 }
 
 }  // namespace

@@ -30,9 +30,11 @@ class Program : public ::testing::Test {
   }
 
   // Runs the program with these arguments and lets its user click these buttons.
-  static Outcome Start(const QStringList& arguments, const char* clicks = "",
-                       const char* deployment = nullptr) {
+  Outcome Start(const QStringList& arguments, const char* clicks = "",
+                const char* deployment = nullptr) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("XDG_CONFIG_HOME"),
+                       QString::fromStdString((folder_ / "config").string()));
     if (deployment != nullptr) {
       environment.insert(QStringLiteral("VANTREL_TEST_DEPLOYMENT"), QLatin1String(deployment));
     }
@@ -45,7 +47,7 @@ class Program : public ::testing::Test {
             program.readAllStandardOutput().toStdString()};
   }
 
-  static Outcome Start(const std::string& argument, const char* clicks = "") {
+  Outcome Start(const std::string& argument, const char* clicks = "") {
     return Start(QStringList(QString::fromStdString(argument)), clicks);
   }
 

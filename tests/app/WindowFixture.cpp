@@ -40,6 +40,8 @@ void WindowTest::Choose(QAction* entry) {
 
 void WindowTest::ChooseByArrows(QAction* entry) {
   QMenu* menu = MenuOf(entry);
+  window_.activateWindow();  // a dialog may just have closed
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
   QTest::keyClick(&window_, LetterOf(menu->title()).toLatin1(), Qt::AltModifier);
   ASSERT_TRUE(QTest::qWaitForWindowExposed(menu));
   for (int i = 0; menu->activeAction() != entry && i <= menu->actions().size(); ++i) {

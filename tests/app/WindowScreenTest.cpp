@@ -3,6 +3,8 @@
 // How the whole window opens on the screen that the tests run on: its frame and its menus are
 // within the work area, and the form inside shrinks by its own rule.
 
+#include <algorithm>
+
 #include <QScreen>
 #include <QScrollBar>
 #include <QTest>
@@ -91,6 +93,40 @@ TEST_F(WindowScreen, EveryMenuAndEveryEntryIsOnTheScreen) {
         << top->text().toStdString();
     QTest::keyClick(top->menu(), Qt::Key_Escape);
   }
+}
+
+class DarkWindow : public WindowScreen {
+ protected:
+  void TearDown() override { QApplication::setPalette(before_); }
+
+  // The lightest and the darkest point of what is shown.
+  static int Contrast(QWidget& widget) {
+    const QImage shown = widget.grab().toImage();
+    int lightest = 0;
+    int darkest = 255;
+    for (int y = 0; y < shown.height(); ++y) {
+      for (int x = 0; x < shown.width(); ++x) {
+        lightest = std::max(lightest, qGray(shown.pixel(x, y)));
+        darkest = std::min(darkest, qGray(shown.pixel(x, y)));
+      }
+    }
+    return lightest - darkest;
+  }
+
+ private:
+  const QPalette before_ = QApplication::palette();
+};
+
+TEST_F(DarkWindow, ItsMenusAreDarkWithLightCaptions) {
+  QPalette dark(QColor(43, 43, 46), QColor(35, 35, 38));
+  dark.setColor(QPalette::Base, QColor(27, 27, 29));
+  QApplication::setPalette(dark);
+  StartAndSettle();
+  const QImage bar = window_.menuBar()->grab().toImage();
+  EXPECT_LT(qGray(bar.pixel(bar.width() - 5, bar.height() / 2)), 80);
+  EXPECT_GT(Contrast(*window_.menuBar()), 120);
+  QMenu* reports = MenuOf(Entry("cmdShowHeaderInfo"));
+  EXPECT_GT(Contrast(*reports), 120);
 }
 
 // Where a window manager does not keep windows within the work area.

@@ -1,0 +1,166 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// What the window does with files: the trials of a folder, those opened last, reports and tables
+// that are saved or printed, and the file of normals.
+
+#include <filesystem>
+#include <system_error>
+
+#include <QAction>
+#include <QEvent>
+#include <QFileDialog>
+#include <QMenu>
+#include <QPrintDialog>
+#include <QTimer>
+
+#include "app/MainWindow.h"
+#include "app/MessageBoxes.h"
+#include "app/OutputPane.h"
+#include "app/QtText.h"
+#include "app/ReportPrinter.h"
+#include "app/SaveFile.h"
+#include "app/frmVantrel.h"
+#include "reports/CsvTable.h"
+#include "reports/JsonTable.h"
+#include "support/FileSystem.h"
+#include "support/RuntimeError.h"
+#include "support/Text.h"
+#include "visit/NormalFile.h"
+
+namespace app {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// `path` as it leads to the file from any folder.
+std::string WholePath(const std::string& path) {
+  std::error_code failed;
+  const fs::path whole = fs::absolute(modAllPurpose::NativePath(path), failed);
+  return failed ? path : modAllPurpose::Utf8Path(whole);
+}
+
+// A path as a menu shows it, where "&" marks a letter.
+QString Caption(const std::string& path) {
+  return ToQString(path).replace(u'&', QStringLiteral("&&"));
+}
+
+std::string TableText(const ShownReport& report, const std::string& file, const QString& ending,
+                      reports::Complaints& complaints) {
+  modAllPurpose::TextReport text;
+  if (ending == QStringLiteral("json")) {
+    reports::JsonTable table(text);
+    complaints = WriteTable(report, file, table);
+  } else {
+    reports::CsvTable table(text);
+    complaints = WriteTable(report, file, table);
+  }
+  return text.Text();
+}
+
+}  // namespace
+
+void MainWindow::FileWasOpened() {
+  const std::string path = form_->OpenFileSpec();
+  if (!path.empty()) remembered_.AddRecentFile(WholePath(path));
+  neighbours_ = {};
+  EnableActions();
+  // The folder may be large: it is looked at when what was opened is on the screen.
+  QTimer::singleShot(0, this, &MainWindow::LookAround);
+}
+
+void MainWindow::LookAround() {
+  const std::string path = form_->OpenFileSpec();
+  neighbours_ = path.empty() ? Neighbours() : NeighboursOf(path);
+  EnableActions();
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  // Whoever comes back may have recorded another trial meanwhile.
+  if (event->type() == QEvent::ActivationChange && isActiveWindow()) LookAround();
+}
+
+void MainWindow::FillRecentFiles() {
+  recent_->clear();
+  for (const std::string& path : remembered_.RecentFiles()) {
+    connect(recent_->addAction(Caption(path)), &QAction::triggered, this,
+            [this, path] { form_->RunCommand([&] { form_->OpenFile(path); }); });
+  }
+  recent_->addSeparator();
+  QAction* clear = recent_->addAction(tr("&Clear"));
+  clear->setObjectName(QStringLiteral("mnuClearRecent"));
+  connect(clear, &QAction::triggered, this, [this] {
+    remembered_.ClearRecentFiles();
+    EnableActions();
+  });
+}
+
+void MainWindow::OpenNextTrial() {
+  LookAround();
+  if (!neighbours_.Next.empty()) form_->OpenFile(neighbours_.Next);
+}
+
+void MainWindow::OpenPreviousTrial() {
+  LookAround();
+  if (!neighbours_.Previous.empty()) form_->OpenFile(neighbours_.Previous);
+}
+
+QString MainWindow::ProposedName(std::string_view what) const {
+  const std::string path = form_->OpenFileSpec();
+  const std::string_view own = modAllPurpose::OwnName(path);
+  const std::string_view name = modAllPurpose::WithoutExtension(own);
+  if (own.empty()) return ToQString(remembered_.LastFolder() + std::string(what));
+  return ToQString(std::string(modAllPurpose::FolderPart(path)) +
+                   std::string(name.empty() ? own : name) + '-' + std::string(what));
+}
+
+void MainWindow::SaveReportAs() {
+  const std::string text = form_->Pane().Text();
+  const std::string_view what = form_->Shown() ? form_->Shown()->Name : "report";
+  SaveFile(this, tr("Save Report As"), ProposedName(what), {{tr("Texts"), QStringLiteral("txt")}},
+           [&](const QString&) { return text; });
+}
+
+void MainWindow::ExportTable() {
+  const ShownReport report = form_->Shown().value();
+  reports::Complaints complaints;
+  SaveFile(
+      this, tr("Export Table"), ProposedName(report.Name),
+      {{tr("Comma-separated values"), QStringLiteral("csv")}, {tr("JSON"), QStringLiteral("json")}},
+      [&](const QString& ending) {
+        return TableText(report, form_->OpenFileSpec(), ending, complaints);
+      });
+  for (const std::string& complaint : complaints) ShowMessage(this, complaint);
+}
+
+void MainWindow::PrintReport() {
+  ReportPrinter printer(windowTitle());
+  QPrintDialog dialog(&printer, this);
+  dialog.setWindowTitle(tr("Print"));
+  if (dialog.exec() == QDialog::Accepted) printer.Print(form_->Pane());
+}
+
+void MainWindow::ChooseNormals() {
+  const QString folder = ToQString(modAllPurpose::FolderPart(Normals()));
+  const QString chosen = QFileDialog::getOpenFileName(
+      this, tr("Normals"), folder.isEmpty() ? ToQString(remembered_.LastFolder()) : folder,
+      tr("Normal values (*.csv *.gcd *.CSV *.GCD);;All files (*)"));
+  if (chosen.isEmpty()) return;
+  const auto normals = visit::ReadNormalFile(chosen.toStdString());
+  if (const auto* fault = std::get_if<std::string>(&normals)) {
+    ShowMessage(this, *fault);
+    return;
+  }
+  remembered_.SetNormals(chosen.toStdString());
+  EnableActions();
+  emit NormalsChanged();
+}
+
+void MainWindow::ForgetNormals() {
+  remembered_.SetNormals({});
+  EnableActions();
+  emit NormalsChanged();
+}
+
+}  // namespace app

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/ShownReport.h"
+
+#include <algorithm>
+#include <array>
+
+#include "app/OpenAnew.h"
+#include "reports/CheckReport.h"
+#include "reports/ReportList.h"
+#include "reports/SummaryReport.h"
+#include "reports/TrialTables.h"
+#include "support/Text.h"
+
+namespace app {
+
+using modVantrel::FileState;
+using reports::Complaints;
+using reports::TableOptions;
+using reports::TableOutput;
+
+namespace {
+
+using RowsFunction = Complaints (*)(const FileState&, std::string_view, const TableOptions&,
+                                    TableOutput&);
+
+Complaints Summary(const FileState& state, std::string_view file, const TableOptions& /*options*/,
+                   TableOutput& table) {
+  reports::SummaryRows(state, file, table);
+  return {};
+}
+
+struct Rows {
+  std::string_view Report;
+  RowsFunction Write;
+};
+
+constexpr std::array kRows = {
+    Rows{"header", reports::HeaderRows},         Rows{"parameters", reports::ParameterRows},
+    Rows{"labels", reports::LabelRows},          Rows{"point", reports::PointRows},
+    Rows{"analog", reports::AnalogRows},         Rows{"events", reports::EventRows},
+    Rows{"strides", reports::StrideRows},        Rows{"measures", reports::MeasureRows},
+    Rows{"normalized", reports::NormalizedRows}, Rows{"summary", Summary},
+};
+
+constexpr bool HasItsRows(const reports::ReportInfo& info) {
+  return info.Columns.empty() || info.Pools || info.ReadsAnyFile ||
+         std::ranges::find(kRows, info.Name, &Rows::Report) != kRows.end();
+}
+static_assert(std::ranges::all_of(reports::kReports, HasItsRows));
+
+Complaints WriteRows(const ShownReport& report, const std::string& file, TableOutput& table) {
+  const std::string name = modAllPurpose::WithReplacements(file);
+  if (reports::FindReport(report.Name)->ReadsAnyFile) {
+    reports::CheckRows(name, reports::CheckFile(file), table);
+    return {};
+  }
+  FileState state;
+  if (std::string refusal = OpenAnew(file, state); !refusal.empty()) return {refusal};
+  return std::ranges::find(kRows, report.Name, &Rows::Report)
+      ->Write(state, name, report.Options, table);
+}
+
+}  // namespace
+
+bool HasTable(const ShownReport& report) {
+  const reports::ReportInfo* info = reports::FindReport(report.Name);
+  return info != nullptr && !info->Columns.empty();
+}
+
+Complaints WriteTable(const ShownReport& report, const std::string& file, TableOutput& table) {
+  table.Begin(reports::FindReport(report.Name)->Columns);
+  Complaints complaints = WriteRows(report, file, table);
+  table.End();
+  return complaints;
+}
+
+}  // namespace app

@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+
+namespace modVantrel {
+
+// Whether the reader would take the regular file `path` for a C3D file by its first bytes. Errors
+// as RandomAccessFile.
+bool BeginsLikeC3dFile(const std::string& path);
+
+}  // namespace modVantrel
