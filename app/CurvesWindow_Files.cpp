@@ -42,6 +42,7 @@ void TellError(QWidget* owner, const modAllPurpose::RuntimeError& error) {
 plot::DrawingStyle CurvesWindow::PaperStyle() const {
   plot::DrawingStyle style = view_->Style();
   style.IsDark = false;
+  style.IsQuick = false;
   style.Enlarged = 1;
   return style;
 }

@@ -77,6 +77,8 @@ void PageView::LayOut() {
   picture_ = {};
   update();
   if (!HasPage()) return;
+  constexpr std::int64_t kMany = 16;  // strides, which take long to draw in thicker lines
+  style_.IsQuick = set_.LeftStrides + set_.RightStrides > kMany;
   style_.Enlarged = EnlargementFor(size());
   // The margins of the paper are left outside.
   constexpr double kOfMargin = 0.8;

@@ -36,7 +36,8 @@ void StartToolkit() {
   qInstallMessageHandler(KeepQuiet);
   qunsetenv("QT_QPA_PLATFORMTHEME");  // a theme may ask for a display of its own
   qputenv("QT_QPA_OFFSCREEN_NO_GLX", "1");
-  static Start start;
+  // Never taken down: what the program's end does then is the system's to do, and faster.
+  static Start& start = *new Start;
   start.Application.emplace(start.Count, start.Words.data());
 }
 

@@ -15,7 +15,7 @@ lintian --fail-on error,warning --allow-root --no-user-dirs "$package"
 
 dpkg-deb --extract "$package" "$folder/root"
 share=$folder/root/usr/share
-for program in vantrel vantrel-report; do
+for program in vantrel vantrel-curves vantrel-report; do
   test -x "$folder/root/usr/bin/$program"
   test -s "$share/man/man1/$program.1.gz"
 done

@@ -72,7 +72,8 @@ struct TrialReading {
   std::vector<std::string> LabelsOverTime;
 };
 
-// Reads an open trial. Errors as clsGcdCalcs.
+// Reads an open trial. Labels behind the 255th are found where AddFurtherLabels has filled them in,
+// as pages want it. Errors as clsGcdCalcs.
 TrialValues ReadTrialValues(const modVantrel::FileState& state, const TrialReading& reading);
 
 }  // namespace pages

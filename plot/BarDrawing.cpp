@@ -66,6 +66,8 @@ void DrawDeviation(const Canvas& canvas, const Bar& bar, const Slot& slot, const
   const double x = slot.Centre();
   canvas.Painter.drawLine(QPointF(x, line.top()), {x, line.bottom()});
   for (const double y : {line.top(), line.bottom()}) {
+    // Where the plot ends before it, the deviation has no end to show.
+    if (y <= axes.Plot.top() || y >= axes.Plot.bottom()) continue;
     canvas.Painter.drawLine(QPointF(x - cap, y), {x + cap, y});
   }
 }

@@ -84,24 +84,48 @@ void DrawNormal(const Canvas& canvas, const CurvePanel& panel, const Axes& axes)
   DrawLine(canvas.Painter, mean, axes, PlainLine(ColoursOf(canvas.Style).Normal, kNormalWidth));
 }
 
+// Marks of the right stand over those of the left: dashed and shorter, they leave both to be seen
+// where they fall together.
+QPen LineOfMark(const pages::Mark& mark, bool isLine, const DrawingStyle& style) {
+  QPen pen = SolidLineOf(mark.Side, kMarkWidth, style);
+  if (isLine && mark.Side == GaitSide::Right) pen.setDashPattern({6, 6});
+  return pen;
+}
+
 void DrawMark(const Canvas& canvas, const pages::Mark& mark, const Axes& axes) {
   if (mark.Percent < axes.FromX || mark.Percent > axes.ToX) return;
   const double x = axes.At(mark.Percent, axes.FromY).x();
   const bool isLine = mark.Kind == pages::MarkKind::FootOff;
-  const double end = axes.Plot.top() + (isLine ? axes.Plot.height() : kMarkLength);
-  canvas.Painter.setPen(isLine ? LineOf(mark.Side, kMarkWidth, canvas.Style)
-                               : SolidLineOf(mark.Side, kMarkWidth, canvas.Style));
+  const double tick = mark.Side == GaitSide::Right ? kMarkLength / 2 : kMarkLength;
+  const double end = axes.Plot.top() + (isLine ? axes.Plot.height() : tick);
+  canvas.Painter.setPen(LineOfMark(mark, isLine, canvas.Style));
   canvas.Painter.drawLine(QPointF(x, axes.Plot.top()), {x, end});
+}
+
+void DrawMarks(const Canvas& canvas, const CurvePanel& panel, const Axes& axes) {
+  for (const GaitSide side : kSides) {
+    for (const pages::Mark& mark : panel.Marks) {
+      if (mark.Side == side) DrawMark(canvas, mark, axes);
+    }
+  }
+}
+
+// The width of a stride's line; no more than a pixel where that is asked for: a painter of pixels
+// then takes a quarter of the time.
+double StrideWidth(const Canvas& canvas) {
+  constexpr double kNearly1 = 0.999;
+  if (!canvas.Style.IsQuick) return kStrideWidth;
+  return std::min(kStrideWidth, kNearly1 / canvas.Painter.deviceTransform().m11());
 }
 
 void DrawStrides(const Canvas& canvas, const CurvePanel& panel, const Axes& axes) {
   const bool isPale = canvas.Style.Lifted.has_value();
+  const double width = StrideWidth(canvas);
   for (const pages::Curve& curve : panel.Curves) {
     const GaitSide side = curve.Id.Side;
     if (curve.Id == canvas.Style.Lifted) continue;
     DrawLine(canvas.Painter, curve.Values, axes,
-             isPale ? PaleLineOf(side, kStrideWidth, canvas.Style)
-                    : LineOf(side, kStrideWidth, canvas.Style));
+             isPale ? PaleLineOf(side, width, canvas.Style) : LineOf(side, width, canvas.Style));
   }
 }
 
@@ -155,7 +179,7 @@ void DrawCurvePanel(const Canvas& canvas, const PanelPlace& place, const CurvePa
   const Axes axes = AxesOf(place.Plot, 0, kWhole, kStep, panel.Ordinate, view);
   DrawNormal(canvas, panel, axes);
   DrawGrid(canvas, axes);
-  for (const pages::Mark& mark : panel.Marks) DrawMark(canvas, mark, axes);
+  DrawMarks(canvas, panel, axes);
   if (canvas.Style.Curves == Shown::Strides) {
     DrawStrides(canvas, panel, axes);
   } else {

@@ -72,6 +72,8 @@ std::vector<LegendItem> LegendOf(const pages::PageSet& set, const pages::Page& p
       {SideText("Right", set.RightStrides), LineOf(GaitSide::Right, width, style),
        bandOf(GaitSide::Right)}};
   if (page.OverTime) {
+    items[0].Text = QStringLiteral("Left");
+    items[1].Text = QStringLiteral("Right");
     for (LegendItem& item : items) {
       item = {item.Text, PlainLine(item.Line.color(), width), QColor(Qt::transparent)};
     }
@@ -154,6 +156,36 @@ void DrawRule(const Canvas& canvas, const QRectF& part, double y) {
   canvas.Painter.drawLine(QPointF(part.left(), y), {part.right(), y});
 }
 
+bool HasBarsOfBothSides(const pages::Page& page) {
+  for (const pages::Panel& panel : page.Panels) {
+    const auto* bars = std::get_if<pages::BarPanel>(&panel);
+    if (bars == nullptr) continue;
+    for (const pages::BarGroup& group : bars->Groups) {
+      for (const pages::Bar& bar : group.Bars) {
+        if (bar.Side == GaitSide::None) return true;
+      }
+    }
+  }
+  return false;
+}
+
+QString CaptionText(const pages::Page& page) {
+  if (HasCurves(page)) {
+    return QStringLiteral(
+        "Abscissa: percent of the stride. Vertical line: foot off; ticks at the upper edge: "
+        "opposite foot off and strike.");
+  }
+  if (page.OverTime) {
+    return QStringLiteral(
+        "Abscissa: seconds of the trial. Vertical lines: foot strikes, dashed: foot offs, dotted: "
+        "other events.");
+  }
+  QString text = QStringLiteral("n: strides. Lines on bars: one standard deviation.");
+  if (HasNormals(page)) text += QStringLiteral(" Grey band: normal.");
+  if (HasBarsOfBothSides(page)) text += QStringLiteral(" Grey bar: both sides together.");
+  return text;
+}
+
 }  // namespace
 
 void DrawHead(const Canvas& canvas, const pages::PageSet& set, const pages::Page& page,
@@ -180,20 +212,13 @@ void DrawHead(const Canvas& canvas, const pages::PageSet& set, const pages::Page
 }
 
 void DrawCaption(const Canvas& canvas, const pages::Page& page, const QRectF& caption) {
-  const TextStyle style{Face::Oblique, 62, ColoursOf(canvas.Style).Quiet};
-  QString text = QStringLiteral(
-      "Bars: means; lines: one standard deviation; n: strides. A grey band is normal.");
-  if (HasCurves(page)) {
-    text = QStringLiteral(
-        "Abscissa: percent of the stride. Vertical line: foot off; ticks at the upper edge: "
-        "opposite foot off and strike.");
-  } else if (page.OverTime) {
-    text = QStringLiteral(
-        "Abscissa: seconds of the trial. Vertical lines: foot strikes, dashed: foot offs, dotted: "
-        "other events.");
-  }
-  const TextStyle fitted = Fitted(style, text, caption.width(), 40);
-  SetText(canvas.Painter, {caption.left(), caption.bottom() - 40}, Align::Left,
+  constexpr int kSize = 62;
+  constexpr int kLeastSize = 40;
+  constexpr double kAboveFoot = 40;
+  const TextStyle style{Face::Oblique, kSize, ColoursOf(canvas.Style).Quiet};
+  const QString text = CaptionText(page);
+  const TextStyle fitted = Fitted(style, text, caption.width(), kLeastSize);
+  SetText(canvas.Painter, {caption.left(), caption.bottom() - kAboveFoot}, Align::Left,
           Shortened(text, fitted, caption.width()), fitted);
 }
 

@@ -21,6 +21,7 @@ struct DrawingStyle {
   Shown Curves = Shown::Strides;
   bool IsMonochrome = false;              // for a printer without colours: black, greys and dashes
   bool IsDark = false;                    // light lines on a dark ground, on screens alone
+  bool IsQuick = false;                   // thin lines of one pixel, which screens draw fast
   std::optional<pages::StrideId> Lifted;  // drawn thick, in front of the others, which grow pale
   double Enlarged = 1;  // how many times as large as on paper texts and lines stand on the sheet
 };

@@ -83,8 +83,9 @@ std::string SvgOf(const pages::PageSet& set, std::size_t index, const SheetKind&
     generator.setResolution(kTenthsOfAnInch);
     generator.setSize(paper.size().toSize());
     generator.setViewBox(paper);
-    generator.setTitle(TextOf(set.Pages[index].Title));
-    generator.setDescription(TextOf(set.Program));
+    // Unlike the texts of the page these two are written as they come.
+    generator.setTitle(TextOf(set.Pages[index].Title).toHtmlEscaped());
+    generator.setDescription(TextOf(set.Program).toHtmlEscaped());
     QPainter painter;
     Begin(painter, &generator);
     DrawPage(painter, set, index, paper, style);

@@ -24,7 +24,7 @@ constexpr double kTallest = 0.8;  // of its width, a panel that could be taller
 // What a panel needs around its plot.
 struct Surrounds {
   double Left = 300;  // direction words, numbers
-  double Top = 120;   // title
+  double Top = 132;   // title
   double Right = 70;  // half of the last number
   double Bottom = 90;
 };

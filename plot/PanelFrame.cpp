@@ -21,7 +21,7 @@ constexpr int kWordSize = 58;
 constexpr int kNoteSize = 62;
 constexpr int kLeastSize = 40;
 constexpr double kTick = 18;
-constexpr double kAboveFrame = 32;  // from the frame to the line of the title
+constexpr double kAboveFrame = 46;  // from the frame to the line of the title
 
 double SpanOr1(double from, double to) { return to > from ? to - from : 1; }
 
@@ -32,11 +32,14 @@ void DrawTitle(const Canvas& canvas, const PanelPlace& place, const FrameTexts& 
   const double line = place.Plot.top() - kAboveFrame;
   const QString unit = Shortened(TextOf(texts.Unit), unitStyle, place.Plot.width() / 2);
   SetText(canvas.Painter, {place.Plot.right(), line}, Align::Right, unit, unitStyle);
-  const double room = place.Plot.width() - kBetween - WidthOf(unit, unitStyle);
+  const double end = place.Plot.right() - kBetween - WidthOf(unit, unitStyle);
   const QString whole = TextOf(texts.Title);
-  const TextStyle style = Fitted({Face::Bold, kTitleSize, colours.Ink}, whole, room, kUnitSize);
-  SetText(canvas.Painter, {place.Plot.left(), line}, Align::Left, Shortened(whole, style, room),
-          style);
+  TextStyle style{Face::Bold, kTitleSize, colours.Ink};
+  // A long one begins above the numbers, not above the plot.
+  const double start =
+      std::clamp(end - WidthOf(whole, style), place.Cell.left(), place.Plot.left());
+  style = Fitted(style, whole, end - start, kUnitSize);
+  SetText(canvas.Painter, {start, line}, Align::Left, Shortened(whole, style, end - start), style);
 }
 
 // The direction words, beside the ends of the ordinate.

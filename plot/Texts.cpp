@@ -20,7 +20,13 @@ double ShareInFront(Align align) {
 }  // namespace
 
 QString TextOf(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+  QString shown = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+  for (QChar& character : shown) {
+    const bool isNone =
+        character.category() == QChar::Other_Control || QChar::isNonCharacter(character.unicode());
+    if (isNone) character = QLatin1Char(' ');
+  }
+  return shown;
 }
 
 double WidthOf(const QString& text, const TextStyle& style) {

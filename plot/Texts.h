@@ -23,7 +23,8 @@ struct TextStyle {
 
 enum class Align { Left, Centre, Right };
 
-// A text of a page's values (UTF-8) for the toolkit.
+// A text of a page's values (UTF-8) for the toolkit, blanks in place of what is no sign: control
+// characters have no place on a line, nor in a file of SVG.
 QString TextOf(std::string_view text);
 
 double WidthOf(const QString& text, const TextStyle& style);

@@ -5,6 +5,9 @@
 #include <algorithm>
 #include <cstddef>
 #include <string_view>
+#include <utility>
+
+#include "gait/CheckText.h"
 
 namespace reports {
 
@@ -29,6 +32,11 @@ std::string Line(const std::vector<std::string>& cells,
 }
 
 }  // namespace
+
+void AlignedText::AddRow(std::vector<std::string> cells) {
+  for (std::string& cell : cells) cell = modVantrel::Shown(cell);
+  rows_.push_back(std::move(cells));
+}
 
 void AlignedText::Print(modAllPurpose::ReportOutput& output) const {
   std::vector<std::string> headings;

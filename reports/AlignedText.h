@@ -11,7 +11,9 @@ namespace reports {
 enum class Align { Left, Right };
 
 // A small table for a person's eye: its columns are as wide as what they hold, two blanks apart. A
-// character counts for one, whatever bytes it takes.
+// character counts for one, whatever bytes it takes. Control characters of a cell are shown as
+// U+FFFD and zeros at its end not at all: a label of a file neither breaks a row nor commands a
+// terminal.
 class AlignedText {
  public:
   struct Column {
@@ -22,7 +24,7 @@ class AlignedText {
   explicit AlignedText(std::vector<Column> columns) : columns_(std::move(columns)) {}
 
   // As many cells as there are columns.
-  void AddRow(std::vector<std::string> cells) { rows_.push_back(std::move(cells)); }
+  void AddRow(std::vector<std::string> cells);
 
   // The headings, where one of them is not empty, then the rows; no line ends in blanks.
   void Print(modAllPurpose::ReportOutput& output) const;

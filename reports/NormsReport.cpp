@@ -6,6 +6,7 @@
 
 #include <fmt/format.h>
 
+#include "gait/CheckText.h"
 #include "reports/AlignedText.h"
 #include "reports/PooledLabels.h"
 #include "reports/PooledNumbers.h"
@@ -16,6 +17,7 @@ namespace reports {
 
 using modAllPurpose::ReportOutput;
 using modVantrel::Component;
+using modVantrel::Shown;
 using visit::GaitMeasureSpec;
 using visit::GaitMeasureTable;
 using visit::NormCurves;
@@ -64,8 +66,8 @@ void ShowCurves(const NormCurves& curves, ReportOutput& output) {
       text.AddRow({std::to_string(instant.Percent),
                    StatisticsText(instant.Mean, instant.Deviation, curves.Samples.Count(), 2)});
     }
-    const std::string unit = curves.Unit.empty() ? "" : fmt::format(" ({})", curves.Unit);
-    output.Line(fmt::format("{} {}{}", curves.Label, ComponentName(part), unit));
+    const std::string unit = curves.Unit.empty() ? "" : fmt::format(" ({})", Shown(curves.Unit));
+    output.Line(fmt::format("{} {}{}", Shown(curves.Label), ComponentName(part), unit));
     text.Print(output);
     output.Line("");
   }

@@ -91,6 +91,7 @@ constexpr std::array kModelOutputs = {
     ModelOutput{"HipAngles", {14, 21, 1.5, 4, 0.3}, {1, 6, 0.4, 1, 0}, {3, 4, 2.0, 2, 1.0}},
     ModelOutput{"KneeAngles", {24, 18, 3.14, 14, 5.59}, {2, 3, 1.0, 1, 0}, {-4, 6, 0.5, 2, 2.0}},
     ModelOutput{"AnkleAngles", {2, 6, 5.97, 9, 2.57}, {1, 2, 0.1, 0, 0}, {-9, 5, 2.2, 1, 0.7}},
+    ModelOutput{"FootProgressAngles", {-70, 9, 5.6, 6, 2}, {0, 1, 0.3, 0, 0}, {-8, 2, 1.1, 1, 2.4}},
     ModelOutput{"HipMoment", {80, 620, 1.1, 240, 0.2}, {410, 300, 5.6, 90, 1}, {20, 70, 0.4, 0, 0}},
     ModelOutput{"KneeMoment", {110, 260, 0.9, 310, 2.2}, {160, 120, 5.9, 60, 1}, {5, 40, 1, 0, 0}},
     ModelOutput{"AnkleMoment", {450, 600, 5.34, 250, 1.82}, {40, 60, 5, 0, 0}, {30, 50, 4.5, 9, 0}},

@@ -10,6 +10,7 @@
 #include "support/FileSystem.h"
 #include "support/RuntimeError.h"
 #include "support/WindowsError.h"
+#include "support/WindowsHandle.h"
 
 namespace modAllPurpose {
 
@@ -23,10 +24,7 @@ struct FileRights {
 namespace {
 
 constexpr int kAttempts = 100;
-constexpr std::size_t kMostAtOnce = std::size_t{1} << 30U;  // a call counts in 32 bits
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-
-HANDLE Handle(std::intptr_t handle) { return reinterpret_cast<HANDLE>(handle); }
 
 class OpenHandle {
  public:

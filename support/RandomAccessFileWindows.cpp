@@ -7,14 +7,11 @@
 #include "support/FileSystem.h"
 #include "support/RandomAccessFile.h"
 #include "support/WindowsError.h"
+#include "support/WindowsHandle.h"
 
 namespace modAllPurpose {
 
 namespace {
-
-constexpr std::size_t kMostAtOnce = std::size_t{1} << 30U;  // a call counts in 32 bits
-
-HANDLE Handle(std::intptr_t handle) { return reinterpret_cast<HANDLE>(handle); }
 
 bool IsRegularFile(HANDLE handle) {
   BY_HANDLE_FILE_INFORMATION information{};

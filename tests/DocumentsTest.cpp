@@ -61,7 +61,7 @@ TEST(Documents, ChangesBeginWithThisVersion) {
 }
 
 TEST(Documents, ManPagesAreThoseOfThisVersion) {
-  for (const std::string page : {"vantrel.1", "vantrel-report.1"}) {
+  for (const std::string page : {"vantrel.1", "vantrel-curves.1", "vantrel-report.1"}) {
     const std::string text = TextOf("packaging/man/" + page);
     EXPECT_THAT(text, HasSubstr("\" \"Vantrel " VANTREL_VERSION "\" \"User Commands\"\n")) << page;
   }

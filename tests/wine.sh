@@ -12,10 +12,13 @@ export WINEPREFIX=$build/wine WINEDEBUG=-all LC_ALL=C.UTF-8
 export WINEDLLOVERRIDES='mscoree,mshtml,winemenubuilder.exe='
 unset DISPLAY
 
-# Makes the Wine folder where there is none, and starts Wine's own processes unless they run.
+# Makes the Wine folder where there is none, and starts Wine's own processes unless they run. On a
+# machine that is busy they may not be there in the time that they are given.
 start_wine() {
   "$wine/wineserver64" --persistent=10 || return 0
-  "$wine/wine64" wineboot
+  for _ in 1 2 3; do
+    "$wine/wine64" wineboot && return
+  done
 }
 
 # One call at a time. What is started must hold neither the lock nor the caller's output.

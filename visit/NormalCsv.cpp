@@ -40,6 +40,14 @@ std::optional<double> NumberIn(const CsvRecord& record, Column column) {
   throw NormalFault{record.Line, fmt::format("{} is no number", Quoted(field))};
 }
 
+// As NumberIn: what counts or measures a spread is never negative.
+std::optional<double> NotNegativeIn(const CsvRecord& record, Column column) {
+  const auto number = NumberIn(record, column);
+  if (!number || *number >= 0) return number;
+  throw NormalFault{record.Line, fmt::format("{} is negative, which {} cannot be",
+                                             Quoted(record.Fields[column]), kHeading[column])};
+}
+
 Component ComponentIn(const CsvRecord& record) {
   const std::string key = modAllPurpose::SearchKey(record.Fields[kComponent]);
   if (key == "X") return Component::X;
@@ -68,7 +76,7 @@ class TableReader {
     if (modAllPurpose::Trimmed(record.Fields[kLabel]).empty()) {
       throw NormalFault{record.Line, "no label"};
     }
-    NumberIn(record, kCount);
+    NotNegativeIn(record, kCount);
     if (record.Fields[kComponent].empty() && record.Fields[kPercent].empty()) {
       TakeMeasure(record);
     } else {
@@ -99,7 +107,7 @@ class TableReader {
     if (!measures_.insert(modAllPurpose::SearchKey(name)).second) {
       throw NormalFault{record.Line, fmt::format("{} stands here a second time", name)};
     }
-    normals_.MeasureAt(name) = {NumberIn(record, kMean), NumberIn(record, kDeviation)};
+    normals_.MeasureAt(name) = {NumberIn(record, kMean), NotNegativeIn(record, kDeviation)};
   }
 
   void TakeInstant(const CsvRecord& record) {
@@ -118,7 +126,7 @@ class TableReader {
     filled.LastLine = record.Line;
     NormalCurve& curve = normals_.CurveAt(label, component);
     curve.Mean[i] = NumberIn(record, kMean).value_or(kMissing);
-    curve.Deviation[i] = NumberIn(record, kDeviation).value_or(kMissing);
+    curve.Deviation[i] = NotNegativeIn(record, kDeviation).value_or(kMissing);
   }
 
   Normals normals_;

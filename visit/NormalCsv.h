@@ -8,7 +8,8 @@
 namespace visit {
 
 // The normals of a table of norms as the report writes it: label, component, percent, mean, sd, n,
-// unit; in any order of rows, each curve whole. A NormalFault is thrown for anything else.
+// unit; in any order of rows, each curve whole. A NormalFault is thrown for anything else, also for
+// a deviation below 0.
 Normals NormalsOfCsv(std::string_view text);
 
 }  // namespace visit

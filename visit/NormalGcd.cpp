@@ -102,7 +102,7 @@ class GcdReader {
     const std::size_t gap = std::min(line.find_first_of(kWhite), line.size());
     const auto mean = Scaled(PlainNumber(line.substr(0, gap)));
     const auto deviation = Scaled(PlainNumber(TrimmedOfWhite(line.substr(gap))));
-    if (!mean || !deviation) {
+    if (!mean || !deviation || *deviation < 0) {
       Refuse(fmt::format("a mean and a deviation of {} should stand here", name_));
     }
     if (instants_ == kInstants) Refuse(fmt::format("{} has more than {} values", name_, kInstants));

@@ -149,6 +149,16 @@ TEST_F(PooledTest, NormsAreReadBackAsNormalValues) {
   EXPECT_THAT(scores.Err, HasSubstr("scores: "));
 }
 
+TEST_F(PooledTest, LabelWithControlCharactersBreaksNoLineOfTextAndStaysWholeInATable) {
+  sample::TrialBuilder builder = Walk();
+  builder.AddPoint("L\nP\x1B", tests::Standing(5, 6, 7));
+  const std::string file = Given("a.c3d", builder.Build());
+  const std::string shown = "\xEF\xBF\xBDP\xEF\xBF\xBD";
+  EXPECT_THAT(RunInside({"variability", file}).Out, HasSubstr("Left  L" + shown + " "));
+  EXPECT_THAT(RunInside({"norms", file}).Out, HasSubstr("\n" + shown + " x\n"));
+  EXPECT_THAT(RunInside({"--format", "csv", "norms", file}).Out, HasSubstr("\n\"\nP\x1B\",x,0,5,"));
+}
+
 TEST_F(PooledTest, NormalFileThatIsNoneIsNamedWithItsLineAndNothingIsPrinted) {
   const std::string file = Given("a.c3d", Walk().Build());
   const std::string normal = GivenText("norms.csv", "label,component\nnonsense\n");

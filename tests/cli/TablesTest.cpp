@@ -33,7 +33,11 @@ class TablesTest : public testing::Test {
  protected:
   // Writes a trial of that name and returns its path.
   std::string Given(const std::string& name, const sample::TrialBuilder& builder) {
-    builder.Build().WriteTo(folder_ / name);
+    return Given(name, builder.Build());
+  }
+
+  std::string Given(const std::string& name, const sample::Trial& trial) {
+    trial.WriteTo(folder_ / name);
     return (folder_ / name).string();
   }
 
@@ -225,6 +229,25 @@ TEST_F(TablesTest, AllLabelsOfNormalizedTakesRepeatedAndEmptyOnesByTheirPlace) {
   EXPECT_EQ(document[102]["x"].GetDouble(), 7);
   EXPECT_STREQ(document[153]["label"].GetString(), "");
   EXPECT_EQ(document[203]["x"].GetDouble(), 8);
+}
+
+TEST_F(TablesTest, ChannelAboveAFractionalCountIsAnIndexErrorBehindTheRowsOfTheOthers) {
+  // 7 values in 4 samples: 1.75 channels, so 2 labels but data of channel 1 only.
+  sample::TrialBuilder builder = Toes();
+  for (int i = 1; i <= 7; ++i) {
+    builder.AddAnalog("C" + std::to_string(i), "", [](std::int32_t) { return 0.5F; });
+  }
+  const std::string file = Given("walk.c3d", builder.Build().SetInteger(19, 4));
+  const std::string error =
+      "vantrel-report: " + file + ": Run-time error '9': Subscript out of range";
+  const ToolResult one = RunInside({"--format", "csv", "--label", "C2", "analog", file});
+  EXPECT_EQ(one.Status, 1);
+  EXPECT_EQ(one.Out, "file,label,frame,sample,time,value\n");
+  EXPECT_THAT(one.Err, StartsWith(error));
+  const ToolResult all = RunInside({"--format", "json", "--all-labels", "analog", file});
+  EXPECT_EQ(all.Status, 1);
+  EXPECT_EQ(Parsed(all.Out).Size(), 8U) << "two frames of four samples";
+  EXPECT_THAT(all.Err, StartsWith(error));
 }
 
 TEST_F(TablesTest, GroupAndParamLimitTheParameters) {

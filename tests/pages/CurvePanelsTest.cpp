@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -207,8 +208,11 @@ sample::TrialBuilder TrialWithIncompleteStride() {
 }
 
 TEST(CurvePanels, IncompleteStrideIsDrawnAndEntersNoMeanAndNoMark) {
-  const auto values = ValuesOf(TrialWithIncompleteStride());
+  auto values = ValuesOf(TrialWithIncompleteStride());
   ASSERT_EQ(values.Strides.size(), 5U);
+  const auto incomplete = std::ranges::find(values.Strides, false, &pages::TrialStride::IsComplete);
+  ASSERT_NE(incomplete, values.Strides.end());
+  incomplete->FootOff = 90;  // where its mark would be seen in the mean
   const CurvePanel panel = KneeOf({values});
   EXPECT_EQ(CurvesOf(panel, GaitSide::Left).size(), 3U);
   EXPECT_EQ(panel.Means.at(0).Count, 2);

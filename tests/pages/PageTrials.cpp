@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include "c3d/LabelTables.h"
 #include "tests/visit/VisitWalks.h"
 
 namespace tests {
@@ -38,6 +39,7 @@ pages::TrialValues ValuesOf(const sample::TrialBuilder& builder,
                             const std::vector<std::string>& overTime) {
   OpenedWalk walk = Opened(builder);
   EXPECT_EQ(walk.Result(), modVantrel::OpenResult::Success);
+  modVantrel::AddFurtherLabels(walk.State());
   pages::TrialReading reading;
   for (const pages::PageInfo& page : pages::kPages) reading.Kinds.push_back(page.Kind);
   reading.LabelsOverTime = overTime;

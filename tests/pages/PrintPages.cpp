@@ -5,6 +5,7 @@
 #include <variant>
 #include <vector>
 
+#include "c3d/LabelTables.h"
 #include "c3d/OpenC3dFile.h"
 #include "gait/EventExtraction.h"
 #include "pages/MakePages.h"
@@ -50,6 +51,7 @@ std::string JsonOf(const Arguments& arguments) {
     if (OpenC3dFile(state, file, modVantrel::FindGaitEvents) != modVantrel::OpenResult::Success) {
       return {};
     }
+    AddFurtherLabels(state);
     trials.push_back(pages::ReadTrialValues(state, {AllKinds(), arguments.Labels}));
   }
   pages::PageChoice choice;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <algorithm>
+#include <map>
 #include <set>
 #include <tuple>
 
@@ -65,6 +66,13 @@ std::vector<DrawnLine> CurvesIn(const Recording& page, const QRectF& plot, const
   return curves;
 }
 
+// But for a hundredth of its units: lines end at borders.
+bool Holds(const QRectF& room, const QPolygonF& points) {
+  constexpr double kNearly = 0.01;
+  const QRectF wider = room.adjusted(-kNearly, -kNearly, kNearly, kNearly);
+  return std::ranges::all_of(points, [&](const QPointF& point) { return wider.contains(point); });
+}
+
 QRectF PlotOf(const pages::PageSet& set, std::size_t panel) {
   return plot::GeometryOf(set.Pages[0], kA4).Plots[panel];
 }
@@ -106,9 +114,9 @@ TEST_P(EveryPage, HasNothingOutsideItsSheet) {
       EXPECT_TRUE(sheet.contains(text.Ink)) << text.Text.toStdString();
     }
     for (const DrawnLine& line : page.Lines) {
-      EXPECT_TRUE(sheet.contains(line.Points.boundingRect()));
+      EXPECT_TRUE(Holds(sheet, line.Points));
     }
-    for (const auto& area : page.Areas) EXPECT_TRUE(sheet.contains(area.Outline.boundingRect()));
+    for (const auto& area : page.Areas) EXPECT_TRUE(Holds(sheet, area.Outline));
   }
 }
 
@@ -153,6 +161,18 @@ TEST(PageDrawing, OfStridesHasALineForEachStrideOfItsSidesColour) {
   for (const DrawnLine& line : right) EXPECT_EQ(line.Pen.style(), Qt::CustomDashLine);
 }
 
+TEST(PageDrawing, ThatIsQuickHasStridesOfNoMoreThanAPixel) {
+  const auto set = SamplePages({3, 1, false, {}});
+  const QRectF screen(0, 0, kA4.width() / 3, kA4.height() / 3);  // three tenths of a point a pixel
+  DrawingStyle style;
+  const auto thick = CurvesIn(PageOf(set, 0, style, screen));
+  EXPECT_GT(thick[0].Pen.widthF() / 3, 1.9);
+  style.IsQuick = true;
+  const auto quick = CurvesIn(PageOf(set, 0, style, screen));
+  EXPECT_EQ(quick.size(), thick.size());
+  for (const DrawnLine& line : quick) EXPECT_LE(line.Pen.widthF() / 3, 1);
+}
+
 TEST(PageDrawing, OfMeansHasOneThickLineAndOneBandASide) {
   const auto set = SamplePages({3, 1, false, {}});
   const Recording page = PageOf(set, 0, StyleOf(Shown::Means));
@@ -162,7 +182,8 @@ TEST(PageDrawing, OfMeansHasOneThickLineAndOneBandASide) {
   EXPECT_GT(right[0].Pen.widthF(), 10);
   QColor band = kRight;
   band.setAlpha(64);
-  EXPECT_EQ(std::ranges::count(page.Areas, band, &plot_tests::DrawnArea::Fill), 11);
+  EXPECT_EQ(std::ranges::count(page.Areas, band, &plot_tests::DrawnArea::Fill), 11 + 1)
+      << "in eleven panels and in the legend";
 }
 
 TEST(PageDrawing, LeavesAGapWhereInstantsAreMissing) {
@@ -174,13 +195,32 @@ TEST(PageDrawing, LeavesAGapWhereInstantsAreMissing) {
   EXPECT_NEAR(left[1].Points.front().x(), plot.left() + 0.50 * plot.width(), 0.01);
 }
 
+TEST(PageDrawing, LeavesTheMarksOfBothSidesToBeSeenWhereTheyFallTogether) {
+  const auto set = SamplePages({3, 1, false, {}});
+  for (const Shown shown : {Shown::Strides, Shown::Means}) {
+    const Recording page = PageOf(set, 0, StyleOf(shown));
+    const QRectF plot = PlotOf(set, 2);
+    std::map<QRgb, std::set<Qt::PenStyle>> lines;
+    std::map<QRgb, double> ticks;
+    for (const DrawnLine& line : page.Lines) {
+      const QRectF bounds = line.Points.boundingRect();
+      if (line.Points.size() != 2 || bounds.width() > 0 || !Holds(plot, line.Points)) continue;
+      if (bounds.height() > plot.height() / 2)
+        lines[line.Pen.color().rgb()].insert(line.Pen.style());
+      if (bounds.height() < 40) ticks[line.Pen.color().rgb()] = bounds.height();
+    }
+    EXPECT_THAT(lines[kLeft.rgb()], testing::ElementsAre(Qt::SolidLine));
+    EXPECT_THAT(lines[kRight.rgb()], testing::ElementsAre(Qt::CustomDashLine));
+    EXPECT_GT(ticks[kLeft.rgb()], ticks[kRight.rgb()] + 10);
+    EXPECT_GT(ticks[kRight.rgb()], 10);
+  }
+}
+
 TEST(PageDrawing, CutsCurvesAndBandsAtTheirPanels) {
   const auto set = SamplePages({3, 1, true, {}});
   const auto plots = plot::GeometryOf(set.Pages[0], kA4).Plots;
   const auto isInAPlot = [&](const QPolygonF& line) {
-    return std::ranges::any_of(plots, [&](const QRectF& plot) {
-      return plot.adjusted(-0.01, -0.01, 0.01, 0.01).contains(line.boundingRect());
-    });
+    return std::ranges::any_of(plots, [&](const QRectF& plot) { return Holds(plot, line); });
   };
   for (const Shown shown : {Shown::Strides, Shown::Means}) {
     const Recording page = PageOf(set, 0, StyleOf(shown));
@@ -252,8 +292,7 @@ TEST(PanelDrawing, OfAPartShowsWhatLiesInThatPart) {
   EXPECT_THAT(panel.Texts, Not(Contains(IsText("100"))));
   ASSERT_FALSE(CurvesIn(panel).empty());
   for (const DrawnLine& line : CurvesIn(panel)) {
-    EXPECT_TRUE(
-        geometry.Plots[6].adjusted(-0.01, -0.01, 0.01, 0.01).contains(line.Points.boundingRect()));
+    EXPECT_TRUE(Holds(geometry.Plots[6], line.Points));
   }
 }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <filesystem>
@@ -139,17 +140,29 @@ TEST_F(PageFiles, SvgHasTextsAsTextsAndALineForEachStrideAndPanel) {
   EXPECT_FALSE(parts.Elements.contains(QStringLiteral("clipPath")));
 }
 
+TEST_F(PageFiles, SvgIsWellFormedWhateverTheTextsHold) {
+  auto set = SamplePages({1, 1, false, "\x01\n<&>\x7F\xFF\xEF\xBF\xBF\""});
+  set.Pages[0].Title = "Title\x02";
+  const auto files = BytesOf(set, FileKind::Svg, {}, {});
+  ASSERT_THAT(files, SizeIs(5));
+  for (const std::string& file : files) {
+    EXPECT_GT(PartsOf(file).Texts.size(), 20U);
+    EXPECT_TRUE(std::ranges::none_of(file, [](char c) { return c > 0 && c < ' ' && c != '\n'; }));
+  }
+}
+
 TEST_F(PageFiles, SvgIsAPageOfItsSheetInTenthsOfAPoint) {
   const auto files = BytesOf(SamplePages({}), FileKind::Svg, {}, {});
-  EXPECT_THAT(files[0], HasSubstr("viewBox=\"0 0 5953 8419\""));
-  EXPECT_THAT(files[0], HasSubstr("width=\"210.0"));
+  const std::string start = files[0].substr(0, 200);
+  EXPECT_THAT(start, HasSubstr("viewBox=\"0 0 5950 8420\"")) << "A4 in whole points";
+  EXPECT_THAT(start, HasSubstr("width=\"209.9"));
 }
 
 TEST_F(PageFiles, PngIsAPictureOfEachPage) {
   const auto files = BytesOf(SamplePages({}), FileKind::Png, {plot::Paper::A4, true}, {});
   ASSERT_THAT(files, SizeIs(5));
   const QImage image = QImage::fromData(Bytes(files[0]), "PNG");
-  EXPECT_EQ(image.size(), QSize(2339, 1654));
+  EXPECT_EQ(image.size(), QSize(2339, 1653));
   EXPECT_EQ(image.pixelColor(5, 5), QColor(Qt::white));
 }
 

@@ -190,4 +190,12 @@ TEST(AlignedText, LeavesOutHeadingsThatAreEmpty) {
   EXPECT_EQ(Aligned(table), "a  b\n");
 }
 
+TEST(AlignedText, ShowsControlCharactersAndBreaksNoRow) {
+  reports::AlignedText table({{""}, {""}});
+  table.AddRow({"a\nb\x1B[2J", std::string("mm\0\0", 4)});
+  EXPECT_EQ(Aligned(table),
+            "a\xEF\xBF\xBD"
+            "b\xEF\xBF\xBD[2J  mm\n");
+}
+
 }  // namespace

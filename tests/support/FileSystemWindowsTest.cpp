@@ -24,7 +24,7 @@ using modAllPurpose::WriteNewFile;
 using tests::ErrorNumberOf;
 using tests::ReadWholeFile;
 
-const auto kText = std::as_bytes(std::span("text", 4));
+const auto kContents = std::as_bytes(std::span("text", 4));
 
 class WindowsFiles : public testing::Test {
  protected:
@@ -39,7 +39,7 @@ class WindowsFiles : public testing::Test {
 TEST_F(WindowsFiles, AreFoundWrittenAndRemovedUnderAPathAsItStands) {
   const std::string path = PathAsItStands("file");
   EXPECT_FALSE(FileExists(path));
-  WriteNewFile(path, kText);
+  WriteNewFile(path, kContents);
   EXPECT_TRUE(FileExists(path));
   EXPECT_EQ(ReadWholeFile(folder_ / "file"), "text");
   modAllPurpose::RemoveFile(path);
@@ -70,7 +70,7 @@ TEST_F(WindowsFiles, OnAShareHaveASpellingEach) {
 
 TEST_F(WindowsFiles, ThatAreReadOnlyAreRemoved) {
   const fs::path file = folder_ / "file";
-  WriteNewFile(Utf8Path(file), kText);
+  WriteNewFile(Utf8Path(file), kContents);
   ASSERT_NE(::SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY), 0);
   modAllPurpose::RemoveFile(Utf8Path(file));
   EXPECT_TRUE(fs::is_empty(folder_.Path()));
@@ -78,7 +78,7 @@ TEST_F(WindowsFiles, ThatAreReadOnlyAreRemoved) {
 
 TEST_F(WindowsFiles, ThatAnotherHasOpenAreDenied) {
   const fs::path file = folder_ / "file";
-  WriteNewFile(Utf8Path(file), kText);
+  WriteNewFile(Utf8Path(file), kContents);
   const HANDLE open =
       ::CreateFileW(file.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
   ASSERT_NE(open, INVALID_HANDLE_VALUE);
@@ -94,12 +94,12 @@ TEST_F(WindowsFiles, ForWhichNoStreamIsLeftAreNotLeftBehindNorTheirDescriptors) 
   constexpr int kMoreThanDescriptors = 3000;
   int failed = 0;
   for (int k = 0; k < kMoreThanDescriptors; ++k) {
-    if (ErrorNumberOf([&] { WriteNewFile(Utf8Path(folder_ / "file"), kText); }) != 0) ++failed;
+    if (ErrorNumberOf([&] { WriteNewFile(Utf8Path(folder_ / "file"), kContents); }) != 0) ++failed;
   }
   for (std::FILE* stream : streams) std::fclose(stream);
   EXPECT_EQ(failed, kMoreThanDescriptors);
   EXPECT_TRUE(fs::is_empty(folder_.Path()));
-  EXPECT_EQ(ErrorNumberOf([&] { WriteNewFile(Utf8Path(folder_ / "file"), kText); }), 0);
+  EXPECT_EQ(ErrorNumberOf([&] { WriteNewFile(Utf8Path(folder_ / "file"), kContents); }), 0);
 }
 
 TEST(WindowsPaths, ThatAreNoUnicodeAreAnAccessError) {

@@ -38,10 +38,10 @@ TEST(ShortestNumber, ZeroKeepsItsSign) {
 
 // The library's own shortest form, which takes longer, is the measure for every exponent.
 TEST(ShortestNumber, IsThatOfTheLibraryAllOverTheFloats) {
-  constexpr std::uint32_t kInfinity = 0x7F800000;
+  constexpr std::uint32_t kEndless = 0x7F800000;
   constexpr std::uint32_t kStep = 3989;  // a prime, so that every bit changes
   std::string text;
-  for (std::uint32_t bits = 1; bits < kInfinity; bits += kStep) {
+  for (std::uint32_t bits = 1; bits < kEndless; bits += kStep) {
     const float number = FloatOf(bits);
     text.clear();
     modAllPurpose::AppendShortest(text, number);

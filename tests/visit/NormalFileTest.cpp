@@ -142,6 +142,17 @@ TEST(NormalCsv, FaultNamesItsLine) {
             "3: cadence stands here a second time");
 }
 
+TEST(NormalCsv, DeviationOrCountBelowZeroIsRefused) {
+  const std::string curve = CsvOfCurve("KneeAngles", "x", 1, 2);  // lines 2 to 52
+  EXPECT_EQ(FaultOf(Csv(curve + "KneeAngles,y,0,1,-2,4,deg\n")),
+            "53: '-2' is negative, which sd cannot be");
+  EXPECT_EQ(FaultOf(Csv(curve + "cadence,,,1,-0.5,4,x\n")),
+            "53: '-0.5' is negative, which sd cannot be");
+  EXPECT_EQ(FaultOf(Csv(curve + "cadence,,,1,2,-4,x\n")),
+            "53: '-4' is negative, which n cannot be");
+  EXPECT_EQ(FaultOf(Csv(curve + "cadence,,,-1,0,0,x\n")), "none");
+}
+
 TEST(NormalCsv, BlanksAroundALabelMakeNoOtherCurve) {
   const std::string curve = CsvOfCurve("KneeAngles", "x", 1, 2);  // lines 2 to 52
   EXPECT_EQ(FaultOf(Csv(curve + "KneeAngles , x,4,1,2,4,deg\n")),
@@ -185,6 +196,11 @@ TEST(NormalGcd, MomentsComeInNewtonMetres) {
 TEST(NormalGcd, MomentThatNoNumberCanHoldIsRefused) {
   EXPECT_EQ(FaultOf(kGcdHeader + GcdCurve("KneeFlexExtMoment", "1e307 1")),
             "5: a mean and a deviation of KneeFlexExtMoment should stand here");
+}
+
+TEST(NormalGcd, DeviationBelowZeroIsRefused) {
+  EXPECT_EQ(FaultOf(kGcdHeader + GcdCurve("KneeFlexExt", "1 -2")),
+            "5: a mean and a deviation of KneeFlexExt should stand here");
 }
 
 TEST(NormalGcd, VariableOfTwoLabelsStandsForBoth) {

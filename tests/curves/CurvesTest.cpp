@@ -1,0 +1,226 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <rapidjson/document.h>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "c3d/OpenC3dFile.h"
+#include "gait/EventExtraction.h"
+#include "pages/MakePages.h"
+#include "pages/PageJson.h"
+#include "tests/GaitTrials.h"
+#include "tests/curves/CurvesInside.h"
+
+// What vantrel-curves does with trials and files.
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::SizeIs;
+using testing::StartsWith;
+using tests::RunCurvesInside;
+using tests::ToolResult;
+
+// A walk of one left stride along X and its knee, which stands at 30 degrees.
+sample::TrialBuilder Walk() {
+  sample::TrialBuilder builder = tests::WholeFrameTrial();
+  builder.AddPoint("LTOE", tests::Moving({}, {20, 0, 0}))
+      .AddPoint("RTOE", tests::Standing(840, 100, 0))
+      .AddPoint("LKneeAngles", tests::Standing(30, 1, 2));
+  return builder;
+}
+
+class CurvesTest : public testing::Test {
+ protected:
+  std::string In(const std::string& name) const { return (folder_ / name).string(); }
+  std::string Given(const std::string& name) const { return Given(name, Walk().Build()); }
+  std::string Given(const std::string& name, const sample::Trial& trial) const {
+    trial.WriteTo(folder_ / name);
+    return In(name);
+  }
+  std::string GivenText(const std::string& name, const std::string& text) const {
+    std::ofstream(folder_ / name, std::ios::binary) << text;
+    return In(name);
+  }
+  std::string Text(const std::string& name) const { return tests::ReadWholeFile(folder_ / name); }
+  std::vector<std::string> Names() const { return tests::NamesIn(folder_.Path()); }
+
+ private:
+  tests::TemporaryFolder folder_;
+};
+
+std::vector<std::string> PageNames(const std::string& json) {
+  rapidjson::Document document;
+  document.Parse(json.c_str());
+  std::vector<std::string> names;
+  for (const auto& page : document["pages"].GetArray())
+    names.emplace_back(page["name"].GetString());
+  return names;
+}
+
+TEST_F(CurvesTest, WritesBothFirstPagesWhereNoneIsNamed) {
+  const ToolResult run = RunCurvesInside({"--output", In("a.json"), Given("walk.c3d")});
+  EXPECT_EQ(run.Status, 0) << run.Err;
+  EXPECT_THAT(PageNames(Text("a.json")), ElementsAre("kinematics", "kinetics"));
+  EXPECT_EQ(run.Out + run.Err, "");
+}
+
+TEST_F(CurvesTest, WritesEachNamedPageOnceInTheirOrder) {
+  const ToolResult run = RunCurvesInside({"--page", "measures", "--page", "kinematics", "--page",
+                                          "measures", "--output", In("a.json"), Given("w.c3d")});
+  EXPECT_EQ(run.Status, 0) << run.Err;
+  EXPECT_THAT(PageNames(Text("a.json")), ElementsAre("measures", "kinematics"));
+}
+
+TEST_F(CurvesTest, JsonIsThePagesAsTheyAreMadeOfTheTrials) {
+  const std::string walk = Given("walk.c3d");
+  const ToolResult run =
+      RunCurvesInside({"--output", In("a.json"), "--title", "T", "--page", "kinematics", walk});
+  ASSERT_EQ(run.Status, 0) << run.Err;
+  modVantrel::FileState state;
+  ASSERT_EQ(OpenC3dFile(state, walk, modVantrel::FindGaitEvents), modVantrel::OpenResult::Success);
+  std::vector trials = {pages::ReadTrialValues(state, {{pages::PageKind::Kinematics}, {}})};
+  pages::PageChoice choice;
+  choice.Kinds = {pages::PageKind::Kinematics};
+  choice.Title = "T";
+  choice.Program = "vantrel-curves " VANTREL_VERSION;
+  EXPECT_EQ(Text("a.json"), pages::JsonOf(pages::MakePages(trials, choice)));
+  EXPECT_THAT(Text("a.json"), HasSubstr("\"Knee flexion\""));
+}
+
+TEST_F(CurvesTest, WritesEachKindOfFileByItsEnding) {
+  const std::string walk = Given("walk.c3d");
+  for (const char* name : {"a.pdf", "a.Svg", "a.PNG"}) {
+    const ToolResult run = RunCurvesInside({"--page", "kinematics", "--output", In(name), walk});
+    EXPECT_EQ(run.Status, 0) << run.Err;
+  }
+  EXPECT_THAT(Text("a.pdf"), StartsWith("%PDF-"));
+  EXPECT_THAT(Text("a.Svg"), StartsWith("<?xml"));
+  EXPECT_THAT(Text("a.PNG"), StartsWith("\x89PNG"));
+}
+
+TEST_F(CurvesTest, NumbersSeveralPagesOfPictures) {
+  const ToolResult run = RunCurvesInside({"--output", In("a.svg"), Given("walk.c3d")});
+  EXPECT_EQ(run.Status, 0) << run.Err;
+  EXPECT_THAT(Names(), ElementsAre("a-1.svg", "a-2.svg", "walk.c3d"));
+}
+
+TEST_F(CurvesTest, DrawsStridesOfOneFileAndMeansOfSeveral) {
+  const std::string one = Given("one.c3d");
+  const std::string two = Given("two.c3d");
+  const auto drawn = [&](std::vector<std::string> arguments) {
+    arguments.insert(arguments.end(),
+                     {"--page", "kinematics", "--overwrite", "--output", In("a.svg")});
+    EXPECT_EQ(RunCurvesInside(arguments).Status, 0);
+    return Text("a.svg");
+  };
+  constexpr const char* kMeanLine = "stroke=\"#d32f2f\" stroke-opacity=\"1\" stroke-width=\"15\"";
+  EXPECT_THAT(drawn({one}), Not(HasSubstr(kMeanLine)));
+  EXPECT_THAT(drawn({one, two}), HasSubstr(kMeanLine));
+  EXPECT_THAT(drawn({one, "--mean"}), HasSubstr(kMeanLine));
+  EXPECT_THAT(drawn({one, two, "--strides"}), Not(HasSubstr(kMeanLine)));
+}
+
+TEST_F(CurvesTest, ExistingFileStaysUnlessItMayBeReplaced) {
+  const std::string walk = Given("walk.c3d");
+  const std::string taken = GivenText("a.json", "mine");
+  const ToolResult refused = RunCurvesInside({"--output", taken, walk});
+  EXPECT_EQ(refused.Status, 1);
+  EXPECT_EQ(refused.Err,
+            "vantrel-curves: " + taken + " exists already (--overwrite replaces it)\n");
+  EXPECT_EQ(Text("a.json"), "mine");
+  EXPECT_EQ(RunCurvesInside({"--overwrite", "--output", taken, walk}).Status, 0);
+  EXPECT_THAT(Text("a.json"), StartsWith("{"));
+}
+
+TEST_F(CurvesTest, WhereOnePictureExistsNoneIsWritten) {
+  GivenText("a-2.svg", "mine");
+  const ToolResult run = RunCurvesInside({"--output", In("a.svg"), Given("walk.c3d")});
+  EXPECT_EQ(run.Status, 1);
+  EXPECT_THAT(run.Err, HasSubstr("a-2.svg exists already"));
+  EXPECT_THAT(Names(), ElementsAre("a-2.svg", "walk.c3d"));
+}
+
+TEST_F(CurvesTest, FileThatFailsIsNamedAndThePagesOfTheOthersAreWritten) {
+  const std::string good = Given("good.c3d");
+  sample::Trial cut = Walk().Build();
+  const std::string bad = Given("bad.c3d", cut.TruncateTo(cut.Size() - 600));
+  const ToolResult run = RunCurvesInside({"--output", In("a.json"), bad, good});
+  EXPECT_EQ(run.Status, 1);
+  EXPECT_THAT(run.Err, StartsWith("vantrel-curves: " + bad + ": "));
+  EXPECT_EQ(RunCurvesInside({"--output", In("b.json"), good}).Status, 0);
+  EXPECT_EQ(Text("a.json"), Text("b.json"));
+}
+
+TEST_F(CurvesTest, WhereNoFileCanBeReadNothingIsWritten) {
+  const ToolResult run =
+      RunCurvesInside({"--output", In("a.pdf"), In("none.c3d"), GivenText("no.c3d", "text")});
+  EXPECT_EQ(run.Status, 1);
+  EXPECT_THAT(tests::LinesOf(run.Err), SizeIs(2));
+  EXPECT_THAT(Names(), ElementsAre("no.c3d"));
+}
+
+TEST_F(CurvesTest, LabelThatNoFileHasIsNamed) {
+  const std::string walk = Given("walk.c3d");
+  const ToolResult run = RunCurvesInside(
+      {"--page", "label", "--label", "ltoe", "--label", "LXYZ", "--output", In("a.json"), walk});
+  EXPECT_EQ(run.Status, 1);
+  EXPECT_EQ(run.Err, "vantrel-curves: no file has a point 'LXYZ'\n");
+  EXPECT_THAT(PageNames(Text("a.json")), ElementsAre("label"));
+}
+
+TEST_F(CurvesTest, WhereNoFileHasAnyOfTheLabelsNothingIsWritten) {
+  const ToolResult run = RunCurvesInside(
+      {"--page", "label", "--label", "LXYZ", "--output", In("a.pdf"), Given("walk.c3d")});
+  EXPECT_EQ(run.Status, 1);
+  EXPECT_THAT(Names(), ElementsAre("walk.c3d"));
+}
+
+TEST_F(CurvesTest, NormalsThatCannotBeReadEndTheCommand) {
+  const std::string normals = GivenText("n.csv", "a,b\n1,2\n");
+  const ToolResult run =
+      RunCurvesInside({"--normal", normals, "--output", In("a.pdf"), Given("walk.c3d")});
+  EXPECT_EQ(run.Status, 1);
+  EXPECT_THAT(run.Err, StartsWith("vantrel-curves: " + normals + ", line 1: "));
+  EXPECT_THAT(Names(), ElementsAre("n.csv", "walk.c3d"));
+}
+
+TEST_F(CurvesTest, FileThatCannotBeMadeIsNamed) {
+  const ToolResult run = RunCurvesInside({"--output", In("missing/a.json"), Given("walk.c3d")});
+  EXPECT_EQ(run.Status, 1);
+  EXPECT_THAT(run.Err, HasSubstr("Path not found"));
+}
+
+TEST_F(CurvesTest, OfTwoRunsAtOnceOneWritesAllItsPicturesAndTheOtherNone) {
+  const std::string walk = Given("walk.c3d");
+  std::vector<ToolResult> runs(2);
+  std::vector<std::thread> threads;
+  for (ToolResult& run : runs) {
+    threads.emplace_back([&] { run = tests::RunTool({"--output", In("a.svg"), walk}); });
+  }
+  for (std::thread& thread : threads) thread.join();
+  EXPECT_EQ(std::ranges::count(runs, 0, &ToolResult::Status), 1);
+  EXPECT_EQ(std::ranges::count(runs, 1, &ToolResult::Status), 1);
+  EXPECT_THAT(Names(), ElementsAre("a-1.svg", "a-2.svg", "walk.c3d"));
+}
+
+TEST_F(CurvesTest, NeedsNoDisplayAndSaysNothingOfItsSurroundings) {
+  const std::string walk = Given("walk.c3d");
+  ::setenv("DISPLAY", "nowhere.invalid:9", 1);
+  ::setenv("QT_QPA_PLATFORM", "xcb", 1);
+  ::unsetenv("XDG_RUNTIME_DIR");
+  const ToolResult run = tests::RunTool({"--output", In("a.pdf"), walk});
+  EXPECT_EQ(run.Status, 0);
+  EXPECT_EQ(run.Out + run.Err, "");
+  EXPECT_THAT(Text("a.pdf"), StartsWith("%PDF-"));
+}
+
+}  // namespace
