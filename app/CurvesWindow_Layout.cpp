@@ -255,9 +255,11 @@ void CurvesWindow::OpenAtItsPlace() {
   if (restoreGeometry(memory_.Geometry())) return;
   constexpr QSize kSize(1180, 780);
   const QRect room = screen()->availableGeometry();
-  const int frame = style()->pixelMetric(QStyle::PM_TitleBarHeight);
-  resize(kSize.boundedTo(room.size() - QSize(2, frame + 2)));
-  move(NearestPlaceInside(room, {room.center() - rect().center(), size() + QSize(2, frame)}));
+  // What the window system will most likely put around it, and a little more.
+  constexpr int kEdge = 8;
+  const QSize frame(kEdge, style()->pixelMetric(QStyle::PM_TitleBarHeight) + kEdge);
+  resize(kSize.boundedTo(room.size() - frame));
+  move(NearestPlaceInside(room, {room.center() - rect().center(), size() + frame}));
 }
 
 }  // namespace app

@@ -140,6 +140,7 @@ void VisitList::UpdateStrides(QTreeWidgetItem& item, const VisitTrial& trial) {
   if (!isSame) {
     qDeleteAll(item.takeChildren());
     for (const pages::TrialStride& stride : strides) item.addChild(NewStride(stride));
+    item.setExpanded(trial.IsTheForms);  // the others where a user opens them out
   }
   for (int i = 0; i < item.childCount(); ++i) {
     item.child(i)->setCheckState(0, CheckOf(!trial.LeftOut.contains(StrideIn(*item.child(i)))));

@@ -58,9 +58,10 @@ TEST_F(CurvesPage, HoveringOverNothingNamesNothing) {
 TEST_F(CurvesPage, HoveringOverAMeanNamesItsStridesAndDeviation) {
   StartWithOne();
   Entry("mnuMeans")->trigger();
-  HoverAt(PlaceOf("Knee flexion", 20, KneeAt(0, 1.7)));
+  ClickCheckMark(Stride(0, "Left stride 3"));
+  HoverAt(PlaceOf("Knee flexion", 20, KneeAt(0, 1.2)));
   EXPECT_EQ(Pointed(),
-            QStringLiteral("Left mean of 3 strides, 20 %: Knee flexion 17.00 \u00b1 10.00 deg"));
+            QStringLiteral("Left mean of 2 strides, 20 %: Knee flexion 12.00 \u00b1 7.07 deg"));
 }
 
 TEST_F(CurvesPage, AClickLiftsAStrideInAllPanelsAndAClickOnNothingPutsItBack) {
