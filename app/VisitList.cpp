@@ -82,7 +82,7 @@ VisitList::VisitList(QWidget* parent) : QTreeWidget(parent) {
   setHeaderLabels({tr("Trial"), tr("Note")});
   header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
   header()->setStretchLastSection(true);
-  setTextElideMode(Qt::ElideMiddle);
+  setTextElideMode(Qt::ElideRight);
   setContextMenuPolicy(Qt::ActionsContextMenu);
   connect(this, &QTreeWidget::itemChanged, this, &VisitList::TakeChange);
 }
