@@ -4,6 +4,8 @@
 
 #include <utility>
 
+#include <QPointer>
+
 #include "support/StoppableWork.h"
 
 namespace app {
@@ -65,8 +67,10 @@ void Background::Loop() {
 void Background::Finish(std::size_t run, const Then& then) {
   if (run != run_) return;  // was under way to us when it was cancelled
   --open_;
+  // A message box in there may wait until the program ends.
+  const QPointer<Background> self(this);
   if (then) then();
-  emit Changed();
+  if (self) emit Changed();
 }
 
 }  // namespace app

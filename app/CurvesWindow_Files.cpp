@@ -20,6 +20,7 @@
 #include "app/MessageBoxes.h"
 #include "app/QtText.h"
 #include "app/modMsgBoxPlus.h"
+#include "c3d/FileKey.h"
 #include "pages/MakePages.h"
 #include "support/FileSystem.h"
 #include "support/RuntimeError.h"
@@ -35,6 +36,10 @@ namespace {
 
 void TellError(QWidget* owner, const modAllPurpose::RuntimeError& error) {
   ShowMessage(owner, "The file could not be written.  " + modAllPurpose::RuntimeErrorLine(error));
+}
+
+bool IsTrial(const std::string& path) {
+  return modAllPurpose::IsRegularFile(path) && modVantrel::BeginsLikeC3dFile(path);
 }
 
 }  // namespace
@@ -89,6 +94,10 @@ void CurvesWindow::WriteOrTell(const std::vector<WholeFile>& files) {
     if (!taken.empty()) {
       // Each of the names that are taken is asked for by itself.
       for (const WholeFile& file : files) {
+        if (IsTrial(file.Path)) {
+          ShowMessage(this, "The file '" + file.Path + "' is a C3D file and stays as it is.");
+          return;
+        }
         if (modAllPurpose::IsNameTaken(file.Path) && !MayReplace(file.Path)) return;
       }
       taken = plot::WriteFiles(files, true);

@@ -9,8 +9,9 @@ namespace modAllPurpose {
 // those lets it pass, up to whoever started the work.
 class WorkStopped {};
 
-// While it lives, work on this thread ends with WorkStopped where it next reads from a trial after
-// `isStopped`, which must outlive it, has become true. One a thread at a time.
+// While it lives, work on this thread ends with WorkStopped where it next reads from a trial, or
+// draws a page for a file, after `isStopped`, which must outlive it, has become true. One a thread
+// at a time.
 class StoppableWork {
  public:
   explicit StoppableWork(const std::atomic<bool>& isStopped);

@@ -114,6 +114,32 @@ TEST_F(CurvesFiles, AFolderThatIsMissingIsToldAndNothingIsLeft) {
   EXPECT_TRUE(boxes_.Seen()[0].Text.contains(QStringLiteral("nowhere")));
 }
 
+TEST_F(CurvesFiles, ATrialIsNeverReplacedWhateverItsName) {
+  StartWithThree();
+  const auto file = folder_ / "out/page.svg";
+  std::filesystem::copy_file(trials_[0], file);
+  boxes_.ExpectAndClick(QStringLiteral("OK"));
+  window_->SavePages(file.string(), {PageKind::Kinematics});
+  WaitUntilRead();
+  EXPECT_EQ(ReadWholeFile(file), ReadWholeFile(trials_[0]));
+}
+
+TEST_F(CurvesFiles, NormalsStandBehindTheCurvesAndAFileWithoutAnyIsToldAndLeavesNone) {
+  StartWithThree();
+  EXPECT_FALSE(CurvesOf("Knee flexion").Normal);
+  const auto file = folder_ / "norms.csv";
+  std::ofstream(file) << tests::ToolOutput(
+      QStringList{QStringLiteral("--format"), QStringLiteral("csv"), QStringLiteral("norms")} +
+      FilesForTool());
+  window_->SetNormals(file.string());
+  ASSERT_TRUE(CurvesOf("Knee flexion").Normal);
+  EXPECT_NEAR(CurvesOf("Knee flexion").Normal->Mean.at(25).value_or(0), tests::KneeAt(10, 2.0),
+              1e-3);
+  boxes_.ExpectAndClick(QStringLiteral("OK"));
+  window_->SetNormals(trials_[0]);
+  EXPECT_FALSE(CurvesOf("Knee flexion").Normal);
+}
+
 TEST_F(CurvesFiles, TheTablesAreThoseOfTheTool) {
   StartWithThree();
   for (const std::string_view report : app::kVisitTables) {
