@@ -119,10 +119,9 @@ QPoint CurvesTest::PlaceOf(const std::string& title, double percent, double valu
 }
 
 void CurvesTest::HoverAt(const QPoint& place) {
-  QTest::mouseMove(&View(), place + QPoint(3, 0));
-  QApplication::processEvents();
   QTest::mouseMove(&View(), place);
-  QApplication::processEvents();
+  constexpr int kLateMoves = 40;  // milliseconds; of the window system
+  QTest::qWait(kLateMoves);
 }
 
 }  // namespace tests
