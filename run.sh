@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Sets up, builds, and opens the window on FILE.c3d, or on the bundled sample walk. Without a display
-# it prints the measures instead and saves a picture of the window.
+# it prints the measures instead and saves a picture of the window and a page of curves.
 #   ./run.sh [FILE.c3d]
 set -euo pipefail
 file=${1:+$(realpath -- "$1")}
@@ -30,3 +30,5 @@ echo
 "$programs/vantrel-report" measures -- "$file"
 QT_QPA_PLATFORM=offscreen "$programs/vantrel-picture" "$file" "$programs/window.png"
 echo "A picture of the window: $programs/window.png"
+"$programs/vantrel-curves" --overwrite --output "$programs/curves.pdf" -- "$file"
+echo "Its pages of curves: $programs/curves.pdf"

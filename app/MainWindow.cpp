@@ -88,7 +88,7 @@ QAction* MainWindow::ActionOf(const MenuRow& row) {
 }
 
 void MainWindow::FillMenus() {
-  // In the order of the bar; those that have no entry yet are filled by others or stay away.
+  // These stand first, whatever comes first into them; the others come with their first entry.
   for (const MenuName menu :
        {MenuName::File, MenuName::Edit, MenuName::Reports, MenuName::Curves}) {
     Menu(menu);

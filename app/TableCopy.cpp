@@ -30,12 +30,20 @@ qsizetype StartOfQuoted(const QString& line) {
   return start < 0 ? line.size() : start + 1;
 }
 
+// The event beside a row of a listing has its side as wide as the longer one: "Left  Foot Strike".
+bool BeginsWithLeftEvent(const QString& line) {
+  const QString left = QStringLiteral("Left  ");
+  return line.startsWith(left) && line.size() > left.size() && line.at(left.size()).isLetter();
+}
+
 Mask MaskOf(const QString& line) {
   Mask mask(static_cast<std::size_t>(line.size()), '.');
   const qsizetype quoted = StartOfQuoted(line);
   for (qsizetype i = 0; i < line.size(); ++i) {
     if (i >= quoted || line.at(i) != u' ') mask[static_cast<std::size_t>(i)] = 'x';
   }
+  constexpr std::size_t kLeft = 4;
+  if (BeginsWithLeftEvent(line)) mask.replace(kLeft, kGap, kGap, 'x');
   return mask;
 }
 

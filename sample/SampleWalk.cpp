@@ -99,11 +99,26 @@ constexpr std::array kModelOutputs = {
     ModelOutput{"KneePower", {0, 0, 0, 0, 0}, {0, 0, 0, 0, 0}, {-0.3, 0.4, 2.0, 0.7, 0.9}},
     ModelOutput{"AnklePower", {0, 0, 0, 0, 0}, {0, 0, 0, 0, 0}, {0.4, 1.1, 4.4, 0.9, 2.8}}};
 
-PointCurve ModelCurve(const ModelOutput& output, double firstStrike) {
-  return [output, firstStrike](std::int32_t frame) {
+// How the curves of a foot differ from the waves above: it moves a part of them, a little later,
+// and not twice the same.
+struct Manner {
+  double Part;
+  double Delay;  // in strides
+  double SwayShift;
+};
+
+constexpr Manner kLeftManner{1.0, 0.0, 0.4};
+constexpr Manner kRightManner{0.82, 0.03, 2.5};
+
+PointCurve ModelCurve(const ModelOutput& output, double firstStrike, const Manner& manner) {
+  return [=](std::int32_t frame) {
+    constexpr double kSwaysAStride = 0.37;
     const double phase = Phase(FrameTime(frame), firstStrike);
-    return std::array{Quantized(output.X.At(phase)), Quantized(output.Y.At(phase)),
-                      Quantized(output.Z.At(phase))};
+    const double sway = std::sin(kTwoPi * kSwaysAStride * phase + manner.SwayShift);
+    const double part = manner.Part + 0.09 * sway;
+    const double at = phase - manner.Delay - 0.012 * sway;
+    return std::array{Quantized(part * output.X.At(at)), Quantized(part * output.Y.At(at)),
+                      Quantized(part * output.Z.At(at))};
   };
 }
 
@@ -138,9 +153,10 @@ void AddFoot(TrialBuilder& walk, const std::string& side, double firstStrike, do
   walk.AddPoint(side + "ASI", PelvisMarker(90, 1.4 * aside));
 }
 
-void AddModel(TrialBuilder& walk, const std::string& side, double firstStrike) {
+void AddModel(TrialBuilder& walk, const std::string& side, double firstStrike,
+              const Manner& manner) {
   for (const ModelOutput& output : kModelOutputs) {
-    walk.AddPoint(side + output.Name, ModelCurve(output, firstStrike));
+    walk.AddPoint(side + output.Name, ModelCurve(output, firstStrike, manner));
   }
 }
 
@@ -195,8 +211,8 @@ TrialBuilder SampleWalk() {
   walk.StoredAs(Storage::Single).Frames(1, kLastFrame).Rate(kRate);
   AddFoot(walk, "L", kFirstLeftStrike, 80);
   AddFoot(walk, "R", kFirstRightStrike, -80);
-  AddModel(walk, "L", kFirstLeftStrike);
-  AddModel(walk, "R", kFirstRightStrike);
+  AddModel(walk, "L", kFirstLeftStrike, kLeftManner);
+  AddModel(walk, "R", kFirstRightStrike, kRightManner);
 
   walk.SamplesPerFrame(kSamplesPerFrame);
   walk.AddAnalog("Fx1", "Plate 1 force across", PlateForce(kFirstLeftStrike, 45));

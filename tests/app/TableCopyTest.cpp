@@ -55,6 +55,14 @@ TEST(TableCopy, RowsBesideEventsBeginWithAnEmptyColumn) {
             "\t052\t00.51000\t0042.0000\n");
 }
 
+TEST(TableCopy, AnEventBesideARowIsOneValueOnEitherSide) {
+  EXPECT_EQ(Table("Left  Foot Strike  051  00.50000  0771.8184\n"
+                  "                   052  00.51000  0771.8184\n"
+                  "Right Foot Off     062  00.61000  0771.8184\n"),
+            "Left  Foot Strike\t051\t00.50000\t0771.8184\n\t052\t00.51000\t0771.8184\n"
+            "Right Foot Off\t062\t00.61000\t0771.8184\n");
+}
+
 TEST(TableCopy, RowsOfWiderNumbersStillHaveTheirColumns) {
   EXPECT_EQ(Table("                   999  09.98000  0042.0000\n"
                   "                   1000  09.99000  -10042.0000\n"

@@ -317,6 +317,25 @@ TEST_F(WindowCopy, ASelectionThatBeginsWithinALineKeepsItsColumns) {
   EXPECT_EQ(Copied(), QStringLiteral("\tbbb\tccc\nddd\teee\tfff"));
 }
 
+TEST_F(WindowCopy, EveryRowOfAListingWithEventsHasItsColumnForThem) {
+  Start(WriteSampleWalk());
+  Type("txtPointLabel", QStringLiteral("LTOE"));
+  Click("cmdShowPointDataWithEvents");
+  Pane()->selectAll();
+  Choose("mnuCopyAsTable");
+  const QStringList lines = Copied().split(u'\n');
+  int rows = 0;
+  int events = 0;
+  for (const QString& line : lines.mid(2)) {
+    if (line.isEmpty()) continue;
+    EXPECT_EQ(line.count(u'\t'), 5) << line.toStdString();
+    ++rows;
+    if (!line.startsWith(u'\t')) ++events;
+  }
+  EXPECT_EQ(rows, 460);
+  EXPECT_GE(events, 10);
+}
+
 TEST_F(WindowCopy, WithNothingSelectedTheClipboardStays) {
   Start();
   Pane()->Append("text\n");
