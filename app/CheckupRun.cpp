@@ -5,8 +5,6 @@
 #include <exception>
 #include <utility>
 
-#include <QThread>
-
 namespace app {
 
 using modVantrel::Finding;
@@ -36,42 +34,17 @@ CheckupCounts CountsOf(const std::vector<Finding>& findings) {
 
 CheckupRun::CheckupRun(Check check, QObject* parent) : QObject(parent), check_(std::move(check)) {}
 
-CheckupRun::~CheckupRun() {
-  Stop();
-  for (QThread* thread : findChildren<QThread*>()) thread->wait();
-}
-
 void CheckupRun::Start(const std::string& file) {
   Stop();
-  QThread* thread = QThread::create([this, file, number = number_] { Run(file, number); });
-  thread->setParent(this);
-  connect(thread, &QThread::finished, thread, &QObject::deleteLater);
-  thread->start(QThread::LowPriority);
+  background_.Run([this, file] { return Run(file); });
 }
 
-void CheckupRun::Stop() {
-  ++number_;
-  for (QThread* thread : findChildren<QThread*>()) thread->requestInterruption();
-}
-
-void CheckupRun::Run(const std::string& file, int number) {
+Background::Then CheckupRun::Run(const std::string& file) {
   try {
-    const auto stop = [] { return QThread::currentThread()->isInterruptionRequested(); };
-    Report(number, [this, counts = CountsOf(check_(file, stop))] { emit Done(counts); });
-  } catch (const modVantrel::Stopped&) {
-    // Nobody waits for it.
+    return [this, counts = CountsOf(check_(file))] { emit Done(counts); };
   } catch (const std::exception&) {
-    Report(number, [this] { emit Failed(); });
+    return [this] { emit Failed(); };
   }
-}
-
-void CheckupRun::Report(int number, const std::function<void()>& tell) {
-  QMetaObject::invokeMethod(
-      this,
-      [this, number, tell] {
-        if (number == number_) tell();
-      },
-      Qt::QueuedConnection);
 }
 
 }  // namespace app

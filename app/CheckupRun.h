@@ -7,7 +7,7 @@
 
 #include <QObject>
 
-#include "c3d/BinaryFile.h"
+#include "app/Background.h"
 #include "gait/Checkup.h"
 
 namespace app {
@@ -20,22 +20,19 @@ struct CheckupCounts {
 };
 
 // Runs the checkup of a trial beside the window: on a thread of its own, which opens the file by
-// itself. One that is begun anew or stopped is never heard of again and ends by itself within a
-// part of a second; nothing waits for it but the end of this object.
+// itself. One that is begun anew or stopped ends where it next reads, and is never heard of again.
 class CheckupRun : public QObject {
   Q_OBJECT
 
  public:
-  using Check = std::function<std::vector<modVantrel::Finding>(const std::string& file,
-                                                               modVantrel::StopQuestion stop)>;
+  using Check = std::function<std::vector<modVantrel::Finding>(const std::string& file)>;
 
-  // `check` runs on other threads.
+  // `check` runs on another thread; it is StoppableWork.
   explicit CheckupRun(Check check, QObject* parent = nullptr);
-  ~CheckupRun() override;
 
   // Checks that file in place of the one before.
   void Start(const std::string& file);
-  void Stop();
+  void Stop() { background_.Cancel(); }
 
  signals:
   void Done(const app::CheckupCounts& counts);
@@ -43,11 +40,10 @@ class CheckupRun : public QObject {
   void Failed();
 
  private:
-  void Run(const std::string& file, int number);
-  void Report(int number, const std::function<void()>& tell);
+  Background::Then Run(const std::string& file);
 
   Check check_;
-  int number_ = 0;  // of the run that is heard
+  Background background_{nullptr};  // ends before what it runs
 };
 
 }  // namespace app

@@ -10,6 +10,7 @@
 #include <QMenuBar>
 
 #include "app/CaptionButton.h"
+#include "app/CurvesWindow.h"
 #include "app/ManualWindow.h"
 #include "app/OutputPane.h"
 #include "app/QtText.h"
@@ -32,17 +33,15 @@ MainWindow::MainWindow(modVantrel::FileState& state)
     : state_(state),
       form_(new frmVantrel(state)),
       recent_(new QMenu(this)),
-      status_(new TrialStatus(
-          form_->Status(), state,
-          [](const std::string& file, modVantrel::StopQuestion stop) {
-            return reports::CheckFile(file, std::move(stop));
-          },
-          this)) {
+      status_(new TrialStatus(form_->Status(), state, reports::CheckFile, this)) {
   setObjectName(QStringLiteral("MainWindow"));
   setCentralWidget(form_);
   setWindowTitle(form_->windowTitle());
   connect(form_, &QWidget::windowTitleChanged, this, &QWidget::setWindowTitle);
   connect(form_, &frmVantrel::OpenFileChanged, this, &MainWindow::FileWasOpened);
+  connect(form_, &frmVantrel::OpenFileChanged, this, &MainWindow::FollowWithCurves);
+  connect(this, &MainWindow::CurvesAsked, this, &MainWindow::ShowCurves);
+  connect(this, &MainWindow::NormalsChanged, this, &MainWindow::CompareCurves);
   connect(form_, &frmVantrel::ReportChanged, this, &MainWindow::EnableActions);
   // A file that is dropped on the menu bar is for the form too.
   setAcceptDrops(true);
@@ -76,6 +75,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
   if (isVisible()) RememberState();
   status_->Stop();
   if (manual_) manual_->close();
+  CloseCurves();
   form_->close();
   event->accept();
 }

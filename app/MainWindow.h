@@ -20,6 +20,7 @@ class QMenu;
 
 namespace app {
 
+class CurvesWindow;
 class frmVantrel;
 class ManualWindow;
 class TrialStatus;
@@ -41,6 +42,8 @@ class MainWindow : public QMainWindow {
 
   frmVantrel& Form() { return *form_; }
 
+  // The window of curves; null as long as nobody has asked for a page.
+  CurvesWindow* Curves() { return curves_.get(); }
   // The file of normal values that curves are compared with; empty for none.
   std::string Normals() const { return remembered_.Normals(); }
 
@@ -76,6 +79,10 @@ class MainWindow : public QMainWindow {
   QMenu* Menu(MenuName menu);
   QAction* ActionOf(const MenuRow& row);
   bool Has(MenuNeeds needed) const;
+  void ShowCurves(pages::PageKind page);
+  void FollowWithCurves();
+  void CloseCurves();
+  void CompareCurves();
   // Enables what can be done now.
   void EnableActions();
 
@@ -96,6 +103,7 @@ class MainWindow : public QMainWindow {
   const modVantrel::FileState& state_;
   Remembered remembered_;
   frmVantrel* form_;
+  std::unique_ptr<CurvesWindow> curves_;
   QMenu* recent_;
   Neighbours neighbours_;
   TrialStatus* status_;

@@ -15,11 +15,13 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
+#include "app/CurvesWindow.h"
 #include "app/FormLayout.h"
 #include "app/MainWindow.h"
 #include "app/QtText.h"
 #include "app/frmVantrel.h"
 #include "c3d/FileState.h"
+#include "pages/PageKinds.h"
 
 namespace {
 
@@ -27,6 +29,8 @@ constexpr const char* kUsage =
     "usage: vantrel-picture [--dark] FILE.c3d PICTURE.png [LABEL]\n"
     "Opens FILE.c3d, shows the normalised curves of LABEL (without it, the single-value measures)\n"
     "and saves a picture of the window.\n"
+    "       vantrel-picture [--dark] --curves PAGE FILE.c3d... PICTURE.png\n"
+    "Saves a picture of the window of curves with that page (kinematics, kinetics ...).\n"
     "       vantrel-picture --check-display\n"
     "Ends with 0 where there is a display that shows windows.\n";
 
@@ -74,6 +78,28 @@ bool SavePicture(const std::vector<std::string>& arguments) {
   return window.grab().save(app::ToQString(arguments[1]), "PNG");
 }
 
+// A page of the trials: the arguments are its name, the files and the picture.
+bool SaveCurves(const std::vector<std::string>& arguments) {
+  const pages::PageInfo* page = pages::FindPage(arguments[0]);
+  if (page == nullptr) return false;
+  QTimer timer;
+  bool refused = false;
+  AnswerMessageBoxes(timer, refused);
+  app::CurvesWindow window;
+  window.AddTrials({arguments.begin() + 1, arguments.end() - 1});
+  window.ShowPage(page->Kind);
+  while (window.IsBusy()) QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+  QApplication::processEvents();
+  return !refused && window.grab().save(app::ToQString(arguments.back()), "PNG");
+}
+
+bool Save(const std::vector<std::string>& arguments) {
+  constexpr std::size_t kLeastForCurves = 4;
+  if (arguments[0] != "--curves") return arguments.size() <= 3 && SavePicture(arguments);
+  return arguments.size() >= kLeastForCurves &&
+         SaveCurves({arguments.begin() + 1, arguments.end()});
+}
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
@@ -93,11 +119,11 @@ int main(int argc, char* argv[]) {
     QApplication::setPalette(DarkPalette());
     arguments.erase(arguments.begin());
   }
-  if (arguments.size() < 2 || arguments.size() > 3) {
+  if (arguments.size() < 2) {
     std::cerr << kUsage;
     return 2;
   }
-  if (SavePicture(arguments)) return 0;
+  if (Save(arguments)) return 0;
   std::cerr << "vantrel-picture: no picture was saved\n";
   return 1;
 }

@@ -13,6 +13,7 @@
 #include <QPushButton>
 
 #include "app/CaptionButton.h"
+#include "app/DraggedFiles.h"
 #include "app/MenuRows.h"
 #include "app/MessageBoxes.h"
 #include "app/NodeTree.h"
@@ -21,30 +22,6 @@
 #include "app/frmVantrel.h"
 
 namespace app {
-
-namespace {
-
-// The paths of the files among what is dragged, byte for byte, since they need not be UTF-8.
-std::vector<std::string> DraggedFiles(const QMimeData* data) {
-  std::vector<std::string> files;
-  for (const QUrl& url : data->urls()) {
-    if (!url.isLocalFile()) continue;
-    const QByteArray path = url.path(QUrl::FullyEncoded).toLatin1();
-    files.push_back(QByteArray::fromPercentEncoding(path).toStdString());
-  }
-  return files;
-}
-
-// Accepts a file that is dragged, to be read where it is: the program it comes from must not take
-// it for moved away. False where it may only be moved.
-bool AcceptCopy(QDropEvent* event) {
-  if (!event->possibleActions().testFlag(Qt::CopyAction)) return false;
-  event->setDropAction(Qt::CopyAction);
-  event->accept();
-  return true;
-}
-
-}  // namespace
 
 void frmVantrel::ConnectControls() {
   for (const auto& [button, handler] : controls_.Buttons) {

@@ -7,6 +7,7 @@
 #include "c3d/StoredNumbers.h"
 #include "support/Arithmetic.h"
 #include "support/RuntimeError.h"
+#include "support/StoppableWork.h"
 #include "support/Text.h"
 
 namespace modVantrel {
@@ -56,7 +57,7 @@ void BinaryFile::ForgetBuffer() {
 }
 
 void BinaryFile::Fill(std::size_t count) {
-  if (stop_ && stop_()) throw Stopped();
+  modAllPurpose::StoppableWork::EndIfStopped();
   // A large claim is held against the file before memory is taken for it.
   if (count > readAhead_) RequireLeft(count);
   const std::size_t wanted = std::max(count, readAhead_);

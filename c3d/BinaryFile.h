@@ -3,8 +3,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <exception>
-#include <functional>
 #include <span>
 #include <string>
 #include <utility>
@@ -14,16 +12,6 @@
 #include "support/RuntimeError.h"
 
 namespace modVantrel {
-
-// Whether the work on a file is to end before it is done.
-using StopQuestion = std::function<bool()>;
-
-// Thrown where a StopQuestion was answered with yes. No error of the file, so that nothing that
-// goes on behind errors swallows it.
-class Stopped : public std::exception {
- public:
-  const char* what() const noexcept override { return "Stopped"; }
-};
 
 // The one class that reads the C3D file. Positions are counted from 1 and moved by every read.
 //
@@ -35,10 +23,6 @@ class BinaryFile {
   // Opens `path` (UTF-8) and stands at position 1. Errors as RandomAccessFile::Open.
   void Open(const std::string& path);
   bool IsOpen() const { return file_.IsOpen(); }
-
-  // Asks `stop` before bytes are fetched from the file, so that a long reading ends within a part
-  // of a second: it then throws Stopped. It stands for all files that this object opens.
-  void AskBeforeReading(StopQuestion stop) { stop_ = std::move(stop); }
 
   void Close() noexcept;
 
@@ -130,7 +114,6 @@ class BinaryFile {
   std::size_t bufferedBytes_ = 0;
   std::size_t readAhead_ = kDefaultReadAhead;
   int looks_ = 0;  // that live now
-  StopQuestion stop_;
 };
 
 }  // namespace modVantrel

@@ -43,10 +43,8 @@ bool HasError(const std::vector<Finding>& findings) {
       findings, [](const Finding& finding) { return finding.Level == Severity::Error; });
 }
 
-std::vector<Finding> CheckTrial(const std::string& file, const SummaryStrides& summary,
-                                StopQuestion stop) {
+std::vector<Finding> CheckTrial(const std::string& file, const SummaryStrides& summary) {
   CheckedTrial trial;
-  trial.State.C3dFileNumber.AskBeforeReading(std::move(stop));
   Findings findings;
   const BinaryFile::Look look(trial.State.C3dFileNumber);
   IgnoringErrors([&] { ReadTrial(trial, file); });

@@ -43,8 +43,7 @@ using SummaryStrides = std::function<std::vector<SummaryStride>(const FileState&
 // All findings in `file` (UTF-8), also in one that the program refuses: by kind, then by place; one
 // for each cause. Goes on behind the first fault as far as the file can be made out, and never ends
 // in a RuntimeError. Reads the frames once. Without `summary` the values that the file itself gives
-// are not compared. Ends with Stopped soon after `stop` is answered with yes.
-std::vector<Finding> CheckTrial(const std::string& file, const SummaryStrides& summary = {},
-                                StopQuestion stop = {});
+// are not compared.
+std::vector<Finding> CheckTrial(const std::string& file, const SummaryStrides& summary = {});
 
 }  // namespace modVantrel

@@ -18,11 +18,11 @@ namespace {
 // Lets a painter draw in tenths of a point, as long as this lives.
 class TenthsOfAPoint {
  public:
-  TenthsOfAPoint(QPainter& painter, const QRectF& sheet) : painter_(painter) {
+  TenthsOfAPoint(QPainter& painter, const QRectF& sheet, double enlarged) : painter_(painter) {
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     painter.translate(sheet.topLeft());
-    painter.scale(ScaleOf(sheet), ScaleOf(sheet));
+    painter.scale(ScaleOf(sheet, enlarged), ScaleOf(sheet, enlarged));
   }
   TenthsOfAPoint(const TenthsOfAPoint&) = delete;
   TenthsOfAPoint& operator=(const TenthsOfAPoint&) = delete;
@@ -60,9 +60,9 @@ void DrawPage(QPainter& painter, const pages::PageSet& set, std::size_t index, c
   const pages::Page& page = set.Pages.at(index);
   const DrawingStyle styleHere = StyleOn(page, style);
   const Canvas canvas{painter, styleHere};
-  const QRectF paper = LaidOut(sheet);
-  const PageGeometry layout = GeometryOf(page, paper);
-  const TenthsOfAPoint tenths(painter, sheet);
+  const QRectF paper = LaidOut(sheet, style.Enlarged);
+  const PageGeometry layout = GeometryOf(page, paper, style.Enlarged);
+  const TenthsOfAPoint tenths(painter, sheet, style.Enlarged);
   painter.fillRect(paper, ColoursOf(style).Ground);
   DrawHead(canvas, set, page, layout.Head);
   for (std::size_t i = 0; i < page.Panels.size(); ++i) {
@@ -79,8 +79,9 @@ void DrawPanel(QPainter& painter, const pages::PageSet& set, std::size_t index, 
   const pages::Page& page = set.Pages.at(index);
   const DrawingStyle styleHere = StyleOn(page, style);
   const Canvas canvas{painter, styleHere};
-  const PageGeometry layout = GeometryOf(page, LaidOut(geometry.Sheet));
-  const TenthsOfAPoint tenths(painter, geometry.Sheet);
+  const PageGeometry layout =
+      GeometryOf(page, LaidOut(geometry.Sheet, style.Enlarged), style.Enlarged);
+  const TenthsOfAPoint tenths(painter, geometry.Sheet, style.Enlarged);
   const PanelPlace place{layout.Panels.at(panel), layout.Plots.at(panel)};
   painter.fillRect(place.Cell, ColoursOf(style).Ground);
   std::visit(PanelDrawing{canvas, place, page, view}, page.Panels.at(panel));

@@ -23,6 +23,7 @@ struct DrawingStyle {
   bool IsDark = false;                    // light lines on a dark ground, on screens alone
   bool IsQuick = false;                   // thin lines of one pixel, which screens draw fast
   std::optional<pages::StrideId> Lifted;  // drawn thick, in front of the others, which grow pale
+  double Enlarged = 1;  // how many times as large as on paper texts and lines stand on the sheet
 };
 
 // A panel that the wheel has enlarged: the part of it that is seen.
@@ -42,7 +43,8 @@ struct PageGeometry {
   std::vector<QRectF> Plots;   // the part of it in which curves stand
 };
 
-PageGeometry GeometryOf(const pages::Page& page, const QRectF& sheet);
+// `enlarged` as in the style that the page is drawn in.
+PageGeometry GeometryOf(const pages::Page& page, const QRectF& sheet, double enlarged = 1);
 
 // Draws page `index`, from 0, of `set` to fill `sheet`, in the painter's units. Texts are set in
 // the carried fonts and fit; nothing is drawn outside the sheet, and no curve outside its panel.

@@ -18,6 +18,7 @@
 
 #include "plot/Texts.h"
 #include "support/RuntimeError.h"
+#include "support/StoppableWork.h"
 #include "support/Text.h"
 
 namespace plot {
@@ -65,6 +66,7 @@ std::string PdfOf(const pages::PageSet& set, const SheetKind& sheet, const Drawi
     QPainter painter;
     Begin(painter, &writer);
     for (std::size_t i = 0; i < set.Pages.size(); ++i) {
+      modAllPurpose::StoppableWork::EndIfStopped();
       if (i > 0) writer.newPage();
       DrawPage(painter, set, i, SheetOf(sheet), style);
     }
@@ -131,6 +133,7 @@ std::vector<std::string> BytesOf(const pages::PageSet& set, FileKind kind, const
   if (kind == FileKind::Pdf) return {PdfOf(set, sheet, style)};
   std::vector<std::string> bytes;
   for (std::size_t i = 0; i < set.Pages.size(); ++i) {
+    modAllPurpose::StoppableWork::EndIfStopped();
     bytes.push_back(kind == FileKind::Svg ? SvgOf(set, i, sheet, style)
                                           : PngOf(set, i, sheet, style));
   }

@@ -56,8 +56,7 @@ QRectF CellOf(const Place& place, const pages::Page& page, const QRectF& body) {
           body.top() + (place.Row - 1) * (height + kBetweenRows), width, height};
 }
 
-QRectF Placed(const QRectF& part, const QRectF& sheet) {
-  const double scale = ScaleOf(sheet);
+QRectF Placed(const QRectF& part, const QRectF& sheet, double scale) {
   return {sheet.topLeft() + scale * part.topLeft(), scale * part.size()};
 }
 
@@ -79,24 +78,27 @@ PageGeometry LayoutOf(const pages::Page& page, const QRectF& paper) {
 
 }  // namespace
 
-double ScaleOf(const QRectF& sheet) {
-  return std::sqrt(sheet.width() * sheet.height() / kAreaOfA4);
+double ScaleOf(const QRectF& sheet, double enlarged) {
+  return enlarged * std::sqrt(sheet.width() * sheet.height() / kAreaOfA4);
 }
 
-QRectF LaidOut(const QRectF& sheet) { return {{0, 0}, sheet.size() / ScaleOf(sheet)}; }
+QRectF LaidOut(const QRectF& sheet, double enlarged) {
+  return {{0, 0}, sheet.size() / ScaleOf(sheet, enlarged)};
+}
 
 QRectF CaptionOf(const PageGeometry& layout) {
   return {layout.Foot.left(), layout.Foot.top() - kCaptionHeight, layout.Foot.width(),
           kCaptionHeight};
 }
 
-PageGeometry GeometryOf(const pages::Page& page, const QRectF& sheet) {
-  PageGeometry geometry = LayoutOf(page, LaidOut(sheet));
+PageGeometry GeometryOf(const pages::Page& page, const QRectF& sheet, double enlarged) {
+  const double scale = ScaleOf(sheet, enlarged);
+  PageGeometry geometry = LayoutOf(page, LaidOut(sheet, enlarged));
   geometry.Sheet = sheet;
-  geometry.Head = Placed(geometry.Head, sheet);
-  geometry.Foot = Placed(geometry.Foot, sheet);
-  for (QRectF& panel : geometry.Panels) panel = Placed(panel, sheet);
-  for (QRectF& part : geometry.Plots) part = Placed(part, sheet);
+  geometry.Head = Placed(geometry.Head, sheet, scale);
+  geometry.Foot = Placed(geometry.Foot, sheet, scale);
+  for (QRectF& panel : geometry.Panels) panel = Placed(panel, sheet, scale);
+  for (QRectF& part : geometry.Plots) part = Placed(part, sheet, scale);
   return geometry;
 }
 

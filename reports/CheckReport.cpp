@@ -33,8 +33,8 @@ std::vector<modVantrel::SummaryStride> StridesOf(const modVantrel::FileState& st
 
 }  // namespace
 
-std::vector<Finding> CheckFile(const std::string& file, modVantrel::StopQuestion stop) {
-  return modVantrel::CheckTrial(file, StridesOf, std::move(stop));
+std::vector<Finding> CheckFile(const std::string& file) {
+  return modVantrel::CheckTrial(file, StridesOf);
 }
 
 void CheckRows(std::string_view file, const std::vector<Finding>& findings, TableOutput& table) {

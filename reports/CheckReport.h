@@ -12,10 +12,8 @@
 // What CheckTrial found in a trial.
 namespace reports {
 
-// The findings in `file`, the values that it gives itself compared with those of its summary. Ends
-// with Stopped soon after `stop` is answered with yes.
-std::vector<modVantrel::Finding> CheckFile(const std::string& file,
-                                           modVantrel::StopQuestion stop = {});
+// The findings in `file`, the values that it gives itself compared with those of its summary.
+std::vector<modVantrel::Finding> CheckFile(const std::string& file);
 
 // The rows of one file, which stands in the first column as `file`. Begin and End are the caller's.
 void CheckRows(std::string_view file, const std::vector<modVantrel::Finding>& findings,

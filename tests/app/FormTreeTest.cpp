@@ -209,6 +209,7 @@ TEST_F(FormTree, ADoubleClickWithAnotherButtonRunsNothing) {
   for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
     QTest::mouseClick(Tree()->viewport(), button, {}, place);
     QTest::mouseDClick(Tree()->viewport(), button, {}, place);
+    QTest::mouseRelease(Tree()->viewport(), button, {}, place);
   }
   EXPECT_EQ(PaneText(), "");
   EXPECT_EQ(TextBoxes(), before);

@@ -9,6 +9,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "support/StoppableWork.h"
 #include "tests/GaitTrials.h"
 #include "tests/checkup/CheckedTrials.h"
 
@@ -16,6 +17,8 @@
 // 1.0 s (frame 101) to 2.6 s (frame 261).
 namespace {
 
+using modAllPurpose::StoppableWork;
+using modAllPurpose::WorkStopped;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -244,13 +247,16 @@ TEST(Checkup, EndsAtTheNextReadingOnceItIsToStop) {
   const std::string file = (folder / "trial.c3d").string();
   CleanWalk().Build().WriteTo(file);
   int askedInAll = 0;
-  (void)modVantrel::CheckTrial(file, {}, [&askedInAll] { return ++askedInAll < 0; });
+  {
+    const StoppableWork work([&askedInAll] { return ++askedInAll < 0; });
+    (void)modVantrel::CheckTrial(file);
+  }
   ASSERT_GE(askedInAll, 3) << "when it opens, and for parameters and frames";
   // Wherever it is by then: what goes on behind errors does not go on behind this.
   for (int last = 1; last <= askedInAll; ++last) {
     int asked = 0;
-    EXPECT_THROW((void)modVantrel::CheckTrial(file, {}, [&] { return ++asked == last; }),
-                 modVantrel::Stopped);
+    const StoppableWork work([&] { return ++asked == last; });
+    EXPECT_THROW((void)modVantrel::CheckTrial(file), WorkStopped);
     EXPECT_EQ(asked, last);
   }
 }
