@@ -35,7 +35,7 @@ void Hide(sample::TrialBuilder& walk, std::size_t point, std::int32_t from, std:
 sample::TrialBuilder GapWalk() {
   sample::TrialBuilder walk = sample::SampleWalk();
   Hide(walk, 1, 70, 79);                             // the left toe
-  Hide(walk, kLeftModel + kKneeAngles, 90, 104);     // within a stride
+  Hide(walk, kLeftModel + kKneeAngles, 89, 104);     // within a stride
   Hide(walk, kLeftModel + kHipMoment, 183, 183);     // where an instant falls on the frame
   Hide(walk, kRightModel + kAnkleAngles, 239, 239);  // beside such a frame
   Hide(walk, kRightModel + kAnkleMoment, 1, 104);    // in front of all strides
