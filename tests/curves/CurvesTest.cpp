@@ -205,6 +205,23 @@ TEST_F(CurvesTest, WhereNoFileHasAnyOfTheLabelsNothingIsWritten) {
   EXPECT_THAT(Names(), ElementsAre("walk.c3d"));
 }
 
+TEST_F(CurvesTest, VariablesThatScoresLackAreNamed) {
+  std::string rows = "label,component,percent,mean,sd,n,unit\n";
+  for (int percent = 0; percent <= 100; percent += 2) {
+    rows += "KneeAngles,x," + std::to_string(percent) + ",30,5,20,deg\n";
+  }
+  const ToolResult run =
+      RunCurvesInside({"--page", "scores", "--page", "scores", "--normal", GivenText("n.csv", rows),
+                       "--output", In("a.json"), Given("walk.c3d")});
+  EXPECT_EQ(run.Status, 1);
+  const auto lines = tests::LinesOf(run.Err);
+  ASSERT_THAT(lines, SizeIs(17)) << "all but the left knee";
+  EXPECT_EQ(lines[0], "vantrel-curves: scores: Left PelvisAngles.x: no curve in the trials");
+  EXPECT_EQ(lines[5], "vantrel-curves: scores: Left HipAngles.z: no curve in the trials");
+  EXPECT_EQ(lines[6], "vantrel-curves: scores: Left AnkleAngles.x: no curve in the trials");
+  EXPECT_THAT(PageNames(Text("a.json")), ElementsAre("scores"));
+}
+
 TEST_F(CurvesTest, NormalsThatCannotBeReadEndTheCommand) {
   const std::string normals = GivenText("n.csv", "a,b\n1,2\n");
   const ToolResult run =
