@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <cmath>
+#include <regex>
 
 #include <gtest/gtest.h>
 
@@ -138,6 +139,32 @@ TEST(KineticPanels, NormalsOfMomentsAreShownInNewtonMetres) {
   EXPECT_DOUBLE_EQ(moment.Normal->Mean[0].value(), 0.5);
   EXPECT_DOUBLE_EQ(moment.Normal->Deviation[0].value(), 0.1);
   EXPECT_EQ(PanelOf(page, "Hip power").Normal->Mean[0], 2);
+}
+
+// The mean of a normal hip moment of 500, in the unit that a table of norms names.
+double NormalMomentIn(const std::string& unit) {
+  const std::string rows = std::regex_replace(tests::CsvOfCurve("HipMoment", "x", 500, 100),
+                                              std::regex(",deg\n"), "," + unit + "\n");
+  const auto normals = visit::NormalsOfText(std::string(tests::kNormsHeading) + rows);
+  pages::PageChoice choice;
+  choice.Normals = std::get_if<visit::Normals>(&normals);
+  EXPECT_NE(choice.Normals, nullptr);
+  return PanelOfTrials({ValuesOf(HipsAt(1, 1))}, "Hip sagittal moment", choice)
+      .Normal.value()
+      .Mean[7]
+      .value();
+}
+
+TEST(KineticPanels, NormalsAreInTheUnitOfTheirTable) {
+  EXPECT_DOUBLE_EQ(NormalMomentIn("Nmm"), 0.5);
+  EXPECT_DOUBLE_EQ(NormalMomentIn("N.mm/kg"), 0.5);
+  EXPECT_DOUBLE_EQ(NormalMomentIn("Nm/kg"), 500);
+  EXPECT_DOUBLE_EQ(NormalMomentIn("N.m"), 500);
+}
+
+TEST(KineticPanels, NormalsWithoutAUnitOfMomentsAreNewtonMillimetres) {
+  EXPECT_DOUBLE_EQ(NormalMomentIn(""), 0.5);
+  EXPECT_DOUBLE_EQ(NormalMomentIn("mm"), 0.5) << "of a trial that does not list its moments";
 }
 
 }  // namespace
