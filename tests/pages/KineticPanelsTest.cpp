@@ -101,6 +101,16 @@ TEST(KineticPanels, UnitIsThatOfTheFirstFileWithTheLabel) {
   EXPECT_EQ(panel.Unit, "W");
 }
 
+TEST(KineticPanels, EmptyPanelHasTheUnitThatTheFirstFileNames) {
+  const auto trials = {ValuesOf(HipsAt(71000, 90, "Nmm", "W")), ValuesOf(HipsAt(1, 1))};
+  const CurvePanel moment = PanelOfTrials(trials, "Ankle sagittal moment");
+  EXPECT_TRUE(moment.Curves.empty());
+  EXPECT_EQ(moment.Unit, "N·m");
+  EXPECT_EQ(PanelOfTrials(trials, "Ankle power").Unit, "W");
+  EXPECT_EQ(PanelOfTrials({ValuesOf(HipsAt(1, 1))}, "Ankle power").Unit, "W/kg");
+  EXPECT_EQ(PanelOfTrials({}, "Ankle power").Unit, "W/kg");
+}
+
 TEST(KineticPanels, FilesInUnitsOfDifferentSizeAreShownInOne) {
   const CurvePanel panel = PanelOfTrials(
       {ValuesOf(HipsAt(1000, 0, "Nmm/kg"), "a.c3d"), ValuesOf(HipsAt(2, 0, "Nm/kg"), "b.c3d")},
