@@ -10,8 +10,8 @@
 namespace curves {
 
 // What the pages of the request need of its files, one after the other; only that is kept. A file
-// that fails is named on the error stream and left out whole, and so is a label that none of them
-// has; either makes `status` kSomeFailed.
+// that fails is named on the error stream and left out whole; a label that a file lacks is named
+// with it. Either makes `status` kSomeFailed.
 std::vector<pages::TrialValues> ReadTrials(const Request& request, const console::Streams& streams,
                                            int& status);
 

@@ -56,6 +56,21 @@ bool Write(const Request& request, const pages::PageSet& set, const Streams& str
   return taken.empty() && failure.empty();
 }
 
+// Names what the scores of the pages lack; false where it is something.
+bool HasAllScores(const pages::PageSet& set, const Streams& streams) {
+  bool hasAll = true;
+  for (const pages::Page& page : set.Pages) {
+    if (page.Kind != pages::PageKind::Scores) continue;
+    for (const pages::Panel& panel : page.Panels) {
+      for (const std::string& lacking : std::get<pages::BarPanel>(panel).Notes) {
+        ComplainOf(std::string(InfoOf(page.Kind).Name), lacking, streams);
+        hasAll = false;
+      }
+    }
+  }
+  return hasAll;
+}
+
 int DrawCurves(const Request& request, const Streams& streams) {
   std::variant<visit::Normals, std::string> normals;
   if (!request.NormalFile.empty()) normals = visit::ReadNormalFile(request.NormalFile);
@@ -70,6 +85,7 @@ int DrawCurves(const Request& request, const Streams& streams) {
       PagesOf(request, trials,
               request.NormalFile.empty() ? nullptr : std::get_if<visit::Normals>(&normals));
   if (set.Pages.empty()) return status;
+  if (!HasAllScores(set, streams)) status = console::kSomeFailed;
   return Write(request, set, streams) ? status : console::kSomeFailed;
 }
 

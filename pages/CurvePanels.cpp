@@ -66,11 +66,11 @@ void AddMean(CurvePanel& panel, GaitSide side, const visit::CurveStatistics& poo
                          deviation ? PointsOf(*deviation, factor) : MeanPoints{}});
 }
 
-std::optional<NormalCurveBand> NormalOf(const visit::Normals* normals, const PanelLayout& layout) {
+std::optional<NormalCurveBand> NormalOf(const visit::Normals* normals, const PanelLayout& layout,
+                                        const ShownUnit& unit) {
   const auto* curve = normals == nullptr ? nullptr : normals->Curve(layout.Label, layout.Part);
   if (curve == nullptr) return std::nullopt;
-  // Normals come in the units that UnitShownFor takes for missing ones.
-  const double factor = UnitShownFor(layout.Kind, "").Factor;
+  const double factor = FactorOfNormals(layout.Kind, curve->Unit, unit);
   return NormalCurveBand{PointsOf(curve->Mean, factor), PointsOf(curve->Deviation, factor)};
 }
 
@@ -108,7 +108,7 @@ CurvePanel PanelOf(const ShownTrials& shown, const PanelLayout& layout) {
     AddMean(panel, side, shown.Pooled(side, layout.Label), unit.Factor);
   }
   panel.Ordinate = OrdinateOf(layout, unit, panel.Curves);
-  panel.Normal = NormalOf(shown.Normals(), layout);
+  panel.Normal = NormalOf(shown.Normals(), layout, unit);
   panel.Notes = NotesOf(shown, layout);
   return panel;
 }

@@ -46,17 +46,27 @@ std::string SpellingOf(std::string_view unit) {
   return spelling;
 }
 
+// Null where there is none.
+const KnownUnit* FindUnit(PointKind kind, std::string_view spelling) {
+  const auto* const known = std::ranges::find_if(kKnownUnits, [&](const KnownUnit& candidate) {
+    return candidate.Kind == kind && candidate.Spelling == spelling;
+  });
+  return known == kKnownUnits.end() ? nullptr : known;
+}
+
 }  // namespace
 
 ShownUnit UnitShownFor(PointKind kind, std::string_view unit) {
   const std::string spelling = SpellingOf(unit);
-  const auto* const known = std::ranges::find_if(kKnownUnits, [&](const KnownUnit& candidate) {
-    return candidate.Kind == kind && candidate.Spelling == spelling;
-  });
-  if (known != kKnownUnits.end()) {
+  if (const KnownUnit* known = FindUnit(kind, spelling)) {
     return {std::string(known->Shown), known->Factor, known->FitsLayout};
   }
   return {std::string(unit), 1, kind == PointKind::Angle && !spelling.starts_with("RAD")};
+}
+
+double FactorOfNormals(PointKind kind, std::string_view unit, const ShownUnit& shown) {
+  if (const KnownUnit* known = FindUnit(kind, SpellingOf(unit))) return known->Factor;
+  return unit == shown.Text ? shown.Factor : UnitShownFor(kind, "").Factor;
 }
 
 }  // namespace pages

@@ -22,4 +22,9 @@ struct ShownUnit {
 // blanks of a unit do not count, nor does case. Any other unit is shown as the file spells it.
 ShownUnit UnitShownFor(modVantrel::PointKind kind, std::string_view unit);
 
+// The factor for normals of the unit that their file names, on a panel in `shown`. A unit that is
+// neither known for the kind nor that of the panel, as norms have it of trials that do not list
+// their moments, counts as missing.
+double FactorOfNormals(modVantrel::PointKind kind, std::string_view unit, const ShownUnit& shown);
+
 }  // namespace pages

@@ -75,7 +75,9 @@ ShownUnit ShownTrials::UnitOf(modVantrel::PointKind kind, std::string_view label
       if (found != nullptr) return UnitShownFor(kind, found->Unit);
     }
   }
-  return UnitShownFor(kind, "");
+  if (trials_.empty()) return UnitShownFor(kind, "");
+  const auto unit = trials_.front().Units.find(kind);
+  return UnitShownFor(kind, unit == trials_.front().Units.end() ? "" : unit->second);
 }
 
 std::vector<LabelCurves> ShownTrials::CurvesOf(std::size_t file) const {

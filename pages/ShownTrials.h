@@ -42,7 +42,8 @@ class ShownTrials {
   // The label of that side in a file, as names are compared; null where there is none.
   const TrialLabel* FindLabel(std::size_t file, modVantrel::GaitSide side,
                               std::string_view label) const;
-  // The unit in which a label, without its letter, is shown: that of the first trial that has it.
+  // The unit in which a label, without its letter, is shown: that of the first trial that has it;
+  // of a label that none has, that of the kind in the first trial.
   ShownUnit UnitOf(modVantrel::PointKind kind, std::string_view label) const;
 
   // The curves of each trial that enter means, label by label as the trial has them.

@@ -92,6 +92,8 @@ class LabelReader {
  public:
   explicit LabelReader(const FileState& state) : state_(state), kinds_(state) {}
 
+  const PointKinds& Kinds() const { return kinds_; }
+
   // The label's curves over the strides of its side. `kind` names its unit, also where the file
   // does not list it.
   TrialLabel OverStrides(std::int32_t point, PointKind kind) const {
@@ -159,6 +161,14 @@ std::vector<TrialLabel> ReadLabels(const FileState& state, const LabelReader& re
   return read;
 }
 
+std::map<PointKind, std::string> UnitsOf(const PointKinds& kinds) {
+  std::map<PointKind, std::string> units;
+  for (const PointKind kind : {PointKind::Angle, PointKind::Moment, PointKind::Power}) {
+    units.emplace(kind, kinds.UnitOf(kind));
+  }
+  return units;
+}
+
 std::vector<LabelOverTime> ReadOverTime(const FileState& state, const LabelReader& reader,
                                         const std::vector<std::string>& labels) {
   std::vector<LabelOverTime> read;
@@ -189,6 +199,7 @@ TrialValues ReadTrialValues(const FileState& state, const TrialReading& reading)
   values.Strides = StridesOf(state, Asks(reading, PageKind::Measures));
   const LabelReader reader(state);
   values.Labels = ReadLabels(state, reader, LabelsOf(reading));
+  values.Units = UnitsOf(reader.Kinds());
   values.OverTime = ReadOverTime(state, reader, reading.LabelsOverTime);
   values.Events = EventsOf(state.GaitEvents);
   return values;

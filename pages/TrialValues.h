@@ -5,6 +5,7 @@
 #include <bitset>
 #include <cstddef>
 #include <cstdint>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -62,6 +63,8 @@ struct TrialValues {
   double Rate = 0;
   std::vector<TrialStride> Strides;
   std::vector<TrialLabel> Labels;  // those of the pages that were asked for, as far as it has them
+  std::map<modVantrel::PointKind, std::string>
+      Units;  // of angles, moments and powers; may be empty
   std::vector<LabelOverTime> OverTime;
   std::vector<modVantrel::EventRecord> Events;
 };

@@ -38,21 +38,9 @@ std::vector<std::optional<QPointF>> PointsOf(const Values& values, const Axes& a
   return points;
 }
 
-// A line with its gaps; what stands alone between two of them is a dot.
 template <typename Values>
 void DrawLine(QPainter& painter, const Values& values, const Axes& axes, const QPen& pen) {
-  for (const QPolygonF& piece : PiecesOf(PointsOf(values, axes))) {
-    for (const QPolygonF& cut : CutLine(piece, axes.Plot)) {
-      const bool isDot = cut.size() == 1;
-      painter.setPen(isDot ? QPen(Qt::NoPen) : pen);
-      painter.setBrush(isDot ? QBrush(pen.color()) : QBrush(Qt::NoBrush));
-      if (isDot) {
-        painter.drawEllipse(cut[0], pen.widthF(), pen.widthF());
-      } else {
-        painter.drawPolyline(cut);
-      }
-    }
-  }
+  DrawLineWithGaps(painter, PointsOf(values, axes), axes.Plot, pen);
 }
 
 // One standard deviation around a mean, wherever there are both.

@@ -7,6 +7,7 @@
 #include <QPainter>
 
 #include "plot/Colours.h"
+#include "plot/Cutting.h"
 #include "plot/Numbers.h"
 #include "plot/Texts.h"
 
@@ -128,6 +129,22 @@ void DrawGrid(const Canvas& canvas, const Axes& axes) {
   }
   canvas.Painter.setPen(PlainLine(colours.Zero, kZeroWidth));
   if (axes.FromY < 0 && axes.ToY > 0) across(0);
+}
+
+void DrawLineWithGaps(QPainter& painter, const std::vector<std::optional<QPointF>>& points,
+                      const QRectF& plot, const QPen& pen) {
+  for (const QPolygonF& piece : PiecesOf(points)) {
+    for (const QPolygonF& cut : CutLine(piece, plot)) {
+      const bool isDot = cut.size() == 1;
+      painter.setPen(isDot ? QPen(Qt::NoPen) : pen);
+      painter.setBrush(isDot ? QBrush(pen.color()) : QBrush(Qt::NoBrush));
+      if (isDot) {
+        painter.drawEllipse(cut[0], pen.widthF(), pen.widthF());
+      } else {
+        painter.drawPolyline(cut);
+      }
+    }
+  }
 }
 
 void DrawFrame(const Canvas& canvas, const PanelPlace& place, const Axes& axes,

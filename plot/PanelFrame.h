@@ -12,9 +12,10 @@
 #include "plot/PageDrawing.h"
 
 class QPainter;
+class QPen;
 
-// What all panels have in common: title, frame, grid, numbers and notes. Lengths are tenths of a
-// point.
+// What all panels have in common: title, frame, grid, numbers, lines and notes. Lengths are tenths
+// of a point.
 namespace plot {
 
 struct Canvas {
@@ -55,6 +56,11 @@ struct FrameTexts {
 
 // Behind the curves: ticks, and the line of zero.
 void DrawGrid(const Canvas& canvas, const Axes& axes);
+
+// A line through `points`, cut at the plot, that leaves out those that are missing; what stands
+// alone between two of them is a dot.
+void DrawLineWithGaps(QPainter& painter, const std::vector<std::optional<QPointF>>& points,
+                      const QRectF& plot, const QPen& pen);
 
 // In front of the curves: frame and texts.
 void DrawFrame(const Canvas& canvas, const PanelPlace& place, const Axes& axes,

@@ -5,7 +5,6 @@
 #include <QPainter>
 
 #include "plot/Colours.h"
-#include "plot/Cutting.h"
 #include "plot/Numbers.h"
 #include "plot/PanelDrawing.h"
 
@@ -42,11 +41,8 @@ void DrawTrace(const Canvas& canvas, const pages::TracePanel& panel,
   for (std::size_t i = 0; i < points.size(); ++i) {
     if (panel.Values[i]) points[i] = axes.At(double{times[i]}, double{*panel.Values[i]});
   }
-  canvas.Painter.setBrush(Qt::NoBrush);
-  canvas.Painter.setPen(PlainLine(ColoursOf(canvas.Style).Ink, kTraceWidth));
-  for (const QPolygonF& piece : PiecesOf(points)) {
-    for (const QPolygonF& cut : CutLine(piece, axes.Plot)) canvas.Painter.drawPolyline(cut);
-  }
+  DrawLineWithGaps(canvas.Painter, points, axes.Plot,
+                   PlainLine(ColoursOf(canvas.Style).Ink, kTraceWidth));
 }
 
 }  // namespace

@@ -127,6 +127,7 @@ class TableReader {
     NormalCurve& curve = normals_.CurveAt(label, component);
     curve.Mean[i] = NumberIn(record, kMean).value_or(kMissing);
     curve.Deviation[i] = NotNegativeIn(record, kDeviation).value_or(kMissing);
+    curve.Unit = record.Fields[kUnit];
   }
 
   Normals normals_;

@@ -17,6 +17,7 @@ namespace visit {
 struct NormalCurve {
   CurveValues Mean{};
   CurveValues Deviation{};
+  std::string Unit;  // as the file spells it; empty where it names none
 };
 
 // A measure as it is among controls.
@@ -28,8 +29,8 @@ struct NormalMeasure {
 // What is normal, as a file of normals tells it.
 class Normals {
  public:
-  // The curve of a label without its letter, "KneeAngles", in the unit of trials (moments in Nmm);
-  // case does not count. Null where there is none.
+  // The curve of a label without its letter, "KneeAngles", in its unit, or where that is empty in
+  // the unit of trials (moments in Nmm); case does not count. Null where there is none.
   const NormalCurve* Curve(std::string_view label, modVantrel::Component component) const;
   // By its name in tables, "cadence". Null where there is none.
   const NormalMeasure* Measure(std::string_view name) const;

@@ -168,13 +168,34 @@ TEST_F(CurvesTest, WhereNoFileCanBeReadNothingIsWritten) {
   EXPECT_THAT(Names(), ElementsAre("no.c3d"));
 }
 
-TEST_F(CurvesTest, LabelThatNoFileHasIsNamed) {
+TEST_F(CurvesTest, LabelThatAFileLacksIsNamed) {
   const std::string walk = Given("walk.c3d");
   const ToolResult run = RunCurvesInside(
       {"--page", "label", "--label", "ltoe", "--label", "LXYZ", "--output", In("a.json"), walk});
   EXPECT_EQ(run.Status, 1);
-  EXPECT_EQ(run.Err, "vantrel-curves: no file has a point 'LXYZ'\n");
+  EXPECT_EQ(run.Err, "vantrel-curves: " + walk + ": point label not found: LXYZ\n");
   EXPECT_THAT(PageNames(Text("a.json")), ElementsAre("label"));
+}
+
+TEST_F(CurvesTest, FileThatLacksALabelIsNamedThoughAnotherHasIt) {
+  const std::string walk = Given("walk.c3d");
+  const std::string bare = Given("bare.c3d", tests::WholeFrameTrial().Build());
+  const ToolResult run = RunCurvesInside(
+      {"--page", "label", "--label", "LKneeAngles", "--output", In("a.json"), walk, bare});
+  EXPECT_EQ(run.Status, 1);
+  EXPECT_EQ(run.Err, "vantrel-curves: " + bare + ": point label not found: LKneeAngles\n");
+  EXPECT_THAT(PageNames(Text("a.json")), ElementsAre("label"));
+}
+
+TEST_F(CurvesTest, LabelIsNamedBeforeTheErrorThatLeavesItsFileOut) {
+  sample::Trial cut = Walk().Build();
+  const std::string bad = Given("bad.c3d", cut.TruncateTo(cut.Size() - 600));
+  const ToolResult run = RunCurvesInside({"--page", "label", "--page", "kinematics", "--label",
+                                          "LXYZ", "--output", In("a.json"), bad});
+  EXPECT_EQ(run.Status, 1);
+  EXPECT_EQ(run.Err, "vantrel-curves: " + bad + ": point label not found: LXYZ\n" +
+                         "vantrel-curves: " + bad +
+                         ": Run-time error '62': Input past end of file\n");
 }
 
 TEST_F(CurvesTest, WhereNoFileHasAnyOfTheLabelsNothingIsWritten) {
@@ -182,6 +203,23 @@ TEST_F(CurvesTest, WhereNoFileHasAnyOfTheLabelsNothingIsWritten) {
       {"--page", "label", "--label", "LXYZ", "--output", In("a.pdf"), Given("walk.c3d")});
   EXPECT_EQ(run.Status, 1);
   EXPECT_THAT(Names(), ElementsAre("walk.c3d"));
+}
+
+TEST_F(CurvesTest, VariablesThatScoresLackAreNamed) {
+  std::string rows = "label,component,percent,mean,sd,n,unit\n";
+  for (int percent = 0; percent <= 100; percent += 2) {
+    rows += "KneeAngles,x," + std::to_string(percent) + ",30,5,20,deg\n";
+  }
+  const ToolResult run =
+      RunCurvesInside({"--page", "scores", "--page", "scores", "--normal", GivenText("n.csv", rows),
+                       "--output", In("a.json"), Given("walk.c3d")});
+  EXPECT_EQ(run.Status, 1);
+  const auto lines = tests::LinesOf(run.Err);
+  ASSERT_THAT(lines, SizeIs(17)) << "all but the left knee";
+  EXPECT_EQ(lines[0], "vantrel-curves: scores: Left PelvisAngles.x: no curve in the trials");
+  EXPECT_EQ(lines[5], "vantrel-curves: scores: Left HipAngles.z: no curve in the trials");
+  EXPECT_EQ(lines[6], "vantrel-curves: scores: Left AnkleAngles.x: no curve in the trials");
+  EXPECT_THAT(PageNames(Text("a.json")), ElementsAre("scores"));
 }
 
 TEST_F(CurvesTest, NormalsThatCannotBeReadEndTheCommand) {

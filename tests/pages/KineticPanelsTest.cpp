@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <cmath>
+#include <regex>
 
 #include <gtest/gtest.h>
 
@@ -100,6 +101,16 @@ TEST(KineticPanels, UnitIsThatOfTheFirstFileWithTheLabel) {
   EXPECT_EQ(panel.Unit, "W");
 }
 
+TEST(KineticPanels, EmptyPanelHasTheUnitThatTheFirstFileNames) {
+  const auto trials = {ValuesOf(HipsAt(71000, 90, "Nmm", "W")), ValuesOf(HipsAt(1, 1))};
+  const CurvePanel moment = PanelOfTrials(trials, "Ankle sagittal moment");
+  EXPECT_TRUE(moment.Curves.empty());
+  EXPECT_EQ(moment.Unit, "N·m");
+  EXPECT_EQ(PanelOfTrials(trials, "Ankle power").Unit, "W");
+  EXPECT_EQ(PanelOfTrials({ValuesOf(HipsAt(1, 1))}, "Ankle power").Unit, "W/kg");
+  EXPECT_EQ(PanelOfTrials({}, "Ankle power").Unit, "W/kg");
+}
+
 TEST(KineticPanels, FilesInUnitsOfDifferentSizeAreShownInOne) {
   const CurvePanel panel = PanelOfTrials(
       {ValuesOf(HipsAt(1000, 0, "Nmm/kg"), "a.c3d"), ValuesOf(HipsAt(2, 0, "Nm/kg"), "b.c3d")},
@@ -138,6 +149,32 @@ TEST(KineticPanels, NormalsOfMomentsAreShownInNewtonMetres) {
   EXPECT_DOUBLE_EQ(moment.Normal->Mean[0].value(), 0.5);
   EXPECT_DOUBLE_EQ(moment.Normal->Deviation[0].value(), 0.1);
   EXPECT_EQ(PanelOf(page, "Hip power").Normal->Mean[0], 2);
+}
+
+// The mean of a normal hip moment of 500, in the unit that a table of norms names.
+double NormalMomentIn(const std::string& unit) {
+  const std::string rows = std::regex_replace(tests::CsvOfCurve("HipMoment", "x", 500, 100),
+                                              std::regex(",deg\n"), "," + unit + "\n");
+  const auto normals = visit::NormalsOfText(std::string(tests::kNormsHeading) + rows);
+  pages::PageChoice choice;
+  choice.Normals = std::get_if<visit::Normals>(&normals);
+  EXPECT_NE(choice.Normals, nullptr);
+  return PanelOfTrials({ValuesOf(HipsAt(1, 1))}, "Hip sagittal moment", choice)
+      .Normal.value()
+      .Mean[7]
+      .value();
+}
+
+TEST(KineticPanels, NormalsAreInTheUnitOfTheirTable) {
+  EXPECT_DOUBLE_EQ(NormalMomentIn("Nmm"), 0.5);
+  EXPECT_DOUBLE_EQ(NormalMomentIn("N.mm/kg"), 0.5);
+  EXPECT_DOUBLE_EQ(NormalMomentIn("Nm/kg"), 500);
+  EXPECT_DOUBLE_EQ(NormalMomentIn("N.m"), 500);
+}
+
+TEST(KineticPanels, NormalsWithoutAUnitOfMomentsAreNewtonMillimetres) {
+  EXPECT_DOUBLE_EQ(NormalMomentIn(""), 0.5);
+  EXPECT_DOUBLE_EQ(NormalMomentIn("mm"), 0.5) << "of a trial that does not list its moments";
 }
 
 }  // namespace

@@ -42,4 +42,15 @@ TEST(PageUnits, OtherUnitsAreShownAsTheFileSpellsThem) {
   EXPECT_EQ(UnitShownFor(PointKind::Power, "mW"), (ShownUnit{"mW", 1, false}));
 }
 
+TEST(PageUnits, NormalsTakeTheFactorOfTheirOwnUnit) {
+  const ShownUnit perKilogram = UnitShownFor(PointKind::Moment, "");
+  const ShownUnit foot = UnitShownFor(PointKind::Moment, "lbf.ft");
+  EXPECT_EQ(FactorOfNormals(PointKind::Moment, "Nmm", perKilogram), 0.001);
+  EXPECT_EQ(FactorOfNormals(PointKind::Moment, "Nm/kg", perKilogram), 1);
+  EXPECT_EQ(FactorOfNormals(PointKind::Moment, "lbf.ft", foot), 1);
+  EXPECT_EQ(FactorOfNormals(PointKind::Moment, "", foot), 0.001);
+  EXPECT_EQ(FactorOfNormals(PointKind::Moment, "mm", perKilogram), 0.001);
+  EXPECT_EQ(FactorOfNormals(PointKind::Angle, "degrees", UnitShownFor(PointKind::Angle, "")), 1);
+}
+
 }  // namespace

@@ -63,6 +63,7 @@ TEST(NormalCsv, CurvesAndMeasuresAreRead) {
   EXPECT_EQ(knee->Mean[0], 12.5);
   EXPECT_EQ(knee->Mean[50], 12.5);
   EXPECT_EQ(knee->Deviation[50], 2);
+  EXPECT_EQ(knee->Unit, "deg");
   EXPECT_EQ(normals.Curve("KneeAngles", Component::Y), nullptr);
   ASSERT_NE(normals.Measure("walking_speed"), nullptr);
   EXPECT_EQ(normals.Measure("walking_speed")->Mean, 1.25);
