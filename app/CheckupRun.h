@@ -32,6 +32,7 @@ class CheckupRun : public QObject {
 
   // Checks that file in place of the one before.
   void Start(const std::string& file);
+  bool IsBusy() const { return background_.IsBusy(); }
   void Stop() { background_.Cancel(); }
 
  signals:

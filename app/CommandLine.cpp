@@ -13,6 +13,12 @@ std::string JoinedArguments(int argc, const char* const* argv) {
   return line;
 }
 
+StartLine ReadStartLine(int argc, const char* const* argv) {
+  const bool showsCurves = argc > 1 && std::string_view(argv[1]) == "--curves";
+  const int taken = showsCurves ? 1 : 0;
+  return {showsCurves, JoinedArguments(argc - taken, argv + taken)};
+}
+
 std::string FileNameOnCommandLine(std::string_view commandLine) {
   if (commandLine.starts_with('"')) commandLine.remove_prefix(1);
   if (commandLine.ends_with('"')) commandLine.remove_suffix(1);

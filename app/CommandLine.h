@@ -10,6 +10,14 @@ namespace app {
 // blanks that nobody quoted is whole again.
 std::string JoinedArguments(int argc, const char* const* argv);
 
+// How the program is started.
+struct StartLine {
+  bool ShowsCurves = false;  // "--curves" came first
+  std::string File;          // the JoinedArguments behind it
+};
+
+StartLine ReadStartLine(int argc, const char* const* argv);
+
 // The file that a command line names: without the double quote it starts with and the one it ends
 // with, all else as it stands.
 std::string FileNameOnCommandLine(std::string_view commandLine);

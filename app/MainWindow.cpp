@@ -71,6 +71,8 @@ void MainWindow::RememberState() {
   remembered_.SetDesktopCopy(form_->DesktopCheckBox().isChecked());
 }
 
+bool MainWindow::IsChecking() const { return status_->IsChecking(); }
+
 void MainWindow::closeEvent(QCloseEvent* event) {
   if (isVisible()) RememberState();
   status_->Stop();

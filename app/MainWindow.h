@@ -41,6 +41,8 @@ class MainWindow : public QMainWindow {
   void Load(const std::string& commandLine);
 
   frmVantrel& Form() { return *form_; }
+  // Whether the checkup of the open trial is still to come.
+  bool IsChecking() const;
 
   // The window of curves; null as long as nobody has asked for a page.
   CurvesWindow* Curves() { return curves_.get(); }

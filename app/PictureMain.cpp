@@ -74,6 +74,7 @@ bool SavePicture(const std::vector<std::string>& arguments) {
                                          : QStringLiteral("cmdShowSingleValueStrikeOffMeasures"))
       ->click();
   if (form.IsUnloaded()) return false;
+  while (window.IsChecking()) QApplication::processEvents(QEventLoop::WaitForMoreEvents);
   QApplication::processEvents();
   return window.grab().save(app::ToQString(arguments[1]), "PNG");
 }

@@ -45,15 +45,16 @@ int RunVantrel(int argc, char** argv, const Deployment& deployment) {
   QApplication::setDesktopFileName(QStringLiteral("vantrel"));
   QApplication::setWindowIcon(ProgramIcon());
   // The toolkit has taken its own options off the command line; the rest is the path of a file.
-  const std::string commandLine = JoinedArguments(argc, argv);
+  const StartLine start = ReadStartLine(argc, argv);
   if (!Form_Initialize(deployment)) return 0;
 
   modVantrel::FileState state;
   MainWindow window(state);
-  window.Load(commandLine);
+  window.Load(start.File);
   if (window.Form().IsUnloaded()) return window.Form().ExitStatus();
   QObject::connect(&window.Form(), &frmVantrel::Unloaded, &QApplication::exit);
   window.show();
+  if (start.ShowsCurves) emit window.CurvesAsked(pages::PageKind::Kinematics);
   return QApplication::exec();
 }
 

@@ -25,6 +25,8 @@ class TrialStatus : public QObject {
 
   // Another file is open, or the same one is to be checked anew; empty: none.
   void FileChanged(const std::string& file);
+  // Whether a checkup runs, or will once the file is shown.
+  bool IsChecking() const { return untilShown_.isActive() || checkup_.IsBusy(); }
   // No checkup runs on.
   void Stop();
 

@@ -73,6 +73,12 @@ TEST_F(Program, OpensTheFileOnItsCommandLine) {
   EXPECT_EQ(Start(walk).Output, "pane: \ncaption: " + walk + "\n");
 }
 
+TEST_F(Program, ShowsTheCurvesOfTheFileWhereTheyAreAskedFor) {
+  const std::string walk = Write(sample::SampleWalk().Build(), "walk.c3d");
+  EXPECT_EQ(Start({QStringLiteral("--curves"), QString::fromStdString(walk)}).Output,
+            "pane: \ncaption: " + walk + "\ncurves: shown\n");
+}
+
 TEST_F(Program, TakesSeveralArgumentsForOnePathWithBlanks) {
   const std::string walk = Write(sample::SampleWalk().Build(), "left foot walk.c3d");
   EXPECT_EQ(Start(QString::fromStdString(walk).split(u' ')).Output,

@@ -34,6 +34,16 @@ TEST(CommandLine, WithoutArgumentsIsEmpty) {
   EXPECT_EQ(app::JoinedArguments(1, argv.data()), "");
 }
 
+TEST(CommandLine, CurvesAreAskedForInFrontOfThePathOnly) {
+  const std::array asked = {"vantrel", "--curves", "left", "walk.c3d"};
+  const app::StartLine line = app::ReadStartLine(4, asked.data());
+  EXPECT_TRUE(line.ShowsCurves);
+  EXPECT_EQ(line.File, "left walk.c3d");
+  const std::array behind = {"vantrel", "walk.c3d", "--curves"};
+  EXPECT_FALSE(app::ReadStartLine(3, behind.data()).ShowsCurves);
+  EXPECT_EQ(app::ReadStartLine(3, behind.data()).File, "walk.c3d --curves");
+}
+
 TEST(CommandLine, APathInDoubleQuotesLosesThem) {
   EXPECT_EQ(app::FileNameOnCommandLine("\"/data/a b.c3d\""), "/data/a b.c3d");
 }

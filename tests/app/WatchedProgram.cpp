@@ -53,6 +53,10 @@ void ActAsUser() {
   if (clicks.isEmpty()) {
     Report("pane", QString::fromStdString(pane->Text()));
     Report("caption", pane->window()->windowTitle());
+    for (const QWidget* window : QApplication::topLevelWidgets()) {
+      const bool areCurves = window->objectName() == QStringLiteral("CurvesWindow");
+      if (areCurves && window->isVisible()) Report("curves", QStringLiteral("shown"));
+    }
     pane->window()->close();
     return;
   }
