@@ -20,7 +20,7 @@ using modAllPurpose::RuntimeError;
 
 namespace {
 
-constexpr std::string_view kLineEnds = "\r\n";
+constexpr std::string_view kEndsOfLines = "\r\n";
 constexpr std::string_view kLittleMark = "\xFF\xFE";
 constexpr std::string_view kBigMark = "\xFE\xFF";
 constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
@@ -89,7 +89,7 @@ struct Line {
 template <typename Take>
 bool FindLine(std::string_view text, Take take) {
   for (std::size_t start = 0; start < text.size();) {
-    const std::size_t end = std::min(text.find_first_of(kLineEnds, start), text.size());
+    const std::size_t end = std::min(text.find_first_of(kEndsOfLines, start), text.size());
     if (take(Line{start, text.substr(start, end - start)})) return true;
     start = end + 1;
   }
@@ -98,7 +98,7 @@ bool FindLine(std::string_view text, Take take) {
 
 // The end of the lines of a text: that of its first one.
 std::string LineEndOf(std::string_view text) {
-  const auto end = text.find_first_of(kLineEnds);
+  const auto end = text.find_first_of(kEndsOfLines);
   if (end == std::string_view::npos) return "\n";
   return std::string(text.substr(end, text.substr(end).starts_with("\r\n") ? 2 : 1));
 }
@@ -114,7 +114,7 @@ void AddEntry(EditedFile& file, const SubjectEntry& entry) {
     if (isSection) place = line.Start;
     return isSection;
   });
-  const bool continues = place > 0 && kLineEnds.find(text[place - 1]) == std::string_view::npos;
+  const bool continues = place > 0 && kEndsOfLines.find(text[place - 1]) == std::string_view::npos;
   file.Replace(place, 0, (continues ? lineEnd : "") + entry.Key + " = " + entry.Value + lineEnd);
 }
 
