@@ -65,7 +65,7 @@ void CurvesWindow::ChooseTrials() {
   if (dialog.exec() != QDialog::Accepted) return;
   std::vector<std::string> paths;
   for (const QString& path : dialog.selectedFiles()) {
-    paths.push_back(QFile::encodeName(path).toStdString());
+    paths.push_back(path.toStdString());
   }
   AddTrials(paths);
 }
