@@ -51,6 +51,10 @@ void ProposeNames(QLineEdit& box, const std::function<QStringList()>& names) {
     completer->setCompletionPrefix(text);
     WidenPopup(*completer, box);
   });
+  // A box that the program empties has another trial, to which the proposals do not belong.
+  QObject::connect(&box, &QLineEdit::textChanged, completer, [completer](const QString& text) {
+    if (text.isEmpty()) completer->popup()->hide();
+  });
 }
 
 }  // namespace app

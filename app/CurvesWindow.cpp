@@ -44,8 +44,8 @@ void CurvesWindow::showEvent(QShowEvent* event) {
 
 void CurvesWindow::closeEvent(QCloseEvent* event) {
   // What was not read by now is read when the window is opened again.
-  background_->Cancel();
-  underWay_.clear();
+  EndReading();
+  visit_.GiveUp({}, {});
   Remember();
   event->accept();
 }

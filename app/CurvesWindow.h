@@ -42,6 +42,9 @@ class CurvesWindow : public QMainWindow {
 
   // The form's trial has become that of `path`; empty for none. It is read once the window shows.
   void Follow(const std::string& path);
+  // The form has opened that file, maybe once more: what was read of the same one before is read
+  // anew.
+  void FollowOpened(const std::string& path);
   // Adds trials behind the others; those that are there already count once.
   void AddTrials(const std::vector<std::string>& paths);
 
@@ -91,6 +94,7 @@ class CurvesWindow : public QMainWindow {
   void RemoveSelected();
   void RemoveTrial(std::size_t trial);
   void ReadAgain();
+  void EndReading();
   void SaveThisPage();
   void SaveAllPages();
   void Print();
@@ -138,6 +142,7 @@ class CurvesWindow : public QMainWindow {
   CurvesMemory memory_;
   visit::Normals normals_;
   std::set<std::string> underWay_;
+  std::set<std::string> beingChecked_;
   std::optional<plot::Shown> chosen_;
   std::string label_;
   std::size_t labelPage_ = 0;

@@ -76,7 +76,7 @@ std::string CurvesWindow::AskForFile(const QString& title, const QString& name,
     return chosen.endsWith(endingOf(filter), Qt::CaseInsensitive);
   });
   if (!hasEnding) chosen += endingOf(dialog.selectedNameFilter());
-  return QFile::encodeName(chosen).toStdString();
+  return chosen.toStdString();
 }
 
 bool CurvesWindow::MayReplace(const std::string& file) {

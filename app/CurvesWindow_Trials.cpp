@@ -36,6 +36,18 @@ void CurvesWindow::Follow(const std::string& path) {
   UpdateAll();
 }
 
+void CurvesWindow::FollowOpened(const std::string& path) {
+  const auto& trials = visit_.Trials();
+  if (trials.empty() || !trials.front().IsTheForms || trials.front().Path != path) {
+    Follow(path);
+    return;
+  }
+  EndReading();
+  visit_.Forget(path);
+  ReadWhatIsNew();
+  UpdateAll();
+}
+
 void CurvesWindow::AddTrials(const std::vector<std::string>& paths) {
   for (const std::string& path : paths) visit_.Add(path);
   ReadWhatIsNew();
@@ -53,7 +65,7 @@ void CurvesWindow::ChooseTrials() {
   if (dialog.exec() != QDialog::Accepted) return;
   std::vector<std::string> paths;
   for (const QString& path : dialog.selectedFiles()) {
-    paths.push_back(QFile::encodeName(path).toStdString());
+    paths.push_back(path.toStdString());
   }
   AddTrials(paths);
 }
@@ -69,16 +81,22 @@ void CurvesWindow::RemoveTrial(std::size_t trial) {
 }
 
 void CurvesWindow::ReadAgain() {
-  background_->Cancel();
-  underWay_.clear();
+  EndReading();
   visit_.Forget();
   ReadWhatIsNew();
   UpdateAll();
 }
 
+void CurvesWindow::EndReading() {
+  background_->Cancel();
+  underWay_.clear();
+  beingChecked_.clear();
+}
+
 void CurvesWindow::ReadWhatIsNew() {
   if (!isVisible()) return;
   for (const VisitTrial& trial : visit_.Trials()) {
+    if (trial.Values && !trial.IsChecked) Check(trial.Path);
     if (trial.Values || !trial.Failure.empty() || !underWay_.insert(trial.Path).second) continue;
     background_->Run([this, path = trial.Path, label = label_]() -> Background::Then {
       auto read = std::make_shared<ReadTrial>(ReadTrialForPages(path, label));
@@ -94,12 +112,15 @@ void CurvesWindow::ReadWhatIsNew() {
 }
 
 void CurvesWindow::Check(const std::string& path) {
+  if (!beingChecked_.insert(path).second) return;
   background_->Run([this, path]() -> Background::Then {
     auto findings = std::make_shared<std::vector<modVantrel::Finding>>(reports::CheckFile(path));
     return [this, path, findings] {
+      beingChecked_.erase(path);
       VisitTrial* trial = visit_.Find(path);
       if (trial == nullptr) return;
       trial->Findings = std::move(*findings);
+      trial->IsChecked = true;
       list_->Show(visit_);
     };
   });
@@ -128,9 +149,8 @@ void CurvesWindow::ReadLabels() {
 }
 
 void CurvesWindow::Cancel() {
-  background_->Cancel();
   visit_.GiveUp(underWay_, tr("Reading was cancelled.").toStdString());
-  underWay_.clear();
+  EndReading();
   UpdateAll();
 }
 

@@ -18,7 +18,7 @@ void MainWindow::ShowCurves(pages::PageKind page) {
 }
 
 void MainWindow::FollowWithCurves() {
-  if (curves_) curves_->Follow(form_->OpenFileSpec());
+  if (curves_) curves_->FollowOpened(form_->OpenFileSpec());
 }
 
 void MainWindow::CompareCurves() {

@@ -72,7 +72,8 @@ void MainWindow::FileWasOpened() {
 }
 
 void MainWindow::LookAround() {
-  const std::string path = form_->OpenFileSpec();
+  // A damaged trial is no end of the folder.
+  const std::string& path = form_->AskedFileSpec();
   neighbours_ = path.empty() ? Neighbours() : NeighboursOf(path);
   EnableActions();
 }

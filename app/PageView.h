@@ -52,7 +52,7 @@ class PageView : public QWidget {
   QPixmap Picture();
 
   QSize sizeHint() const override { return {900, 640}; }
-  QSize minimumSizeHint() const override { return {320, 240}; }
+  QSize minimumSizeHint() const override { return {160, 90}; }
 
  signals:
   // What is pointed at now; empty for nothing.

@@ -17,6 +17,14 @@ bool IsOneFile(const std::string& path, const std::string& other) {
          modAllPurpose::IsSameFile(path, other);
 }
 
+// As if it had not been read yet; what is left out stays so.
+void ForgetReading(VisitTrial& trial) {
+  trial.Values.reset();
+  trial.Failure.clear();
+  trial.Findings.clear();
+  trial.IsChecked = false;
+}
+
 VisitTrial TrialAt(const std::string& path) {
   VisitTrial trial;
   trial.Path = path;
@@ -40,6 +48,7 @@ bool Visit::Add(const std::string& path) {
   const bool isNew = known == trials_.end();
   VisitTrial& trial = isNew ? trials_.emplace_back(TrialAt(path)) : *known;
   trial.WasAdded = true;
+  if (!trial.Failure.empty()) ForgetReading(trial);
   return isNew;
 }
 
@@ -57,6 +66,7 @@ bool Visit::Follow(const std::string& path) {
   if (added != trials_.end()) {
     trial = std::move(*added);
     trials_.erase(added);
+    if (!trial.Failure.empty()) ForgetReading(trial);
   }
   trial.IsTheForms = true;
   trials_.insert(trials_.begin(), std::move(trial));
@@ -103,11 +113,11 @@ void Visit::GiveUp(const std::set<std::string>& paths, const std::string& reason
 }
 
 void Visit::Forget() {
-  for (VisitTrial& trial : trials_) {
-    trial.Values.reset();
-    trial.Failure.clear();
-    trial.Findings.clear();
-  }
+  for (VisitTrial& trial : trials_) ForgetReading(trial);
+}
+
+void Visit::Forget(const std::string& path) {
+  if (VisitTrial* trial = Find(path)) ForgetReading(*trial);
 }
 
 void Visit::SetLeftOut(std::size_t trial, const StrideOfTrial& stride, bool isLeftOut) {

@@ -25,6 +25,7 @@ struct VisitTrial {
   std::vector<std::string> Labels;
   std::string OverTime;  // the label of which Values have the whole trial, or are to get it
   std::vector<modVantrel::Finding> Findings;
+  bool IsChecked = false;  // Findings are what the checkup found
   std::set<StrideOfTrial> LeftOut;
 };
 
@@ -36,10 +37,11 @@ class Visit {
   // The trial of that path, as Add was given it; null where there is none.
   VisitTrial* Find(const std::string& path);
 
-  // Puts a trial behind the others. False where it is there already, and nothing changes.
+  // Puts a trial behind the others. False where it is there already; one that could not be read
+  // counts as not read yet, and nothing else changes.
   bool Add(const std::string& path);
   // Puts the form's trial first, in place of the one that it had before unless that was added too.
-  // Empty for none. False where nothing changes.
+  // Empty for none. False where nothing changes. It is to be read anew where it could not be read.
   bool Follow(const std::string& path);
   void Remove(std::size_t trial);
 
@@ -52,8 +54,9 @@ class Visit {
   std::vector<std::string> AskFor(const std::string& label);
   // Says `reason` of the trials of these paths, and of all that wait for a label asks anew.
   void GiveUp(const std::set<std::string>& paths, const std::string& reason);
-  // As if none of the trials had been read yet.
+  // As if none of the trials, or not that one, had been read yet.
   void Forget();
+  void Forget(const std::string& path);
 
   void SetShown(std::size_t trial, bool isShown) { trials_.at(trial).IsShown = isShown; }
   void SetLeftOut(std::size_t trial, const StrideOfTrial& stride, bool isLeftOut);

@@ -51,6 +51,9 @@ class frmVantrel : public QWidget {
   bool IsUnloaded() const { return exitStatus_.has_value(); }
   int ExitStatus() const { return exitStatus_.value_or(0); }
 
+  // The path that was to be opened last, whether or not it could be; empty for none.
+  const std::string& AskedFileSpec() const { return DialogFileSpec_; }
+
   // The path of the open file; empty where none is open.
   std::string OpenFileSpec() const { return fileOpen_ ? DialogFileSpec_ : std::string(); }
 

@@ -230,6 +230,31 @@ TEST_F(CurvesOfWindow, ThePageThatIsAskedForShowsTheOpenTrialAndFollowsTheForm) 
   EXPECT_EQ(curves.TrialsOfVisit().Trials().size(), 1U);
 }
 
+TEST_F(CurvesOfWindow, ATrialThatIsReloadedIsReadAnewAndKeepsWhatIsLeftOut) {
+  const std::string path = Write(tests::RisingKnees(0).Build(), "one.c3d");
+  Start(path);
+  Choose("mnuCurves_kinematics");
+  app::CurvesWindow& curves = *window_.Curves();
+  const auto isRead = [&] { return curves.View().HasPage() && !curves.IsBusy(); };
+  ASSERT_TRUE(QTest::qWaitFor(isRead));
+  curves.View().Lift(pages::StrideId{0, modVantrel::GaitSide::Left, 1});
+  QTest::keyClick(&curves.View(), Qt::Key_Space);
+  Write(tests::RisingKnees(20).Build(), "one.c3d");
+  window_.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
+  PressKeysOf(Entry("mnuReload"));
+  ASSERT_TRUE(QTest::qWaitFor(isRead));
+  const pages::PageSet& set = curves.View().Set();
+  const auto& panels = set.Pages.at(0).Panels;
+  const auto knee = std::ranges::find_if(panels, [](const pages::Panel& panel) {
+    return std::get<pages::CurvePanel>(panel).Title == "Knee flexion";
+  });
+  ASSERT_NE(knee, panels.end());
+  const auto& mean = std::get<pages::CurvePanel>(*knee).Means.at(0);
+  EXPECT_NEAR(mean.Mean.at(0).value_or(0), tests::KneeAt(20, 2.0), 1e-3);
+  EXPECT_EQ(set.LeftStrides, 2);
+}
+
 TEST_F(CurvesOfWindow, ClosingTheProgramClosesItWhileItReads) {
   Start(Write(tests::RisingKnees(0).Build(), "one.c3d"));
   Choose("mnuCurves_kinematics");

@@ -265,6 +265,53 @@ TEST_F(Curves, ClosedInTheMiddleOfAReadingItEndsAndReadsTheRestWhenItIsOpenedAga
   EXPECT_EQ(CurvesOf("Knee flexion").Curves.size(), 5U);
 }
 
+TEST_F(Curves, ALabelWhoseReadingEndedWithTheWindowIsReadWhenItIsOpenedAgain) {
+  Start();
+  DropAll({Write(LongTrial(), "long.c3d")});
+  window_->ShowPage(PageKind::Label);
+  WaitUntilRead();
+  auto* labels = Part<QComboBox>("cboLabel");
+  labels->setCurrentText(QStringLiteral("P19"));
+  QTest::keyClick(labels, Qt::Key_Return);
+  ASSERT_TRUE(window_->IsBusy());
+  window_->close();
+  Start(PageKind::Label);
+  ASSERT_TRUE(View().HasPage());
+  ASSERT_TRUE(View().Page().OverTime);
+  EXPECT_EQ(View().Page().OverTime->Label, "P19");
+}
+
+TEST_F(Curves, ACheckupThatEndedWithTheWindowIsMadeWhenItIsOpenedAgain) {
+  Start();
+  window_->AddTrials({ThreeTrials()[0]});
+  ASSERT_TRUE(QTest::qWaitFor([this] { return Trial(0)->childCount() > 0; }));
+  ASSERT_TRUE(window_->IsBusy()) << "it is read and about to be checked";
+  window_->close();
+  Start();
+  EXPECT_EQ(Trial(0)->text(1), QStringLiteral("See checkup"));
+}
+
+TEST_F(Curves, ATrialThatCouldNotBeReadIsTriedOnceMoreWhenItIsDroppedAgain) {
+  Start();
+  const std::string path = (folder_ / "late.c3d").string();
+  DropAll({path});
+  EXPECT_FALSE(Trial(0)->text(1).isEmpty());
+  Write(tests::RisingKnees(0), "late.c3d");
+  DropAll({path});
+  EXPECT_EQ(List()->topLevelItemCount(), 1);
+  EXPECT_EQ(CurvesOf("Knee flexion").Curves.size(), 5U);
+}
+
+TEST_F(Curves, ATrialThatCouldNotBeReadIsTriedOnceMoreWhenTheFormOpensIt) {
+  Start();
+  const std::string path = (folder_ / "late.c3d").string();
+  DropAll({path});
+  Write(tests::RisingKnees(0), "late.c3d");
+  window_->Follow(path);
+  WaitUntilRead();
+  EXPECT_EQ(CurvesOf("Knee flexion").Curves.size(), 5U);
+}
+
 TEST_F(Curves, DestroyedInTheMiddleOfAReadingItWaitsForNothing) {
   Start();
   const std::string path = Write(LongTrial(), "long.c3d");

@@ -198,6 +198,14 @@ TEST_F(WindowCompletion, AButtonThatIsClickedWhileProposalsAreShownIsPressed) {
   EXPECT_FALSE(Popup("txtPointLabel")->isVisible());
 }
 
+TEST_F(WindowCompletion, ProposalsOfAnEarlierTrialGoWhenAnotherOneIsOpened) {
+  Start(WriteSampleWalk());
+  Type("txtPointLabel", QStringLiteral("L"));
+  ASSERT_TRUE(Popup("txtPointLabel")->isVisible());
+  form_.OpenFile(Write(SampleTrial(), "other.c3d"));
+  EXPECT_FALSE(Popup("txtPointLabel")->isVisible());
+}
+
 TEST_F(WindowCompletion, EnterThatIsHeldDownRunsOnce) {
   Start(WriteSampleWalk());
   Type("txtPointLabel", QStringLiteral("LTOE"));

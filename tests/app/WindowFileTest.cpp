@@ -2,6 +2,8 @@
 
 // The menu of files: the trials of the folder, those opened last, and opening once more.
 
+#include <fstream>
+
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QTest>
@@ -115,6 +117,26 @@ TEST_F(WindowFile, ReloadOfAFileThatIsGoneTellsItAndLeavesNothingOpen) {
             QStringLiteral("File open error while attempting to open C3D file."));
   EXPECT_EQ(Box("txtGroup")->text(), QString());
   EXPECT_FALSE(Entry("mnuReload")->isEnabled());
+}
+
+TEST_F(WindowFile, ADamagedTrialDoesNotEndTheWayThroughTheFolder) {
+  const std::string first = Write(SampleTrial(), "a.c3d");
+  std::ofstream(folder_ / "b.c3d") << "no trial";
+  const std::string third = Write(SampleTrial(), "c.c3d");
+  Start(first);
+  Settle();
+  boxes_.ExpectAndClick(QStringLiteral("OK"));
+  Choose("mnuNextTrial");
+  EXPECT_EQ(form_.OpenFileSpec(), "");
+  Settle();
+  Choose("mnuNextTrial");
+  EXPECT_EQ(form_.OpenFileSpec(), third);
+  Settle();
+  boxes_.ExpectAndClick(QStringLiteral("OK"));
+  Choose("mnuPreviousTrial");
+  Settle();
+  Choose("mnuPreviousTrial");
+  EXPECT_EQ(form_.OpenFileSpec(), first);
 }
 
 TEST_F(WindowFile, RecentTrialsAreListedTheLastOneFirstAndTenAtMost) {
