@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QLabel>
@@ -22,7 +23,8 @@ namespace app {
 
 using pages::PageKind;
 
-CurvesWindow::CurvesWindow() : chosen_(memory_.Curves()), background_(new Background(this)) {
+CurvesWindow::CurvesWindow()
+    : chosen_(memory_.Curves()), writing_(new Background(this)), background_(new Background(this)) {
   setObjectName(QStringLiteral("CurvesWindow"));
   setAcceptDrops(true);
   LayOut();
@@ -34,7 +36,10 @@ CurvesWindow::CurvesWindow() : chosen_(memory_.Curves()), background_(new Backgr
 }
 
 // What is under way speaks to the window: it ends before the window's parts do.
-CurvesWindow::~CurvesWindow() { background_->Cancel(); }
+CurvesWindow::~CurvesWindow() {
+  background_->Cancel();
+  writing_->Cancel();
+}
 
 void CurvesWindow::showEvent(QShowEvent* event) {
   QMainWindow::showEvent(event);
@@ -43,6 +48,8 @@ void CurvesWindow::showEvent(QShowEvent* event) {
 }
 
 void CurvesWindow::closeEvent(QCloseEvent* event) {
+  // A file that is asked for is written, unless that is cancelled.
+  while (writing_->IsBusy()) QApplication::processEvents(QEventLoop::WaitForMoreEvents);
   // What was not read by now is read when the window is opened again.
   EndReading();
   visit_.GiveUp({}, {});

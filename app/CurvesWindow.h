@@ -63,7 +63,7 @@ class CurvesWindow : public QMainWindow {
 
   const Visit& TrialsOfVisit() const { return visit_; }
   PageView& View() { return *view_; }
-  bool IsBusy() const { return background_->IsBusy(); }
+  bool IsBusy() const { return background_->IsBusy() || writing_->IsBusy(); }
 
  protected:
   void showEvent(QShowEvent* event) override;
@@ -162,6 +162,7 @@ class CurvesWindow : public QMainWindow {
   QAction* landscape_ = nullptr;
   std::vector<QAction*> needPages_;
   QAction* leaveOut_ = nullptr;
+  Background* writing_;     // of files, which a new reading does not end
   Background* background_;  // the last one to be made: its work ends first
 };
 

@@ -112,7 +112,7 @@ void CurvesWindow::SavePages(const std::string& file, const std::vector<PageKind
   const auto kind = plot::FileKindOf(file);
   if (!kind || visit_.OnPages().empty()) return;
   const auto set = std::make_shared<const pages::PageSet>(visit_.Pages(Choice(kinds)));
-  background_->Run(
+  writing_->Run(
       [this, set, file, kind = *kind, sheet = Sheet(), style = PaperStyle()]() -> Background::Then {
         auto files =
             std::make_shared<std::vector<WholeFile>>(plot::FilesOf(file, *set, kind, sheet, style));
@@ -198,8 +198,8 @@ void CurvesWindow::ChooseExport(std::string_view report) {
 
 void CurvesWindow::ExportTable(std::string_view report, const std::string& file) {
   const bool isJson = ToQString(file).endsWith(QStringLiteral(".json"), Qt::CaseInsensitive);
-  background_->Run([this, report, file, form = isJson ? TableForm::Json : TableForm::Csv,
-                    trials = visit_.ToTabulate()]() -> Background::Then {
+  writing_->Run([this, report, file, form = isJson ? TableForm::Json : TableForm::Csv,
+                 trials = visit_.ToTabulate()]() -> Background::Then {
     auto made = std::make_shared<MadeTable>(TableOfVisit(report, form, trials));
     return [this, made, file] {
       WriteOrTell({{file, std::move(made->Text)}});

@@ -245,7 +245,9 @@ void CurvesWindow::ConnectParts() {
             UpdateAll();
           });
   connect(list_, &VisitList::RemoveAsked, this, &CurvesWindow::RemoveTrial);
-  connect(background_, &Background::Changed, this, &CurvesWindow::ShowProgress);
+  for (const Background* work : {writing_, background_}) {
+    connect(work, &Background::Changed, this, &CurvesWindow::ShowProgress);
+  }
   connect(progressTimer_, &QTimer::timeout, this, &CurvesWindow::ShowProgress);
   connect(cancel_, &QToolButton::clicked, this, &CurvesWindow::Cancel);
 }

@@ -149,13 +149,17 @@ void CurvesWindow::ReadLabels() {
 }
 
 void CurvesWindow::Cancel() {
+  if (writing_->IsBusy()) {
+    writing_->Cancel();
+    Say(tr("Nothing was written."));
+  }
   visit_.GiveUp(underWay_, tr("Reading was cancelled.").toStdString());
   EndReading();
   UpdateAll();
 }
 
 void CurvesWindow::ShowProgress() {
-  const bool isBusy = background_->IsBusy();
+  const bool isBusy = IsBusy();
   const bool isFirst = isBusy && !progressTimer_->isActive() && !progress_->isVisible();
   if (isFirst && sender() != progressTimer_) {
     progressTimer_->start(kUntilProgress);
@@ -163,8 +167,8 @@ void CurvesWindow::ShowProgress() {
   }
   if (!isBusy) progressTimer_->stop();
   if (progressTimer_->isActive()) return;
-  progress_->setRange(0, static_cast<int>(background_->Started()));
-  progress_->setValue(static_cast<int>(background_->Done()));
+  progress_->setRange(0, static_cast<int>(background_->Started() + writing_->Started()));
+  progress_->setValue(static_cast<int>(background_->Done() + writing_->Done()));
   progress_->setVisible(isBusy);
   cancel_->setVisible(isBusy);
 }

@@ -76,6 +76,19 @@ TEST_F(CurvesFiles, APageIsSavedInEachOfTheThreeForms) {
   EXPECT_EQ(NamesIn(folder_ / "out").size(), 3U);
 }
 
+TEST_F(CurvesFiles, AreWrittenAlsoWhereTheWindowReadsAnewOrIsClosedMeanwhile) {
+  StartWithThree();
+  TypeName(folder_ / "out/read anew.pdf");
+  Entry("mnuSavePage")->trigger();
+  Entry("mnuReadAgain")->trigger();
+  WaitUntilRead();
+  EXPECT_TRUE(ReadWholeFile(folder_ / "out/read anew.pdf").starts_with("%PDF-"));
+  TypeName(folder_ / "out/closed.pdf");
+  Entry("mnuSavePage")->trigger();
+  window_->close();
+  EXPECT_TRUE(ReadWholeFile(folder_ / "out/closed.pdf").starts_with("%PDF-"));
+}
+
 TEST_F(CurvesFiles, AllPagesAreSavedAndThoseWithNothingToShowAreNot) {
   StartWithThree();
   TypeName(folder_ / "out/all.png");
