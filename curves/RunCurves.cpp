@@ -2,9 +2,11 @@
 
 #include "curves/RunCurves.h"
 
+#include <algorithm>
 #include <utility>
 #include <variant>
 
+#include "c3d/FileKey.h"
 #include "console/Complaint.h"
 #include "console/OpenTrial.h"
 #include "console/RunCommandLine.h"
@@ -13,6 +15,7 @@
 #include "curves/Toolkit.h"
 #include "pages/MakePages.h"
 #include "pages/PageJson.h"
+#include "support/FileSystem.h"
 #include "visit/NormalFile.h"
 
 namespace curves {
@@ -44,12 +47,31 @@ std::vector<WholeFile> FilesOf(const Request& request, const pages::PageSet& set
   return plot::FilesOf(request.Output, set, *request.OutputKind, request.Sheet, style);
 }
 
+// Why the file `path` is not replaced even where others may be, empty where it may: what the pages
+// are made of, also what could not be read of it, and any recording are not to be had again.
+std::string WhyKept(const std::string& path, const Request& request, const pages::PageSet& set) {
+  const auto isPath = [&path](const std::string& other) {
+    return modAllPurpose::IsSameFile(path, other);
+  };
+  if (isPath(request.NormalFile) || std::ranges::any_of(request.Files, isPath) ||
+      std::ranges::any_of(set.Files, isPath, &pages::PageFile::Name)) {
+    return path + " is read for the pages and stays as it is";
+  }
+  const bool isTrial = modAllPurpose::IsRegularFile(path) && modVantrel::BeginsLikeC3dFile(path);
+  return isTrial ? path + " is a C3D file and stays as it is" : "";
+}
+
 // Writes the files; false where one is complained of.
 bool Write(const Request& request, const pages::PageSet& set, const Streams& streams) {
   std::string taken;
-  const std::string failure = console::MessageOf([&] {
-    taken = plot::WriteFiles(FilesOf(request, set), request.Overwrite);
-    return std::string();
+  const std::string failure = console::MessageOf([&]() -> std::string {
+    const std::vector<WholeFile> files = FilesOf(request, set);
+    for (const WholeFile& file : files) {
+      std::string kept = request.Overwrite ? WhyKept(file.Path, request, set) : "";
+      if (!kept.empty()) return kept;
+    }
+    taken = plot::WriteFiles(files, request.Overwrite);
+    return {};
   });
   if (!taken.empty()) Complain(streams, taken + " exists already (--overwrite replaces it)");
   if (!failure.empty()) ComplainOf(request.Output, failure, streams);

@@ -28,7 +28,8 @@ QPen LineOfEvent(const pages::TimedEvent& event, const DrawingStyle& style) {
 
 void DrawEvents(const Canvas& canvas, const pages::Trace& trace, const Axes& axes) {
   for (const pages::TimedEvent& event : trace.Events) {
-    if (event.Time < axes.FromX || event.Time > axes.ToX) continue;
+    const bool isSeen = event.Time >= axes.FromX && event.Time <= axes.ToX;
+    if (!isSeen) continue;  // nor is one whose time is no number
     const double x = axes.At(event.Time, axes.FromY).x();
     canvas.Painter.setPen(LineOfEvent(event, canvas.Style));
     canvas.Painter.drawLine(QPointF(x, axes.Plot.top()), {x, axes.Plot.bottom()});

@@ -57,6 +57,15 @@ class CurvesTest : public testing::Test {
   tests::TemporaryFolder folder_;
 };
 
+// Normal values of the knee's flexion alone.
+std::string NormalKnee() {
+  std::string rows = "label,component,percent,mean,sd,n,unit\n";
+  for (int percent = 0; percent <= 100; percent += 2) {
+    rows += "KneeAngles,x," + std::to_string(percent) + ",30,5,20,deg\n";
+  }
+  return rows;
+}
+
 std::vector<std::string> PageNames(const std::string& json) {
   rapidjson::Document document;
   document.Parse(json.c_str());
@@ -141,6 +150,43 @@ TEST_F(CurvesTest, ExistingFileStaysUnlessItMayBeReplaced) {
   EXPECT_THAT(Text("a.json"), StartsWith("{"));
 }
 
+TEST_F(CurvesTest, WhatThePagesAreMadeOfIsNeverReplaced) {
+  const std::string walk = Given("walk.c3d");
+  const std::string likeAPage = Given("a-1.svg");
+  const std::string notRead = GivenText("bad.json", "no trial");
+  const std::string norms = GivenText("norms.json", NormalKnee());
+  std::filesystem::create_symlink("walk.c3d", In("link.json"));
+  std::filesystem::create_hard_link(In("walk.c3d"), In("twin.json"));
+  const auto before = Text("walk.c3d");
+  for (const std::vector<std::string>& words : {
+           std::vector<std::string>{In("link.json"), walk},
+           std::vector<std::string>{In("twin.json"), walk},
+           std::vector<std::string>{In("a.svg"), walk, likeAPage},
+           std::vector<std::string>{notRead, walk, notRead},
+           std::vector<std::string>{norms, walk, "--normal", norms},
+       }) {
+    std::vector<std::string> line = {"--overwrite", "--output"};
+    line.insert(line.end(), words.begin(), words.end());
+    const ToolResult run = RunCurvesInside(line);
+    EXPECT_EQ(run.Status, 1) << words[0];
+    EXPECT_THAT(run.Err, HasSubstr("is read for the pages and stays as it is"));
+  }
+  EXPECT_EQ(Text("walk.c3d"), before);
+  EXPECT_EQ(Text("a-1.svg"), before);
+  EXPECT_EQ(Text("bad.json"), "no trial");
+  EXPECT_THAT(Text("norms.json"), StartsWith("label,"));
+  EXPECT_THAT(Names(), testing::Not(testing::Contains("a-2.svg")));
+}
+
+TEST_F(CurvesTest, TrialThatNobodyNamedIsNotReplacedEither) {
+  const std::string other = Given("other.json");
+  const auto before = Text("other.json");
+  const ToolResult run = RunCurvesInside({"--overwrite", "--output", other, Given("walk.c3d")});
+  EXPECT_EQ(run.Status, 1);
+  EXPECT_THAT(run.Err, HasSubstr("is a C3D file and stays as it is"));
+  EXPECT_EQ(Text("other.json"), before);
+}
+
 TEST_F(CurvesTest, WhereOnePictureExistsNoneIsWritten) {
   GivenText("a-2.svg", "mine");
   const ToolResult run = RunCurvesInside({"--output", In("a.svg"), Given("walk.c3d")});
@@ -206,13 +252,9 @@ TEST_F(CurvesTest, WhereNoFileHasAnyOfTheLabelsNothingIsWritten) {
 }
 
 TEST_F(CurvesTest, VariablesThatScoresLackAreNamed) {
-  std::string rows = "label,component,percent,mean,sd,n,unit\n";
-  for (int percent = 0; percent <= 100; percent += 2) {
-    rows += "KneeAngles,x," + std::to_string(percent) + ",30,5,20,deg\n";
-  }
-  const ToolResult run =
-      RunCurvesInside({"--page", "scores", "--page", "scores", "--normal", GivenText("n.csv", rows),
-                       "--output", In("a.json"), Given("walk.c3d")});
+  const ToolResult run = RunCurvesInside({"--page", "scores", "--page", "scores", "--normal",
+                                          GivenText("n.csv", NormalKnee()), "--output",
+                                          In("a.json"), Given("walk.c3d")});
   EXPECT_EQ(run.Status, 1);
   const auto lines = tests::LinesOf(run.Err);
   ASSERT_THAT(lines, SizeIs(17)) << "all but the left knee";

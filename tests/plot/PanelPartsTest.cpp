@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 
 #include <QPainter>
 #include <gmock/gmock.h>
@@ -243,6 +245,17 @@ TEST(PanelParts, EventsOfATrialStandAtTheirTimes) {
   ASSERT_THAT(off, SizeIs(1));
   EXPECT_EQ(strike[0].Pen.style(), Qt::SolidLine);
   EXPECT_EQ(off[0].Pen.style(), Qt::CustomDashLine);
+}
+
+TEST(PanelParts, EventWithoutATimeIsNowhere) {
+  auto set = SamplePages({});
+  set.Pages.at(3).OverTime->Events = {{modVantrel::GaitSide::Left,
+                                       modVantrel::GaitEventType::FootStrike,
+                                       std::numeric_limits<double>::quiet_NaN()}};
+  const Drawn panel = PanelOf(set, 3, 2);
+  for (const auto& line : panel.Parts.Lines) {
+    for (const QPointF& point : line.Points) EXPECT_TRUE(std::isfinite(point.x()));
+  }
 }
 
 }  // namespace
