@@ -5,8 +5,8 @@
 
 namespace modVantrel {
 
-// Whether the reader would take the regular file `path` for a C3D file by its first bytes. Errors
-// as RandomAccessFile.
+// Whether the reader would take the regular file `path` for a C3D file by its first bytes, and it
+// is not a PDF or PNG, which have the same second byte. Errors as RandomAccessFile.
 bool BeginsLikeC3dFile(const std::string& path);
 
 }  // namespace modVantrel

@@ -118,6 +118,20 @@ TEST_F(CurvesFiles, AnExistingFileIsReplacedOnlyAfterAsking) {
   EXPECT_TRUE(boxes_.Seen()[0].Text.contains(QString::fromStdString(file.string())));
 }
 
+TEST_F(CurvesFiles, APageOfEachFormIsReplacedByAnotherOfIt) {
+  StartWithThree();
+  for (const char* name : {"page.pdf", "page.svg", "page.png"}) {
+    const std::string file = (folder_ / "out" / name).string();
+    window_->SavePages(file, {PageKind::Kinematics});
+    WaitUntilRead();
+    const std::string first = ReadWholeFile(file);
+    boxes_.ExpectAndClick(QStringLiteral("Replace"));
+    window_->SavePages(file, {PageKind::Kinetics});
+    WaitUntilRead();
+    EXPECT_NE(ReadWholeFile(file), first) << name;
+  }
+}
+
 TEST_F(CurvesFiles, AFolderThatIsMissingIsToldAndNothingIsLeft) {
   StartWithThree();
   boxes_.ExpectAndClick(QStringLiteral("OK"));
