@@ -187,6 +187,17 @@ TEST_F(CurvesTest, TrialThatNobodyNamedIsNotReplacedEither) {
   EXPECT_EQ(Text("other.json"), before);
 }
 
+TEST_F(CurvesTest, PagesOfEveryKindMayBeReplaced) {
+  const std::string walk = Given("walk.c3d");
+  for (const char* name : {"a.pdf", "a.svg", "a.png", "a.json"}) {
+    for (int i = 0; i < 2; ++i) {
+      const ToolResult run =
+          RunCurvesInside({"--overwrite", "--page", "measures", "--output", In(name), walk});
+      EXPECT_EQ(run.Status, 0) << run.Err;
+    }
+  }
+}
+
 TEST_F(CurvesTest, WhereOnePictureExistsNoneIsWritten) {
   GivenText("a-2.svg", "mine");
   const ToolResult run = RunCurvesInside({"--output", In("a.svg"), Given("walk.c3d")});
