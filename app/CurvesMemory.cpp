@@ -2,7 +2,7 @@
 
 #include "app/CurvesMemory.h"
 
-#include <QStandardPaths>
+#include "app/Remembered.h"
 
 namespace app {
 
@@ -18,10 +18,7 @@ const auto kMeans = QStringLiteral("means");
 
 }  // namespace
 
-CurvesMemory::CurvesMemory()
-    : settings_(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-                    QStringLiteral("/vantrel/vantrel.ini"),
-                QSettings::IniFormat) {}
+CurvesMemory::CurvesMemory() : settings_(SettingsFile(), QSettings::IniFormat) {}
 
 QByteArray CurvesMemory::Geometry() const { return settings_.value(kGeometry).toByteArray(); }
 

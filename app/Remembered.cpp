@@ -25,11 +25,6 @@ const auto kFurtherLabels = QStringLiteral("trial/furtherLabels");
 const auto kAnatomicalAxes = QStringLiteral("trial/anatomicalAxes");
 const auto kNormals = QStringLiteral("curves/normals");
 
-QString SettingsFile() {
-  return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-         QStringLiteral("/vantrel/vantrel.ini");
-}
-
 QString Encoded(const std::string& path) {
   return QString::fromLatin1(QByteArray::fromStdString(path).toPercentEncoding("/"));
 }
@@ -39,6 +34,11 @@ std::string Decoded(const QString& path) {
 }
 
 }  // namespace
+
+QString SettingsFile() {
+  return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+         QStringLiteral("/vantrel/vantrel.ini");
+}
 
 Remembered::Remembered() : settings_(SettingsFile(), QSettings::IniFormat) {}
 

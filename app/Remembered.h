@@ -11,6 +11,9 @@
 
 namespace app {
 
+// The file of the program's settings: vantrel/vantrel.ini in the user's config folder.
+QString SettingsFile();
+
 // What the program remembers from one run to the next, in an ini file of the user's config folder.
 // Paths are kept byte for byte, since they need not be UTF-8. A value that is missing or makes no
 // sense counts as never set; a file that cannot be written forgets.
