@@ -63,6 +63,12 @@ pages::PageSet WithoutCurves(pages::PageSet set) {
   return set;
 }
 
+// Forgets the picture of the page and makes it again.
+void Redraw(app::PageView& view, plot::Shown shown) {
+  view.SetStyle(shown, false);
+  view.Picture();
+}
+
 bool Measure(app::Visit visit) {
   pages::PageChoice choice;
   choice.Kinds = {pages::PageKind::Kinematics};
@@ -71,21 +77,12 @@ bool Measure(app::Visit visit) {
   app::PageView view(nullptr);
   view.resize(1280, 800);
   view.SetStyle(plot::Shown::Strides, false);
-  const auto redraw = [&view] {
-    view.SetStyle(plot::Shown::Strides, false);  // forgets the picture
-    view.Picture();
-  };
   view.SetPage(empty, 0, {});
-  const double floor = Milliseconds(redraw);
+  const double floor = Milliseconds([&] { Redraw(view, plot::Shown::Strides); });
   view.SetPage(full, 0, {});
-  const double page = Milliseconds(redraw);
-  view.SetStyle(plot::Shown::Means, false);
-  const double means = Milliseconds([&view] {
-    view.SetStyle(plot::Shown::Means, false);
-    view.Picture();
-  });
-  view.SetStyle(plot::Shown::Strides, false);
-  view.Picture();
+  const double page = Milliseconds([&] { Redraw(view, plot::Shown::Strides); });
+  const double means = Milliseconds([&] { Redraw(view, plot::Shown::Means); });
+  Redraw(view, plot::Shown::Strides);
   bool isLifted = false;
   const double lift = Milliseconds([&] {
     isLifted = !isLifted;
