@@ -2,28 +2,18 @@
 
 #include "app/TrialFolder.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <system_error>
 
+#include "c3d/TrialFiles.h"
 #include "support/FileSystem.h"
 #include "support/RuntimeError.h"
-#include "support/Text.h"
 
 namespace app {
 
 namespace fs = std::filesystem;
 
 namespace {
-
-bool IsTrialName(std::string_view name) {
-  constexpr std::string_view kEnding = ".c3d";
-  const auto isSame = [](char one, char other) {
-    return one == other || (one >= 'A' && one <= 'Z' && one - 'A' + 'a' == other);
-  };
-  return name.size() > kEnding.size() &&
-         std::ranges::equal(name.substr(name.size() - kEnding.size()), kEnding, isSame);
-}
 
 // Takes the name in where it is nearer to `own` than what is known.
 void Consider(const std::string& name, std::string_view own, Neighbours& names) {
@@ -40,7 +30,8 @@ Neighbours NamesBeside(const std::string& path) {
        entry.increment(failed)) {
     const std::string name = modAllPurpose::Utf8Path(entry->path().filename());
     std::error_code ignored;
-    if (IsTrialName(name) && entry->is_regular_file(ignored)) Consider(name, own, names);
+    if (modVantrel::IsTrialName(name) && entry->is_regular_file(ignored))
+      Consider(name, own, names);
   }
   return names;
 }

@@ -31,6 +31,9 @@ constexpr const char* kExitStatus =
     "Exit status: 0 all well, 1 a file failed or its report was refused (the others are still "
     "printed), 2 wrong usage.";
 
+// More would only wait for each other.
+constexpr int kMostJobs = 256;
+
 // The names of the reports, or of those that have a table.
 std::string ReportNames(bool onlyTables = false) {
   std::string names;
@@ -105,6 +108,11 @@ void AddOptions(CLI::App& app, Request& request) {
   app.add_option("--visit-date", request.Gcd.Options.Subject.VisitDate,
                  "Date of the visit (YYYY-MM-DD) for the age in GCD files")
       ->check(Date());
+  app.add_flag_callback(
+      "--recursive", [&request] { request.Folders = console::Folders::Searched; },
+      "Take folders: every .c3d file below, links to folders not followed");
+  app.add_option("--jobs", request.Jobs, "Work on that many files at once; 0: one a processor")
+      ->check(CLI::Range(0, kMostJobs));
   app.add_option("REPORT", request.Report, "What to print, one of the reports below")
       ->required()
       ->check(CLI::Validator(
@@ -114,7 +122,7 @@ void AddOptions(CLI::App& app, Request& request) {
                        : fmt::format("there is no report '{}'; there are: {}", name, ReportNames());
           },
           ""));
-  app.add_option("FILE", request.Files, "C3D files")->required();
+  app.add_option("FILE", request.Files, "C3D files, or folders with --recursive")->required();
   TakeValuesOutOfWords(app);
 }
 

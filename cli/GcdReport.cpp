@@ -3,6 +3,7 @@
 #include "cli/GcdReport.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "gait/GcdCommand.h"
@@ -29,21 +30,25 @@ std::vector<std::string> FileNames(const GcdFiles& files) {
 // Writes the GCD files of one trial of the command.
 class GcdRun {
  public:
-  GcdRun(const FileState& state, GcdRequest& request, modAllPurpose::ReportOutput& output)
+  GcdRun(const FileState& state, const GcdRequest& request, GcdTurn& turn,
+         modAllPurpose::ReportOutput& output)
       : files_(state, request.Options),
         names_(FileNames(files_)),
         trial_(OneSpelling(state.OpenC3dFileSpec)),
         request_(request),
-        output_(output) {}
+        turn_(turn),
+        output_(output) {
+    turn_.Claim(trial_, names_);
+  }
 
   std::string WhyRefused() const {
     if (names_.empty()) return std::string(modVantrel::kNoValidStrides);
     if (std::ranges::all_of(names_,
-                            [this](const auto& name) { return WriterOf(name) == trial_; })) {
+                            [this](const auto& name) { return turn_.WriterOf(name) == trial_; })) {
       return "this trial is named twice, its GCD files are written";
     }
     for (const std::string& name : names_) {
-      const std::string writer = WriterOf(name);
+      const std::string writer = turn_.WriterOf(name);
       if (!writer.empty() && writer != trial_) {
         return name + " was written for another trial of this command";
       }
@@ -52,48 +57,43 @@ class GcdRun {
     return {};
   }
 
-  std::string Write() {
+  TextOutcome Write() {
     if (request_.Overwrite) {
       output_.BeginReport();
       files_.ReplaceAll([this](const std::string& name) { Tell(name); });
     } else {
       const std::string taken = files_.WriteAllWhereFree();
-      if (!taken.empty()) return ExistsAlready(taken);
+      if (!taken.empty()) return {.Refusal = ExistsAlready(taken)};
       output_.BeginReport();
       for (const std::string& name : names_) Tell(name);
     }
     output_.PaneLine("Done.");
-    request_.Remark = files_.AxesRemark();
-    if (!request_.Remark.empty()) request_.Remark += " (--axes anatomical takes 1 and 2)";
-    return {};
+    std::string remark = files_.AxesRemark();
+    if (!remark.empty()) remark += " (--axes anatomical takes 1 and 2)";
+    return {.Remark = std::move(remark)};
   }
 
  private:
-  // The trial of this command that a file was written for; empty for none.
-  std::string WriterOf(const std::string& name) const {
-    const auto found = request_.Written.find(OneSpelling(name));
-    return found == request_.Written.end() ? std::string() : found->second;
-  }
-
   void Tell(const std::string& name) {
-    request_.Written[OneSpelling(name)] = trial_;
+    turn_.Wrote(name);
     output_.PaneLine("Output: " + name);
   }
 
   GcdFiles files_;
   std::vector<std::string> names_;
   std::string trial_;
-  GcdRequest& request_;
+  const GcdRequest& request_;
+  GcdTurn& turn_;
   modAllPurpose::ReportOutput& output_;
 };
 
 }  // namespace
 
-std::string WriteGcdReport(const FileState& state, GcdRequest& request,
+TextOutcome WriteGcdReport(const FileState& state, const GcdRequest& request, GcdTurn& turn,
                            modAllPurpose::ReportOutput& output) {
-  GcdRun run(state, request, output);
+  GcdRun run(state, request, turn, output);
   std::string refusal = run.WhyRefused();
-  return refusal.empty() ? run.Write() : refusal;
+  return refusal.empty() ? run.Write() : TextOutcome{.Refusal = std::move(refusal)};
 }
 
 }  // namespace cli

@@ -16,28 +16,26 @@
 #include "reports/StrideReport.h"
 #include "reports/StrikeOffReport.h"
 #include "reports/SummaryReport.h"
-#include "reports/TrialTables.h"
 
 namespace cli {
 
 using modAllPurpose::ReportOutput;
 using modAllPurpose::ReportResult;
 using modVantrel::FileState;
-using reports::Complaints;
 
 namespace {
 
 // A report that takes the open file alone and never refuses.
 template <void (*Show)(const FileState&, ReportOutput&)>
-std::string Plain(const FileState& state, Request& /*request*/, ReportOutput& output) {
+TextOutcome Plain(const FileState& state, const TextRequest& /*request*/, ReportOutput& output) {
   Show(state, output);
   return {};
 }
 
 // A report that may refuse its input.
 template <ReportResult (*Show)(const FileState&, const Request&, ReportOutput&)>
-std::string Refusing(const FileState& state, Request& request, ReportOutput& output) {
-  return Show(state, request, output).Text();
+TextOutcome Refusing(const FileState& state, const TextRequest& request, ReportOutput& output) {
+  return {.Refusal = Show(state, request.Asked, output).Text()};
 }
 
 // The label of a text report, which takes one.
@@ -68,45 +66,43 @@ ReportResult Normalized(const FileState& state, const Request& request, ReportOu
   return reports::ShowNormalized(state, LabelOf(request), output);
 }
 
-std::string Gcd(const FileState& state, Request& request, ReportOutput& output) {
-  return WriteGcdReport(state, request.Gcd, output);
+TextOutcome Gcd(const FileState& state, const TextRequest& request, ReportOutput& output) {
+  return WriteGcdReport(state, request.Asked.Gcd, request.Turn, output);
 }
 
-Complaints Summary(const FileState& state, std::string_view file,
-                   const reports::TableOptions& /*options*/, reports::TableOutput& table) {
-  reports::SummaryRows(state, file, table);
-  return {};
-}
-
-constexpr std::array kTrialReports = {
-    TrialReport{"header", Plain<reports::ShowHeaderInfo>, reports::HeaderRows},
-    TrialReport{"parameter-header", Plain<reports::ShowParameterHeader>},
-    TrialReport{"groups", Plain<reports::ShowAllGroups>},
-    TrialReport{"parameters", Refusing<Parameters>, reports::ParameterRows},
-    TrialReport{"labels", Plain<reports::ShowPointLabels>, reports::LabelRows},
-    TrialReport{"point", Refusing<Point>, reports::PointRows, reports::MissingPoints},
-    TrialReport{"analog", Refusing<Analog>, reports::AnalogRows, reports::MissingChannels},
-    TrialReport{"events", Plain<reports::ShowStrikeOffEvents>, reports::EventRows},
-    TrialReport{"strides", Plain<reports::ShowStrides>, reports::StrideRows},
-    TrialReport{"measures", Plain<reports::ShowSingleValueStrikeOffMeasures>, reports::MeasureRows},
-    TrialReport{"normalized", Refusing<Normalized>, reports::NormalizedRows,
-                reports::MissingPoints},
-    TrialReport{"summary", Plain<reports::ShowSummary>, Summary},
-    TrialReport{"gcd", Gcd},
-    TrialReport{"tree", Plain<reports::ShowTree>},
+struct TrialText {
+  std::string_view Name;
+  TextFunction Write;
 };
 
-// Each report of the list that is made of one trial has its functions above.
+constexpr std::array kTrialTexts = {
+    TrialText{"header", Plain<reports::ShowHeaderInfo>},
+    TrialText{"parameter-header", Plain<reports::ShowParameterHeader>},
+    TrialText{"groups", Plain<reports::ShowAllGroups>},
+    TrialText{"parameters", Refusing<Parameters>},
+    TrialText{"labels", Plain<reports::ShowPointLabels>},
+    TrialText{"point", Refusing<Point>},
+    TrialText{"analog", Refusing<Analog>},
+    TrialText{"events", Plain<reports::ShowStrikeOffEvents>},
+    TrialText{"strides", Plain<reports::ShowStrides>},
+    TrialText{"measures", Plain<reports::ShowSingleValueStrikeOffMeasures>},
+    TrialText{"normalized", Refusing<Normalized>},
+    TrialText{"summary", Plain<reports::ShowSummary>},
+    TrialText{"gcd", Gcd},
+    TrialText{"tree", Plain<reports::ShowTree>},
+};
+
+// Each report of the list that is made of one trial has its function above.
 constexpr bool IsMadeSomewhere(const reports::ReportInfo& info) {
   return info.Pools || info.ReadsAnyFile ||
-         std::ranges::find(kTrialReports, info.Name, &TrialReport::Name) != kTrialReports.end();
+         std::ranges::find(kTrialTexts, info.Name, &TrialText::Name) != kTrialTexts.end();
 }
 static_assert(std::ranges::all_of(reports::kReports, IsMadeSomewhere));
 
 }  // namespace
 
-const TrialReport& FindTrialReport(std::string_view name) {
-  return *std::ranges::find(kTrialReports, name, &TrialReport::Name);
+TextFunction FindText(std::string_view name) {
+  return std::ranges::find(kTrialTexts, name, &TrialText::Name)->Write;
 }
 
 }  // namespace cli

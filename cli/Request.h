@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "cli/GcdReport.h"
+#include "console/NamedFiles.h"
 #include "reports/TableOptions.h"
 
 namespace cli {
@@ -16,6 +17,8 @@ enum class OutputFormat { Text, Csv, Json };
 struct Request {
   std::string Report;
   std::vector<std::string> Files;
+  console::Folders Folders = console::Folders::Refused;
+  int Jobs = 1;  // files that are worked on at once; 0: one a processor
   OutputFormat Format = OutputFormat::Text;
   reports::TableOptions Options;  // labels, group and parameter; a text report takes one label
   bool FurtherLabels = false;     // let text reports find the labels beyond the 255th

@@ -2,71 +2,54 @@
 
 #include "cli/RunChecks.h"
 
-#include <memory>
+#include <utility>
 
-#include <fmt/format.h>
-
-#include "cli/TableOfRequest.h"
-#include "console/OpenTrial.h"
+#include "console/Complaint.h"
+#include "console/Headings.h"
+#include "console/PostedOutput.h"
+#include "console/RunFiles.h"
 #include "console/StandardOutput.h"
 #include "console/Usage.h"
 #include "gait/Checkup.h"
 #include "reports/CheckReport.h"
-#include "reports/ReportList.h"
-#include "support/Text.h"
+#include "support/MessageOf.h"
 
 namespace cli {
 
-using console::ComplainOf;
-using console::kSomeFailed;
-using console::MessageOf;
+using console::FileEnd;
+using console::FileOutcome;
 using console::StandardOutput;
 using console::Streams;
-
-using modVantrel::Finding;
+using modAllPurpose::PostPiece;
 
 namespace {
 
-// Puts the text of a file under its name where there are several.
-void ShowText(const std::string& file, bool several, const std::vector<Finding>& findings,
-              StandardOutput& output) {
-  if (several) output.Line(fmt::format("==> {} <==", file));
+FileEnd WorkOn(const std::string& file, std::string heading, const PostPiece& post) {
+  console::PostedOutput output(post, console::Whole::Line, std::move(heading));
+  const auto findings = reports::CheckFile(file);
   reports::ShowFindings(findings, output);
-}
-
-void WriteFindings(const Request& request, const std::vector<std::string>& files,
-                   StandardOutput& output, int& status) {
-  const bool isText = request.Format == OutputFormat::Text;
-  std::unique_ptr<reports::TableOutput> table;
-  if (!isText) {
-    table = MakeTable(request, output);
-    table->Begin(reports::FindReport(request.Report)->Columns);
-  }
-  for (const std::string& file : files) {
-    const std::vector<Finding> findings = reports::CheckFile(file);
-    if (HasError(findings)) status = kSomeFailed;
-    if (isText) {
-      ShowText(file, files.size() > 1, findings, output);
-    } else {
-      reports::CheckRows(modAllPurpose::WithReplacements(file), findings, *table);
-    }
-  }
-  if (!isText) table->End();
+  output.Flush();
+  return {[failed = HasError(findings)] { return FileOutcome{{}, failed}; }};
 }
 
 }  // namespace
 
 void RunChecks(const Request& request, const std::vector<std::string>& files,
                const Streams& streams, int& status) {
-  StandardOutput output(streams.Output, {});
-  const std::string lost = MessageOf([&] {
-    WriteFindings(request, files, output, status);
-    output.Flush();
+  StandardOutput output(streams.Output);
+  console::FileRun run;
+  run.Work = [&](std::size_t number, const PostPiece& post) {
+    return WorkOn(files[number], console::HeadingOf(files, number), post);
+  };
+  run.Print = [&](std::string piece) { output.Append(std::move(piece)); };
+  run.Close = [&] { output.Flush(); };
+  const std::string lost = modAllPurpose::MessageOf([&] {
+    RunFiles(files, request.Jobs, streams, run, status);
     return std::string();
   });
   if (lost.empty()) return;
-  ComplainOf("standard output", lost, streams);
-  status = kSomeFailed;
+  console::ComplainOf("standard output", lost, streams);
+  status = console::kSomeFailed;
 }
 
 }  // namespace cli

@@ -9,9 +9,9 @@
 
 namespace cli {
 
-// Writes what is unusual in each of `files`, which need not be ones that can be opened, as texts or
-// as one table. A finding that is an error makes `status` kSomeFailed; the error stream is told of
-// output alone that cannot be written. OutputClosed passes.
+// Writes as texts what is unusual in each of `files`, which need not be ones that can be opened. A
+// finding that is an error makes `status` kSomeFailed; the error stream is told of output alone
+// that cannot be written. OutputClosed passes.
 void RunChecks(const Request& request, const std::vector<std::string>& files,
                const console::Streams& streams, int& status);
 

@@ -9,74 +9,71 @@
 #include "c3d/FileState.h"
 #include "cli/TableOfRequest.h"
 #include "console/Complaint.h"
-#include "console/OpenTrial.h"
+#include "console/RunFiles.h"
 #include "console/StandardOutput.h"
 #include "console/Usage.h"
-#include "reports/NormsReport.h"
-#include "reports/PooledReport.h"
+#include "gait/OpenTrial.h"
+#include "reports/PooledReportList.h"
 #include "reports/ReportList.h"
-#include "reports/ScoresReport.h"
-#include "reports/VariabilityReport.h"
-#include "reports/VisitReport.h"
-#include "visit/NormalFile.h"
+#include "support/MessageOf.h"
 
 namespace cli {
 
-using console::Complain;
 using console::ComplainOf;
-using console::kSomeFailed;
-using console::Labels;
-using console::MessageOf;
-using console::OpenTrial;
+using console::FileEnd;
+using console::FileOutcome;
 using console::StandardOutput;
 using console::Streams;
+using modAllPurpose::MessageOf;
 
 using reports::Complaints;
 using reports::PooledReport;
-using reports::TableOptions;
 
 namespace {
 
-using Made = std::variant<std::unique_ptr<PooledReport>, std::string>;
+// What one trial leaves for its turn: its strides, and what is to be said of it.
+struct ReadTrial {
+  std::function<void()> TakeIn;  // none where reading failed
+  Complaints Said;
+};
 
-Made MakeScores(const Request& request) {
-  auto normals = visit::ReadNormalFile(request.NormalFile);
-  if (auto* failure = std::get_if<std::string>(&normals)) return std::move(*failure);
-  return reports::MakeScoresReport(request.Options, std::get<visit::Normals>(std::move(normals)));
-}
+// About what the strides of a trial take while they wait, with all labels of a full-body model.
+constexpr std::size_t kBytesOfTrial = std::size_t{512} * 1024;
 
-template <std::unique_ptr<PooledReport> (*Make)(const TableOptions&)>
-Made MakeByOptions(const Request& request) {
-  return Make(request.Options);
-}
-
-// The report that the request names, or why there is none.
-Made MakeReport(const Request& request) {
-  constexpr std::pair<std::string_view, Made (*)(const Request&)> kMakers[] = {
-      {"visit", MakeByOptions<reports::MakeVisitReport>},
-      {"variability", MakeByOptions<reports::MakeVariabilityReport>},
-      {"norms", MakeByOptions<reports::MakeNormsReport>},
-      {"scores", MakeScores},
-  };
-  for (const auto& [name, make] : kMakers) {
-    if (name == request.Report) return make(request);
-  }
-  return std::string("there is no such report over several trials");
-}
-
-// Takes in one file; answers with what is to be said of it.
-Complaints AddFile(const std::string& file, PooledReport& report) {
-  Complaints complaints;
-  const std::string failure = MessageOf([&] {
+ReadTrial Read(const std::string& file, PooledReport& report) {
+  ReadTrial trial;
+  std::string failure = MessageOf([&] {
     modVantrel::FileState state;
-    std::string refusal = OpenTrial(file, Labels::All, state);
+    std::string refusal = OpenTrial(file, modVantrel::Labels::All, state);
     if (!refusal.empty()) return refusal;
-    complaints = report.Missing(state);
-    report.Add(state);
+    trial.Said = report.Missing(state);
+    trial.TakeIn = report.Read(state);
+    return refusal;
+  });
+  if (!failure.empty()) trial.Said.push_back(std::move(failure));
+  return trial;
+}
+
+FileOutcome TakeIn(const std::string& file, const ReadTrial& trial) {
+  Complaints said = trial.Said;
+  std::string failure = MessageOf([&] {
+    if (trial.TakeIn) trial.TakeIn();
     return std::string();
   });
-  if (!failure.empty()) complaints.push_back(failure);
-  return complaints;
+  if (!failure.empty()) said.push_back(std::move(failure));
+  FileOutcome outcome{{}, !said.empty()};
+  for (std::string& message : said) outcome.Remarks.push_back({file, std::move(message)});
+  return outcome;
+}
+
+void ReadAll(const std::vector<std::string>& files, int jobs, const Streams& streams,
+             PooledReport& report, int& status) {
+  console::FileRun run;
+  run.Work = [&](std::size_t number, const modAllPurpose::PostPiece& /*post*/) -> FileEnd {
+    const std::string& file = files[number];
+    return {[&file, trial = Read(file, report)] { return TakeIn(file, trial); }, kBytesOfTrial};
+  };
+  RunFiles(files, jobs, streams, run, status);
 }
 
 Complaints Write(const Request& request, const PooledReport& report, StandardOutput& output) {
@@ -88,31 +85,33 @@ Complaints Write(const Request& request, const PooledReport& report, StandardOut
   return complaints;
 }
 
-}  // namespace
-
-void RunPooled(const Request& request, const std::vector<std::string>& files,
-               const Streams& streams, int& status) {
-  const Made made = MakeReport(request);
-  if (const auto* failure = std::get_if<std::string>(&made)) {
-    Complain(streams, *failure);
-    status = kSomeFailed;
-    return;
-  }
-  PooledReport& report = *std::get<std::unique_ptr<PooledReport>>(made);
-  const auto complain = [&](const std::string& about, const Complaints& complaints) {
-    for (const std::string& complaint : complaints) ComplainOf(about, complaint, streams);
-    if (!complaints.empty()) status = kSomeFailed;
-  };
-  for (const std::string& file : files) complain(file, AddFile(file, report));
-  StandardOutput output(streams.Output, {});
+// Writes the report; false where something is complained of.
+bool Print(const Request& request, const PooledReport& report, const Streams& streams) {
+  StandardOutput output(streams.Output);
   Complaints complaints;
   const std::string lost = MessageOf([&] {
     complaints = Write(request, report, output);
     output.Flush();
     return std::string();
   });
-  complain(request.Report, complaints);
-  if (!lost.empty()) complain("standard output", {lost});
+  for (const std::string& complaint : complaints) ComplainOf(request.Report, complaint, streams);
+  if (!lost.empty()) ComplainOf("standard output", lost, streams);
+  return complaints.empty() && lost.empty();
+}
+
+}  // namespace
+
+void RunPooled(const Request& request, const std::vector<std::string>& files,
+               const Streams& streams, int& status) {
+  const auto made = reports::MakePooledReport(request.Report, request.Options, request.NormalFile);
+  if (const auto* failure = std::get_if<std::string>(&made)) {
+    Complain(streams, *failure);
+    status = console::kSomeFailed;
+    return;
+  }
+  PooledReport& report = *std::get<std::unique_ptr<PooledReport>>(made);
+  ReadAll(files, request.Jobs, streams, report, status);
+  if (!Print(request, report, streams)) status = console::kSomeFailed;
 }
 
 }  // namespace cli

@@ -6,8 +6,9 @@
 
 namespace cli {
 
-// Opens each file of the request with fresh state and prints its report. What fails is named on
-// the error stream and the next file is taken. Returns the exit status.
-int RunReports(Request request, const console::Streams& streams);
+// Opens each file of the request with fresh state and prints its report, in the order of the
+// files, however many are worked on at once. What fails is named on the error stream and stops no
+// other file. Returns the exit status.
+int RunReports(const Request& request, const console::Streams& streams);
 
 }  // namespace cli

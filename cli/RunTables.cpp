@@ -2,81 +2,65 @@
 
 #include "cli/RunTables.h"
 
-#include <algorithm>
-#include <iterator>
+#include <memory>
+#include <utility>
 
-#include "c3d/FileState.h"
-#include "cli/ReportTable.h"
 #include "cli/TableOfRequest.h"
-#include "console/OpenTrial.h"
+#include "console/Complaint.h"
+#include "console/PostedOutput.h"
+#include "console/RunFiles.h"
 #include "console/StandardOutput.h"
 #include "console/Usage.h"
+#include "reports/FileTable.h"
 #include "reports/ReportList.h"
-#include "support/Text.h"
+#include "support/MessageOf.h"
 
 namespace cli {
 
-using console::ComplainOf;
-using console::kSomeFailed;
-using console::Labels;
-using console::MessageOf;
-using console::OpenTrial;
+using console::FileEnd;
+using console::FileOutcome;
 using console::StandardOutput;
 using console::Streams;
+using modAllPurpose::PostPiece;
 
 namespace {
 
-// Writes the rows of `file`, which is open, and adds to `complaints` what is to be said of it, each
-// thing as it arises: an error keeps none of them back.
-void WriteOpened(const Request& request, const modVantrel::FileState& state,
-                 const std::string& file, reports::TableOutput& table,
-                 reports::Complaints& complaints) {
-  const TrialReport& report = FindTrialReport(request.Report);
-  if (report.Missing != nullptr) complaints = report.Missing(state, request.Options);
-  std::ranges::move(
-      report.Rows(state, modAllPurpose::WithReplacements(file), request.Options, table),
-      std::back_inserter(complaints));
-}
-
-// Writes the rows of one file; false where something is complained of. That the output fails is not
-// the file's fault, and is left to the end of the table.
-bool WriteRows(const Request& request, const std::string& file, reports::TableOutput& table,
-               const StandardOutput& output, const Streams& streams) {
-  reports::Complaints complaints;
-  const std::string failure = MessageOf([&] {
-    modVantrel::FileState state;
-    std::string refusal = OpenTrial(file, Labels::All, state);
-    if (refusal.empty()) WriteOpened(request, state, file, table, complaints);
-    return refusal;
-  });
-  if (!failure.empty() && !output.Failure()) {
-    table.DropRow();
-    complaints.push_back(failure);
-  }
-  for (const std::string& complaint : complaints) ComplainOf(file, complaint, streams);
-  return complaints.empty() && !output.Failure();
+// Makes the rows of one file, as a part of the table.
+FileEnd WorkOn(const Request& request, const std::string& file, const PostPiece& post) {
+  console::PostedOutput output(post, console::Whole::Append, {});
+  const auto part = MakeTable(request, output);
+  const reports::ReportInfo& report = *reports::FindReport(request.Report);
+  part->BeginPart(report.Columns);
+  const auto rows = WriteFileRows(report, file, request.Options, *part);
+  output.Flush();
+  FileOutcome outcome{{}, rows.Failed};
+  for (const std::string& said : rows.Said) outcome.Remarks.push_back({file, said});
+  return {[outcome = std::move(outcome)] { return outcome; }};
 }
 
 }  // namespace
 
 void RunTables(const Request& request, const std::vector<std::string>& files,
                const Streams& streams, int& status) {
-  StandardOutput output(streams.Output, {});
+  StandardOutput output(streams.Output);
   const auto table = MakeTable(request, output);
-  table->Begin(reports::FindReport(request.Report)->Columns);
-  for (const std::string& file : files) {
-    if (!WriteRows(request, file, *table, output, streams)) status = kSomeFailed;
-    if (output.Failure()) break;
-  }
-  const std::string lost = MessageOf([&] {
-    if (output.Failure()) return modAllPurpose::RuntimeErrorLine(*output.Failure());
+  console::FileRun run;
+  run.Work = [&](std::size_t number, const PostPiece& post) {
+    return WorkOn(request, files[number], post);
+  };
+  run.Print = [&](const std::string& piece) { table->AddPart(piece); };
+  run.Close = [&] {
     table->End();
     output.Flush();
+  };
+  const std::string lost = modAllPurpose::MessageOf([&] {
+    table->Begin(reports::FindReport(request.Report)->Columns);
+    RunFiles(files, request.Jobs, streams, run, status);
     return std::string();
   });
   if (lost.empty()) return;
-  ComplainOf("standard output", lost, streams);
-  status = kSomeFailed;
+  console::ComplainOf("standard output", lost, streams);
+  status = console::kSomeFailed;
 }
 
 }  // namespace cli

@@ -7,8 +7,8 @@
 
 namespace cli {
 
-std::unique_ptr<reports::TableOutput> MakeTable(const Request& request,
-                                                modAllPurpose::ReportOutput& output) {
+std::unique_ptr<reports::TextTable> MakeTable(const Request& request,
+                                              modAllPurpose::ReportOutput& output) {
   if (request.Format == OutputFormat::Json) return std::make_unique<reports::JsonTable>(output);
   return std::make_unique<reports::CsvTable>(output);
 }

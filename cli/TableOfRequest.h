@@ -4,13 +4,13 @@
 #include <memory>
 
 #include "cli/Request.h"
-#include "reports/Table.h"
+#include "reports/TextTable.h"
 #include "support/ReportOutput.h"
 
 namespace cli {
 
 // The table that a request of csv or json is written to. `output` must last as long.
-std::unique_ptr<reports::TableOutput> MakeTable(const Request& request,
-                                                modAllPurpose::ReportOutput& output);
+std::unique_ptr<reports::TextTable> MakeTable(const Request& request,
+                                              modAllPurpose::ReportOutput& output);
 
 }  // namespace cli

@@ -16,4 +16,8 @@ void Complain(const Streams& streams, std::string_view message) {
   std::fwrite(line.data(), 1, line.size(), streams.Error);
 }
 
+void ComplainOf(const std::string& file, std::string_view message, const Streams& streams) {
+  Complain(streams, fmt::format("{}: {}", file, message));
+}
+
 }  // namespace console

@@ -14,7 +14,7 @@
 namespace console {
 
 int Print(const AskedText& asked, const Streams& streams) {
-  StandardOutput output(streams.Output, {});
+  StandardOutput output(streams.Output);
   try {
     output.Piece(asked.Text);
     output.Flush();

@@ -3,6 +3,7 @@
 #include "console/StandardOutput.h"
 
 #include <cerrno>
+#include <utility>
 
 #include "console/Start.h"
 #include "support/RuntimeError.h"
@@ -15,13 +16,18 @@ constexpr std::size_t kPieceSize = std::size_t{256} * 1024;
 
 }  // namespace
 
-void StandardOutput::BeginReport() {
-  if (!heading_.empty()) Line(heading_);
-}
-
 void StandardOutput::AppendOutput(std::string_view text, bool /*paneOnly*/, bool continueLine) {
   pending_ += text;
   if (!continueLine) pending_ += '\n';
+  if (pending_.size() >= kPieceSize) Flush();
+}
+
+void StandardOutput::Append(std::string text) {
+  if (pending_.empty()) {
+    pending_ = std::move(text);
+  } else {
+    pending_ += text;
+  }
   if (pending_.size() >= kPieceSize) Flush();
 }
 
@@ -33,19 +39,13 @@ void StandardOutput::Flush() {
   } catch (const OutputClosed&) {
     if (unwritten_ == Unwritten::EndsReport) throw;
   } catch (const modAllPurpose::RuntimeError& error) {
-    if (unwritten_ == Unwritten::EndsReport) {
-      failure_ = error;
-      throw;
-    }
+    if (unwritten_ == Unwritten::EndsReport) throw;
     lostLines_ = error;
   }
 }
 
 void StandardOutput::HandOver(const std::string& piece) {
-  ForgetErrors();
-  const bool written = std::fwrite(piece.data(), 1, piece.size(), stream_) == piece.size() &&
-                       std::fflush(stream_) == 0;
-  if (written) return;
+  if (WriteLines(stream_, piece)) return;
   if (IsOutputClosed()) throw OutputClosed();
   throw modAllPurpose::FileErrorFromErrno(errno);
 }

@@ -5,7 +5,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 
 #include "support/ReportOutput.h"
 #include "support/RuntimeError.h"
@@ -22,13 +21,15 @@ enum class Unwritten { EndsReport, LosesLines };
 // A report on the tool's standard output, lines ended by LF, handed over in large pieces.
 class StandardOutput : public modAllPurpose::ReportOutput {
  public:
-  // `heading` is a line to put in front of the report; empty for none. `stream` must last as long.
-  StandardOutput(std::FILE* stream, std::string heading,
-                 Unwritten unwritten = Unwritten::EndsReport)
-      : stream_(stream), heading_(std::move(heading)), unwritten_(unwritten) {}
+  // `stream` must last as long.
+  explicit StandardOutput(std::FILE* stream, Unwritten unwritten = Unwritten::EndsReport)
+      : stream_(stream), unwritten_(unwritten) {}
 
-  void BeginReport() override;
+  void BeginReport() override {}
   void AppendOutput(std::string_view text, bool paneOnly, bool continueLine) override;
+
+  // Adds lines that were made elsewhere.
+  void Append(std::string text);
 
   // Hands over what is left. An error as FileErrorFromErrno where standard output cannot take it,
   // OutputClosed where it is a closed pipe; neither where the report may lose its lines. The other
@@ -39,17 +40,12 @@ class StandardOutput : public modAllPurpose::ReportOutput {
   // wanted them.
   const std::optional<modAllPurpose::RuntimeError>& LostLines() const { return lostLines_; }
 
-  // The error with which the output ended its report; nothing where it took all.
-  const std::optional<modAllPurpose::RuntimeError>& Failure() const { return failure_; }
-
  private:
   void HandOver(const std::string& piece);
 
   std::FILE* stream_;
-  std::string heading_;
   Unwritten unwritten_;
   std::optional<modAllPurpose::RuntimeError> lostLines_;
-  std::optional<modAllPurpose::RuntimeError> failure_;
   std::string pending_;
 };
 

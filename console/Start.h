@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstdio>
 #include <string>
+#include <string_view>
 #include <vector>
 
 // What systems do differently about a program's start and its standard output.
@@ -21,10 +23,13 @@ std::vector<std::string> WithoutWildcards(const std::string& file);
 // writes come back as errors. A console is as it was when the tool has ended.
 void PrepareOutput();
 
-// Forgets the errors of earlier calls, before a write whose failure is asked about.
-void ForgetErrors();
+bool IsTerminal(std::FILE* stream);
 
-// Whether the write to standard output that has just failed did so because nobody reads it any
+// Writes all of `piece`; false where that fails. An UnbrokenWork around it lasts until whole lines
+// are written, but nobody waits in it for a reader who does not read.
+bool WriteLines(std::FILE* stream, std::string_view piece);
+
+// Whether the write that has just failed did so because nobody reads it any
 // more.
 bool IsOutputClosed();
 

@@ -2,10 +2,45 @@
 
 #include <cerrno>
 #include <csignal>
+#include <poll.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <climits>
 
 #include "console/Start.h"
+#include "support/Interruption.h"
 
 namespace console {
+
+namespace {
+
+bool IsRegular(std::FILE* stream) {
+  struct stat file {};
+  return ::fstat(::fileno(stream), &file) == 0 && S_ISREG(file.st_mode);
+}
+
+bool Write(std::FILE* stream, std::string_view piece) {
+  return std::fwrite(piece.data(), 1, piece.size(), stream) == piece.size() &&
+         std::fflush(stream) == 0;
+}
+
+// The whole lines in front of `text` that a pipe takes at once or not at all; as much of a line
+// that is longer.
+std::string_view NextChunk(std::string_view text) {
+  if (text.size() <= PIPE_BUF) return text;
+  const auto end = text.substr(0, PIPE_BUF).rfind('\n');
+  return text.substr(0, end == std::string_view::npos ? PIPE_BUF : end + 1);
+}
+
+void AwaitReader(int file) {
+  pollfd readiness{file, POLLOUT, 0};
+  if (::poll(&readiness, 1, 0) != 0) return;
+  const modAllPurpose::InterruptibleWait wait;
+  ::poll(&readiness, 1, -1);
+}
+
+}  // namespace
 
 std::vector<std::string> Arguments(int argc, char** argv) { return {argv + 1, argv + argc}; }
 
@@ -18,7 +53,19 @@ void PrepareOutput() {
   std::signal(SIGXFSZ, SIG_IGN);
 }
 
-void ForgetErrors() { errno = 0; }
+bool IsTerminal(std::FILE* stream) { return ::isatty(::fileno(stream)) == 1; }
+
+bool WriteLines(std::FILE* stream, std::string_view piece) {
+  errno = 0;
+  if (IsRegular(stream)) return Write(stream, piece);
+  while (!piece.empty()) {
+    const std::string_view chunk = NextChunk(piece);
+    AwaitReader(::fileno(stream));
+    if (!Write(stream, chunk)) return false;
+    piece.remove_prefix(chunk.size());
+  }
+  return true;
+}
 
 bool IsOutputClosed() { return errno == EPIPE; }
 

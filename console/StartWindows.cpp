@@ -11,6 +11,7 @@
 
 #include "console/Start.h"
 #include "support/FileSystem.h"
+#include "support/Interruption.h"
 #include "support/WindowsError.h"
 
 namespace console {
@@ -47,6 +48,16 @@ BOOL WINAPI RestoreWhenInterrupted(DWORD /*event*/) {
 bool IsConsole(DWORD output) {
   DWORD mode = 0;
   return ::GetConsoleMode(::GetStdHandle(output), &mode) != 0;
+}
+
+bool IsFile(std::FILE* stream) {
+  return ::GetFileType(reinterpret_cast<HANDLE>(::_get_osfhandle(::_fileno(stream)))) ==
+         FILE_TYPE_DISK;
+}
+
+bool Write(std::FILE* stream, std::string_view piece) {
+  return std::fwrite(piece.data(), 1, piece.size(), stream) == piece.size() &&
+         std::fflush(stream) == 0;
 }
 
 }  // namespace
@@ -92,9 +103,14 @@ void PrepareOutput() {
   ::SetConsoleCtrlHandler(RestoreWhenInterrupted, TRUE);
 }
 
-void ForgetErrors() {
+bool IsTerminal(std::FILE* stream) { return ::_isatty(::_fileno(stream)) != 0; }
+
+bool WriteLines(std::FILE* stream, std::string_view piece) {
   errno = 0;
   _doserrno = 0;
+  if (IsFile(stream)) return Write(stream, piece);
+  const modAllPurpose::InterruptibleWait wait;
+  return Write(stream, piece);
 }
 
 bool IsOutputClosed() {

@@ -6,9 +6,11 @@
 #include <utility>
 
 #include "c3d/FrameData.h"
+#include "console/Complaint.h"
 #include "console/NamedFiles.h"
-#include "console/OpenTrial.h"
 #include "console/Usage.h"
+#include "gait/OpenTrial.h"
+#include "support/MessageOf.h"
 
 namespace curves {
 
@@ -32,9 +34,9 @@ Complaints LabelsLackedBy(const modVantrel::FileState& state, const Request& req
 Complaints ReadTrial(const std::string& file, const Request& request,
                      std::vector<TrialValues>& trials) {
   Complaints complaints;
-  std::string failure = console::MessageOf([&] {
+  std::string failure = modAllPurpose::MessageOf([&] {
     modVantrel::FileState state;
-    std::string refusal = console::OpenTrial(file, console::Labels::All, state);
+    std::string refusal = OpenTrial(file, modVantrel::Labels::All, state);
     if (!refusal.empty()) return refusal;
     complaints = LabelsLackedBy(state, request);
     TrialValues values = pages::ReadTrialValues(state, {request.Kinds, request.Labels});
@@ -51,7 +53,8 @@ Complaints ReadTrial(const std::string& file, const Request& request,
 std::vector<TrialValues> ReadTrials(const Request& request, const console::Streams& streams,
                                     int& status) {
   std::vector<TrialValues> trials;
-  for (const std::string& file : console::FilesToRead(request.Files, streams, status)) {
+  for (const std::string& file :
+       console::FilesToRead(request.Files, console::Folders::Refused, streams, status)) {
     for (const std::string& complaint : ReadTrial(file, request, trials)) {
       console::ComplainOf(file, complaint, streams);
       status = console::kSomeFailed;

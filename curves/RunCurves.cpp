@@ -8,7 +8,6 @@
 
 #include "c3d/FileKey.h"
 #include "console/Complaint.h"
-#include "console/OpenTrial.h"
 #include "console/RunCommandLine.h"
 #include "curves/CommandLine.h"
 #include "curves/ReadTrials.h"
@@ -16,6 +15,7 @@
 #include "pages/MakePages.h"
 #include "pages/PageJson.h"
 #include "support/FileSystem.h"
+#include "support/MessageOf.h"
 #include "visit/NormalFile.h"
 
 namespace curves {
@@ -64,7 +64,7 @@ std::string WhyKept(const std::string& path, const Request& request, const pages
 // Writes the files; false where one is complained of.
 bool Write(const Request& request, const pages::PageSet& set, const Streams& streams) {
   std::string taken;
-  const std::string failure = console::MessageOf([&]() -> std::string {
+  const std::string failure = modAllPurpose::MessageOf([&]() -> std::string {
     const std::vector<WholeFile> files = FilesOf(request, set);
     for (const WholeFile& file : files) {
       std::string kept = request.Overwrite ? WhyKept(file.Path, request, set) : "";

@@ -7,19 +7,21 @@
 #include <string>
 #include <string_view>
 
-#include "reports/Table.h"
+#include "reports/TextTable.h"
 #include "support/ReportOutput.h"
 
 namespace reports {
 
 // A table as comma-separated values (RFC 4180 with LF): one line of column names, a decimal point,
 // quotes only where a text needs them. A missing value is an empty field.
-class CsvTable : public TableOutput {
+class CsvTable : public TextTable {
  public:
   // `output` must last as long.
   explicit CsvTable(modAllPurpose::ReportOutput& output) : output_(output) {}
 
   void Begin(std::span<const std::string_view> columns) override;
+  void BeginPart(std::span<const std::string_view> /*columns*/) override {}
+  void AddPart(std::string_view text) override { output_.Piece(text); }
   void Text(std::string_view text) override;
   void Number(std::int64_t number) override;
   void Number(float number) override;

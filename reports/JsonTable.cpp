@@ -45,6 +45,19 @@ void JsonTable::Begin(std::span<const std::string_view> columns) {
   output_.Piece("[");
 }
 
+// Each row of a part brings the comma in front of it, also the first.
+void JsonTable::BeginPart(std::span<const std::string_view> columns) {
+  columns_.assign(columns.begin(), columns.end());
+  isFirstRow_ = false;
+}
+
+void JsonTable::AddPart(std::string_view text) {
+  if (text.empty()) return;
+  if (isFirstRow_) text.remove_prefix(1);
+  isFirstRow_ = false;
+  output_.Piece(text);
+}
+
 void JsonTable::BeginRowsWith(std::span<const std::string_view> texts) {
   shared_.assign(texts.begin(), texts.end());
 }
@@ -101,8 +114,9 @@ void JsonTable::Missing() {
 
 void JsonTable::EndRow() {
   writer_->Row().EndObject();
-  output_.Line(isFirstRow_ ? "" : ",");
-  output_.Piece(writer_->Text());
+  row_ = isFirstRow_ ? "\n" : ",\n";
+  row_ += writer_->Text();
+  output_.Piece(row_);
   isFirstRow_ = false;
   writer_->Clear();
   column_ = 0;

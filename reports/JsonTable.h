@@ -9,20 +9,22 @@
 #include <string_view>
 #include <vector>
 
-#include "reports/Table.h"
+#include "reports/TextTable.h"
 #include "support/ReportOutput.h"
 
 namespace reports {
 
 // A table as one JSON array of objects, one row a line, each value under its column's name. A
 // missing value is null. The array is valid from Begin to End, however many rows come.
-class JsonTable : public TableOutput {
+class JsonTable : public TextTable {
  public:
   // `output` must last as long.
   explicit JsonTable(modAllPurpose::ReportOutput& output);
   ~JsonTable() override;
 
   void Begin(std::span<const std::string_view> columns) override;
+  void BeginPart(std::span<const std::string_view> columns) override;
+  void AddPart(std::string_view text) override;
   void Text(std::string_view text) override;
   void Number(std::int64_t number) override;
   void Number(float number) override;
@@ -49,6 +51,7 @@ class JsonTable : public TableOutput {
   std::vector<std::string_view> shared_;  // what each row begins with
   bool isFirstRow_ = true;
   std::string number_;
+  std::string row_;  // with what separates it from the one before
 };
 
 }  // namespace reports

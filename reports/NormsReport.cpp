@@ -3,6 +3,7 @@
 #include "reports/NormsReport.h"
 
 #include <set>
+#include <utility>
 
 #include <fmt/format.h>
 
@@ -86,11 +87,13 @@ class NormsReport : public PooledReport {
     return labels_.Missing(held);
   }
 
-  void Add(const modVantrel::FileState& trial) override {
-    const auto curves = visit::CurvesOfTrial(trial, [this](const std::string& key) {
+  std::function<void()> Read(const modVantrel::FileState& trial) override {
+    auto curves = visit::CurvesOfTrial(trial, [this](const std::string& key) {
       return visit::IsNormLabel(key) && labels_.Include(key.substr(1));
     });
-    norms_.Add(curves, visit::MeasuresOfStrides(trial));
+    return [this, curves = std::move(curves), measures = visit::MeasuresOfStrides(trial)] {
+      norms_.Add(curves, measures);
+    };
   }
 
   Complaints WriteRows(TableOutput& table) const override {

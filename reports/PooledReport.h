@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
+
 #include "c3d/FileState.h"
 #include "reports/Table.h"
 #include "reports/TableOptions.h"
@@ -21,8 +23,13 @@ class PooledReport {
   // lacks.
   virtual Complaints Missing(const modVantrel::FileState& /*trial*/) const { return {}; }
 
-  // Takes in the strides of such a trial. A RuntimeError leaves the report as it was without it.
-  virtual void Add(const modVantrel::FileState& trial) = 0;
+  // Reads the strides of such a trial and answers with what takes them in. Trials may be read by
+  // several threads at once, and are taken in by one thread in the order that the report is to
+  // have. A RuntimeError of either leaves the report as it was without the trial.
+  virtual std::function<void()> Read(const modVantrel::FileState& trial) = 0;
+
+  // Reads a trial and takes it in.
+  void Add(const modVantrel::FileState& trial) { Read(trial)(); }
 
   // Writes the rows, without Begin and End, or the aligned text. What could not be worked out comes
   // back.

@@ -44,13 +44,15 @@ class ScoresReport : public PooledReport {
  public:
   explicit ScoresReport(visit::Normals normals) : normals_(std::move(normals)) {}
 
-  void Add(const modVantrel::FileState& trial) override {
-    const auto curves = visit::CurvesOfTrial(trial, visit::Scores::Needs);
+  std::function<void()> Read(const modVantrel::FileState& trial) override {
+    auto curves = visit::CurvesOfTrial(trial, visit::Scores::Needs);
     std::vector<GaitSide> sides;
     for (const std::int32_t i : visit::CompleteStrides(trial)) {
       sides.push_back(trial.GaitEvents.ValidStrides[i].Side);
     }
-    scores_.Add(curves, sides);
+    return [this, curves = std::move(curves), sides = std::move(sides)] {
+      scores_.Add(curves, sides);
+    };
   }
 
   Complaints WriteRows(TableOutput& table) const override {

@@ -3,6 +3,7 @@
 #include "reports/VariabilityReport.h"
 
 #include <set>
+#include <utility>
 
 #include "gait/EventNames.h"
 #include "reports/AlignedText.h"
@@ -29,9 +30,10 @@ class VariabilityReport : public PooledReport {
     return labels_.Missing(held);
   }
 
-  void Add(const modVantrel::FileState& trial) override {
-    variability_.Add(visit::CurvesOfTrial(
-        trial, [this](const std::string& key) { return labels_.Include(key); }));
+  std::function<void()> Read(const modVantrel::FileState& trial) override {
+    auto curves = visit::CurvesOfTrial(
+        trial, [this](const std::string& key) { return labels_.Include(key); });
+    return [this, curves = std::move(curves)] { variability_.Add(curves); };
   }
 
   Complaints WriteRows(TableOutput& table) const override {

@@ -11,8 +11,8 @@ namespace {
 
 class VisitReport : public PooledReport {
  public:
-  void Add(const modVantrel::FileState& trial) override {
-    summary_.Add(visit::MeasuresOfStrides(trial));
+  std::function<void()> Read(const modVantrel::FileState& trial) override {
+    return [this, measures = visit::MeasuresOfStrides(trial)] { summary_.Add(measures); };
   }
 
   Complaints WriteRows(TableOutput& table) const override {

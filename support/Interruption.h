@@ -23,4 +23,15 @@ class UnbrokenWork {
   static bool IsInterrupted();
 };
 
+// A wait inside an UnbrokenWork for something that may never come, with nothing half done: while
+// one of these lives, an interruption need not wait for this thread. Outside an UnbrokenWork it
+// does nothing.
+class InterruptibleWait {
+ public:
+  InterruptibleWait();
+  InterruptibleWait(const InterruptibleWait&) = delete;
+  InterruptibleWait& operator=(const InterruptibleWait&) = delete;
+  ~InterruptibleWait();
+};
+
 }  // namespace modAllPurpose

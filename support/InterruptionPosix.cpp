@@ -60,6 +60,18 @@ extern "C" void EndBetweenWorks(int signal) {
   ::raise(signal);
 }
 
+void BeginWork() {
+  ++worksUnderWay;
+  if (!ending) return;
+  --worksUnderWay;
+  AwaitTheEnd();
+}
+
+void EndWork() {
+  --worksUnderWay;
+  if (ending) AwaitTheEnd();
+}
+
 }  // namespace
 
 void LetInterruptionsWait() {
@@ -78,17 +90,25 @@ UnbrokenWork::UnbrokenWork() {
   for (const int signal : kInterruptions) {
     if (::sigismember(&own.MaskBefore, signal) == 1) ::sigdelset(&own.HeldOff, signal);
   }
-  ++worksUnderWay;
-  if (!ending) return;
-  --worksUnderWay;
-  AwaitTheEnd();
+  BeginWork();
 }
 
 UnbrokenWork::~UnbrokenWork() {
   if (--own.Depth > 0) return;
-  --worksUnderWay;
-  if (ending) AwaitTheEnd();
+  EndWork();
   ::pthread_sigmask(SIG_SETMASK, &own.MaskBefore, nullptr);
+}
+
+InterruptibleWait::InterruptibleWait() {
+  if (own.Depth == 0) return;
+  EndWork();
+  ::pthread_sigmask(SIG_SETMASK, &own.MaskBefore, nullptr);
+}
+
+InterruptibleWait::~InterruptibleWait() {
+  if (own.Depth == 0) return;
+  ::pthread_sigmask(SIG_BLOCK, &own.HeldOff, nullptr);
+  BeginWork();
 }
 
 bool UnbrokenWork::IsInterrupted() {

@@ -25,22 +25,36 @@ BOOL WINAPI EndBetweenWorks(DWORD /*event*/) {
   return kGoOnEnding;
 }
 
-}  // namespace
-
-void LetInterruptionsWait() { ::SetConsoleCtrlHandler(EndBetweenWorks, TRUE); }
-
-UnbrokenWork::UnbrokenWork() {
-  if (depth++ > 0) return;
+void BeginWork() {
   ++worksUnderWay;
   if (!ending) return;
   --worksUnderWay;
   AwaitTheEnd();
 }
 
-UnbrokenWork::~UnbrokenWork() {
-  if (--depth > 0) return;
+void EndWork() {
   --worksUnderWay;
   if (ending) AwaitTheEnd();
+}
+
+}  // namespace
+
+void LetInterruptionsWait() { ::SetConsoleCtrlHandler(EndBetweenWorks, TRUE); }
+
+UnbrokenWork::UnbrokenWork() {
+  if (depth++ == 0) BeginWork();
+}
+
+UnbrokenWork::~UnbrokenWork() {
+  if (--depth == 0) EndWork();
+}
+
+InterruptibleWait::InterruptibleWait() {
+  if (depth > 0) EndWork();
+}
+
+InterruptibleWait::~InterruptibleWait() {
+  if (depth > 0) BeginWork();
 }
 
 bool UnbrokenWork::IsInterrupted() { return ending; }

@@ -5,7 +5,7 @@ _vantrel_report() {
   local reports="header parameter-header groups parameters labels point analog events strides
     measures normalized summary visit variability norms scores check gcd tree"
   local options="--label --all-labels --group --param --format --further-labels --normal --events --output-dir
-    --axes --overwrite --gender --date-of-birth --visit-date --help --version"
+    --axes --overwrite --gender --date-of-birth --visit-date --recursive --jobs --help --version"
 
   case $previous in
     --output-dir)
@@ -30,7 +30,7 @@ _vantrel_report() {
       mapfile -t COMPREPLY < <(compgen -W "Female Male" -- "$current")
       return
       ;;
-    --label | --group | --param | --date-of-birth | --visit-date) return ;;
+    --label | --group | --param | --date-of-birth | --visit-date | --jobs) return ;;
   esac
   if [[ $current == -* ]]; then
     mapfile -t COMPREPLY < <(compgen -W "$options" -- "$current")

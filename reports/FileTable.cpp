@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "reports/FileTable.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "gait/Checkup.h"
+#include "gait/OpenTrial.h"
+#include "reports/CheckReport.h"
+#include "reports/TrialTableList.h"
+#include "support/MessageOf.h"
+#include "support/Text.h"
+
+namespace reports {
+
+namespace {
+
+// Adds to `said` each thing as it arises: an error keeps none of them back.
+void WriteTrialRows(const TrialTable& trialTable, const modVantrel::FileState& state,
+                    std::string_view file, const TableOptions& options, TableOutput& table,
+                    Complaints& said) {
+  if (trialTable.Missing != nullptr) said = trialTable.Missing(state, options);
+  std::ranges::move(trialTable.Rows(state, file, options, table), std::back_inserter(said));
+}
+
+Complaints WriteOpened(const TrialTable& trialTable, const std::string& file,
+                       const TableOptions& options, TableOutput& table) {
+  Complaints said;
+  std::string failure = modAllPurpose::MessageOf([&] {
+    modVantrel::FileState state;
+    std::string refusal = OpenTrial(file, modVantrel::Labels::All, state);
+    if (!refusal.empty()) return refusal;
+    WriteTrialRows(trialTable, state, modAllPurpose::WithReplacements(file), options, table, said);
+    return refusal;
+  });
+  if (failure.empty()) return said;
+  table.DropRow();
+  said.push_back(std::move(failure));
+  return said;
+}
+
+}  // namespace
+
+FileRows WriteFileRows(const ReportInfo& report, const std::string& file,
+                       const TableOptions& options, TableOutput& table) {
+  if (report.ReadsAnyFile) {
+    const auto findings = CheckFile(file);
+    CheckRows(modAllPurpose::WithReplacements(file), findings, table);
+    return {{}, HasError(findings)};
+  }
+  Complaints said = WriteOpened(FindTrialTable(report.Name), file, options, table);
+  const bool failed = !said.empty();
+  return {std::move(said), failed};
+}
+
+}  // namespace reports
