@@ -102,6 +102,44 @@ TEST_F(Interruption, WaitsForTheWorkOfAnotherThread) {
   EXPECT_TRUE(fs::is_empty(folder_.Path()));
 }
 
+TEST_F(Interruption, DoesNotWaitForWorkThatOnlyWaits) {
+  const Ending end = EndOf([&] {
+    LetInterruptionsWait();
+    const UnbrokenWork work;
+    const modAllPurpose::InterruptibleWait wait;
+    std::raise(SIGINT);
+  });
+  EXPECT_EQ(end.Signal, SIGINT);
+}
+
+TEST_F(Interruption, WaitsAgainForWorkThatHasWaited) {
+  const Ending end = EndOf([&] {
+    LetInterruptionsWait();
+    const UnbrokenWork work;
+    { const modAllPurpose::InterruptibleWait wait; }
+    std::raise(SIGINT);
+    ::_exit(UnbrokenWork::IsInterrupted() ? kWentOn : 1);
+  });
+  EXPECT_EQ(end.Status, kWentOn);
+}
+
+TEST_F(Interruption, MetByAWorkThatOnlyWaitsWaitsForThatOfAnotherThread) {
+  const Ending end = EndOf([&] {
+    LetInterruptionsWait();
+    const UnbrokenWork work;
+    std::thread other([&] {
+      const UnbrokenWork unbroken;
+      const FileInWaiting file(folder_.Path(), "text", nullptr, FileInWaiting::Named::Always);
+      ::kill(::getpid(), SIGINT);
+      std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    });
+    const modAllPurpose::InterruptibleWait wait;
+    other.join();
+  });
+  EXPECT_EQ(end.Signal, SIGINT);
+  EXPECT_TRUE(fs::is_empty(folder_.Path()));
+}
+
 TEST_F(Interruption, OfASetOfFilesLeavesNoneOfThem) {
   const std::vector<WholeFile> files = {{(folder_ / "a").string(), "text"},
                                         {(folder_ / "b").string(), "text"}};

@@ -1,0 +1,197 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <algorithm>
+#include <array>
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <rapidjson/document.h>
+#include <string>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "tests/GaitTrials.h"
+#include "tests/cli/Archive.h"
+#include "tests/cli/RunningTool.h"
+#include "tests/cli/ToolRun.h"
+
+// Large archives, and runs over them that meet what happens to runs.
+namespace {
+
+namespace fs = std::filesystem;
+using testing::HasSubstr;
+using testing::StartsWith;
+using tests::Archive;
+using tests::RunningTool;
+using tests::RunTool;
+using tests::ToolResult;
+
+constexpr std::size_t kFiles = 3000;
+constexpr std::size_t kNoTrials = kFiles / 12 * 2;
+constexpr std::size_t kFailed = kNoTrials + kFiles / 12;  // those and the broken ones
+
+// The files that are named on standard error, one a line.
+std::size_t LinesIn(const std::string& text) {
+  return static_cast<std::size_t>(std::ranges::count(text, '\n'));
+}
+
+class LargeArchive : public testing::Test {
+ protected:
+  static void SetUpTestSuite() { archive_ = new Archive(kFiles); }
+  static void TearDownTestSuite() { delete archive_; }
+
+  static std::vector<std::string> Command(const std::string& jobs, std::vector<std::string> rest) {
+    std::vector<std::string> arguments = {"--recursive", "--jobs", jobs};
+    arguments.insert(arguments.end(), rest.begin(), rest.end());
+    arguments.push_back(archive_->Path());
+    return arguments;
+  }
+
+  static inline Archive* archive_ = nullptr;
+};
+
+TEST_F(LargeArchive, GivesEqualBytesWithOneTwoAndEightJobs) {
+  const std::vector<std::vector<std::string>> reports = {
+      {"--format", "csv", "measures"},
+      {"--format", "json", "summary"},
+      {"--format", "csv", "--label", "LTOE", "normalized"},
+      {"events"},
+      {"--format", "json", "check"},
+      {"--format", "csv", "norms"}};
+  for (const auto& report : reports) {
+    const ToolResult one = RunTool(Command("1", report));
+    EXPECT_EQ(one.Status, 1);
+    EXPECT_GE(LinesIn(one.Err), report.back() == "check" ? 0 : kNoTrials);
+    for (const std::string jobs : {"2", "8"}) {
+      const ToolResult several = RunTool(Command(jobs, report));
+      EXPECT_EQ(several.Status, one.Status);
+      EXPECT_TRUE(several.Out == one.Out) << report.back() << ' ' << jobs;
+      EXPECT_TRUE(several.Err == one.Err) << report.back() << ' ' << jobs;
+    }
+  }
+}
+
+TEST_F(LargeArchive, EndsQuietlyWhereNobodyReadsOn) {
+  for (const std::string jobs : {"1", "2", "8"}) {
+    for (const std::string format : {"text", "csv", "json"}) {
+      const ToolResult run =
+          RunTool(Command(jobs, {"--format", format, "measures"}), {.ClosedPipe = true});
+      EXPECT_LE(LinesIn(run.Err), kFailed) << "a file that failed in front of it may be named";
+      EXPECT_THAT(run.Err, testing::Not(HasSubstr("standard output")));
+    }
+  }
+}
+
+TEST_F(LargeArchive, FilesThatVanishedSinceTheyWereListedAreNamedAndStopNoOther) {
+  std::vector<std::string> arguments = {"--jobs", "4", "--format", "csv", "events"};
+  for (int i = 0; i < 300; ++i) {
+    if (i % 3 == 0) arguments.push_back("gone/" + std::to_string(i));
+    arguments.push_back((*archive_ / "visit000/00000.c3d").string());
+  }
+  const ToolResult run = RunTool(arguments);
+  EXPECT_EQ(run.Status, 1);
+  EXPECT_EQ(LinesIn(run.Err), 100U);
+  EXPECT_THAT(run.Err, StartsWith("vantrel-report: gone/0: "));
+  EXPECT_EQ(LinesIn(run.Out), 1 + 300 * 17U);
+}
+
+TEST_F(LargeArchive, ItsNamesMayBeNoUtf8) {
+  const tests::TemporaryFolder folder;
+  fs::create_directory(folder.Path() / "m\xFCller");
+  for (const char* name : {"m\xFCller/a\xFF.c3d", "m\xFCller/b.c3d"}) {
+    fs::copy_file(VANTREL_SAMPLE_WALK, folder.Path() / name);
+  }
+  std::ofstream(folder.Path() / "m\xFCller/\xFE.c3d") << "No trial.";
+  const ToolResult text = RunTool({"--recursive", "--jobs", "2", "groups", "."}, {}, folder.Path());
+  EXPECT_THAT(text.Out, StartsWith("==> ./m\xFCller/a\xFF.c3d <==\n"));
+  EXPECT_THAT(text.Err, HasSubstr("./m\\xFCller/\\xFE.c3d: "));
+  const ToolResult json =
+      RunTool({"--recursive", "--jobs", "2", "--format", "json", "events", "."}, {}, folder.Path());
+  EXPECT_FALSE(rapidjson::Document().Parse(json.Out.c_str()).HasParseError());
+}
+
+// What stands in a row is whole: as many commas as in the first.
+void ExpectWholeLines(const std::string& csv) {
+  ASSERT_FALSE(csv.empty());
+  EXPECT_EQ(csv.back(), '\n');
+  for (const std::string& line : tests::LinesOf(csv)) {
+    ASSERT_EQ(std::ranges::count(line, ','), 5) << line;
+  }
+}
+
+TEST_F(LargeArchive, InterruptedLeavesWholeRowsInAFile) {
+  int interrupted = 0;
+  for (int i = 0; i < 12; ++i) {
+    RunningTool tool(Command(i % 2 == 0 ? "1" : "4", {"--format", "csv", "measures"}),
+                     RunningTool::Output::File);
+    tool.AwaitOutput(static_cast<std::size_t>(i) * 100'000 + 1);
+    tool.Send(std::array{SIGINT, SIGTERM, SIGHUP}[static_cast<std::size_t>(i % 3)]);
+    if (tool.Wait() != 0) ++interrupted;
+    ExpectWholeLines(tool.Out());
+  }
+  EXPECT_GT(interrupted, 0);
+}
+
+TEST_F(LargeArchive, InterruptedLeavesAWholeArrayInAFile) {
+  int interrupted = 0;
+  for (int i = 0; i < 12; ++i) {
+    RunningTool tool(Command(i % 2 == 0 ? "1" : "4", {"--format", "json", "measures"}),
+                     RunningTool::Output::File);
+    tool.AwaitOutput(static_cast<std::size_t>(i) * 200'000 + 1);
+    tool.Send(SIGINT);
+    if (tool.Wait() == SIGINT) ++interrupted;
+    const std::string out = tool.Out();
+    EXPECT_FALSE(rapidjson::Document().Parse(out.c_str()).HasParseError())
+        << out.substr(out.size() < 200 ? 0 : out.size() - 200);
+  }
+  EXPECT_GT(interrupted, 0);
+}
+
+TEST_F(LargeArchive, InterruptedBehindAReaderWhoDoesNotReadEndsAllTheSame) {
+  for (const std::string jobs : {"1", "4"}) {
+    for (const std::string format : {"text", "csv", "json"}) {
+      RunningTool tool(Command(jobs, {"--format", format, "measures"}),
+                       RunningTool::Output::UnreadPipe);
+      std::this_thread::sleep_for(std::chrono::milliseconds(200));
+      tool.Send(SIGINT);
+      EXPECT_EQ(tool.Wait(), SIGINT);
+    }
+  }
+}
+
+TEST_F(LargeArchive, InterruptedWhileGcdFilesAreWrittenLeavesWholeSets) {
+  for (int i = 0; i < 10; ++i) {
+    const tests::TemporaryFolder out;
+    RunningTool tool(Command("4", {"--output-dir", out.Path().string(), "gcd"}),
+                     RunningTool::Output::File);
+    std::this_thread::sleep_for(std::chrono::milliseconds(30 * i));
+    tool.Send(SIGTERM);
+    EXPECT_EQ(tool.Wait(), SIGTERM);
+    std::map<std::string, int> sets;
+    for (const std::string& name : tests::NamesIn(out.Path())) {
+      ASSERT_TRUE(name.ends_with(".gcd")) << "something temporary is left: " << name;
+      ++sets[name.substr(0, 5)];
+    }
+    for (const auto& [trial, count] : sets) {
+      EXPECT_TRUE(count == 6 || count == 1) << trial << ": " << count;
+    }
+  }
+}
+
+TEST_F(LargeArchive, ShowsItsProgressOnATerminalAlone) {
+  const RunningTool shown(Command("2", {"--format", "csv", "check"}),
+                          RunningTool::Output::Terminal);
+  EXPECT_THAT(shown.Out(), HasSubstr(" of 3000 files"));
+  EXPECT_THAT(shown.Out(), HasSubstr(" failed"));
+  RunningTool file(Command("2", {"--format", "csv", "check"}), RunningTool::Output::File);
+  file.Wait();
+  EXPECT_EQ(file.Err(), "");
+}
+
+}  // namespace

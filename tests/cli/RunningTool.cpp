@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "tests/cli/RunningTool.h"
+
+#include <array>
+#include <csignal>
+#include <fcntl.h>
+#include <pty.h>
+#include <stdexcept>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+#include <utility>
+
+namespace tests {
+
+namespace {
+
+constexpr mode_t kFileMode = 0600;
+
+int NewFile(const std::filesystem::path& path) {
+  return ::open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, kFileMode);
+}
+
+// The two ends of what is not a file: the one to read, and the one that the tool is given.
+std::array<int, 2> EndsOf(RunningTool::Output output) {
+  std::array<int, 2> ends{};
+  const int failed = output == RunningTool::Output::Terminal
+                         ? ::openpty(&ends[0], &ends[1], nullptr, nullptr, nullptr)
+                         : ::pipe2(ends.data(), O_CLOEXEC);
+  if (failed != 0) throw std::runtime_error("cannot make a pipe or terminal");
+  return ends;
+}
+
+void Become(const std::vector<std::string>& arguments) {
+  std::string program = VANTREL_REPORT_TOOL;
+  std::vector<std::string> words = arguments;
+  std::vector<char*> argv = {program.data()};
+  for (std::string& word : words) argv.push_back(word.data());
+  argv.push_back(nullptr);
+  ::execv(program.c_str(), argv.data());
+}
+
+}  // namespace
+
+RunningTool::RunningTool(const std::vector<std::string>& arguments, Output output) {
+  int out = NewFile(folder_ / "out");
+  int err = NewFile(folder_ / "err");
+  if (output != Output::File) {
+    const auto ends = EndsOf(output);
+    readEnd_ = ends[0];
+    ::close(std::exchange(out, ends[1]));
+  }
+  if (output == Output::Terminal) ::close(std::exchange(err, ::dup(out)));
+  child_ = ::fork();
+  if (child_ == 0) {
+    ::dup2(out, STDOUT_FILENO);
+    ::dup2(err, STDERR_FILENO);
+    Become(arguments);
+    ::_exit(127);
+  }
+  ::close(out);
+  ::close(err);
+  if (output == Output::Terminal) ReadTerminal();
+}
+
+RunningTool::~RunningTool() {
+  if (child_ > 0) ::kill(child_, SIGKILL);
+  Wait();
+  if (readEnd_ >= 0) ::close(readEnd_);
+}
+
+// Until the tool closes its end.
+void RunningTool::ReadTerminal() {
+  std::array<char, 4096> piece{};
+  for (ssize_t size = 1; size > 0;) {
+    size = ::read(readEnd_, piece.data(), piece.size());
+    if (size > 0) shown_.append(piece.data(), static_cast<std::size_t>(size));
+  }
+}
+
+void RunningTool::Send(int signal) const { ::kill(child_, signal); }
+
+int RunningTool::Wait() {
+  if (child_ > 0) ::waitpid(std::exchange(child_, -1), &status_, 0);
+  return WIFSIGNALED(status_) ? WTERMSIG(status_) : 0;
+}
+
+void RunningTool::AwaitOutput(std::size_t bytes) const {
+  siginfo_t ended{};
+  while (Out().size() < bytes && ended.si_pid == 0) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    ::waitid(P_PID, static_cast<id_t>(child_), &ended, WEXITED | WNOHANG | WNOWAIT);
+  }
+}
+
+std::string RunningTool::Out() const {
+  return shown_.empty() ? ReadWholeFile(folder_ / "out") : shown_;
+}
+
+std::string RunningTool::Err() const { return ReadWholeFile(folder_ / "err"); }
+
+}  // namespace tests
