@@ -50,7 +50,7 @@ class Workshop {
 
   // Takes all that the works make, in their order.
   void TakeAll() {
-    for (turn_ = 0; turn_ < works_.Count; PassOn()) {
+    for (; turn_ < works_.Count; PassOn()) {
       while (!TakeSome()) {
       }
       works_.Meanwhile();
@@ -151,7 +151,7 @@ class Workshop {
   std::condition_variable ready_;
   std::map<std::size_t, Made> made_;
   std::size_t next_ = 0;
-  std::size_t turn_ = 0;
+  std::size_t turn_ = 0;  // changed by the taking thread alone
   std::size_t waiting_ = 0;
 };
 

@@ -4,17 +4,15 @@
 #include <array>
 #include <chrono>
 #include <csignal>
-#include <fcntl.h>
 #include <filesystem>
 #include <string>
-#include <sys/wait.h>
 #include <thread>
-#include <unistd.h>
 #include <vector>
 
 #include <gtest/gtest.h>
 
 #include "tests/GaitTrials.h"
+#include "tests/cli/RunningTool.h"
 #include "tests/cli/ToolInFolder.h"
 
 // Runs of the tool that write the same GCD files at once, and runs that do not come to their end.
@@ -65,26 +63,13 @@ TEST(GcdTogether, OneOfTwoRunsWritesAllItsFilesAndTheOtherNone) {
   }
 }
 
-// The end of a run that is sent `signal` after a while.
-int EndAfter(const ToolInFolder& tool, std::vector<std::string> arguments, int signal,
+// The signal that ended a run which is sent `signal` after a while; 0 where it came to its end.
+int EndAfter(const ToolInFolder& tool, const std::vector<std::string>& arguments, int signal,
              std::chrono::microseconds while_) {
-  const pid_t child = ::fork();
-  if (child == 0) {
-    std::string program = VANTREL_REPORT_TOOL;
-    std::vector<char*> argv = {program.data()};
-    for (std::string& argument : arguments) argv.push_back(argument.data());
-    argv.push_back(nullptr);
-    const int nothing = ::open("/dev/null", O_WRONLY);
-    ::dup2(nothing, STDOUT_FILENO);
-    ::dup2(nothing, STDERR_FILENO);
-    if (::chdir(tool.Path().c_str()) == 0) ::execv(program.c_str(), argv.data());
-    ::_exit(127);
-  }
+  tests::RunningTool run(arguments, tests::RunningTool::Output::File, tool.Path());
   std::this_thread::sleep_for(while_);
-  ::kill(child, signal);
-  int status = 0;
-  ::waitpid(child, &status, 0);
-  return status;
+  run.Send(signal);
+  return run.Wait();
 }
 
 TEST(GcdInterrupted, LeavesAWholeSetOrNothing) {
@@ -92,13 +77,13 @@ TEST(GcdInterrupted, LeavesAWholeSetOrNothing) {
   int interrupted = 0;
   for (int i = 0; i < 60; ++i) {
     const int signal = std::array{SIGINT, SIGTERM, SIGHUP}[static_cast<std::size_t>(i % 3)];
-    const int status =
+    const int ended =
         EndAfter(tool, {"gcd", kSampleWalk}, signal, std::chrono::microseconds(1000 * i));
     const auto files = GcdFilesIn(tool).size();
     EXPECT_TRUE(files == 0 || files == kStrides) << files;
     EXPECT_EQ(NamesIn(tool.Path()).size(), files + 1) << "something temporary is left";
-    if (WIFSIGNALED(status)) {
-      EXPECT_EQ(WTERMSIG(status), signal);
+    if (ended != 0) {
+      EXPECT_EQ(ended, signal);
       ++interrupted;
     } else {
       EXPECT_EQ(files, kStrides);

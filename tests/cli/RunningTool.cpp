@@ -12,15 +12,11 @@
 #include <unistd.h>
 #include <utility>
 
+#include "tests/cli/BecomeTool.h"
+
 namespace tests {
 
 namespace {
-
-constexpr mode_t kFileMode = 0600;
-
-int NewFile(const std::filesystem::path& path) {
-  return ::open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, kFileMode);
-}
 
 // The two ends of what is not a file: the one to read, and the one that the tool is given.
 std::array<int, 2> EndsOf(RunningTool::Output output) {
@@ -32,20 +28,12 @@ std::array<int, 2> EndsOf(RunningTool::Output output) {
   return ends;
 }
 
-void Become(const std::vector<std::string>& arguments) {
-  std::string program = VANTREL_REPORT_TOOL;
-  std::vector<std::string> words = arguments;
-  std::vector<char*> argv = {program.data()};
-  for (std::string& word : words) argv.push_back(word.data());
-  argv.push_back(nullptr);
-  ::execv(program.c_str(), argv.data());
-}
-
 }  // namespace
 
-RunningTool::RunningTool(const std::vector<std::string>& arguments, Output output) {
-  int out = NewFile(folder_ / "out");
-  int err = NewFile(folder_ / "err");
+RunningTool::RunningTool(const std::vector<std::string>& arguments, Output output,
+                         const std::filesystem::path& folder) {
+  int out = OutputFile(folder_ / "out");
+  int err = OutputFile(folder_ / "err");
   if (output != Output::File) {
     const auto ends = EndsOf(output);
     readEnd_ = ends[0];
@@ -53,12 +41,7 @@ RunningTool::RunningTool(const std::vector<std::string>& arguments, Output outpu
   }
   if (output == Output::Terminal) ::close(std::exchange(err, ::dup(out)));
   child_ = ::fork();
-  if (child_ == 0) {
-    ::dup2(out, STDOUT_FILENO);
-    ::dup2(err, STDERR_FILENO);
-    Become(arguments);
-    ::_exit(127);
-  }
+  if (child_ == 0) BecomeTool(arguments, folder, out, err);
   ::close(out);
   ::close(err);
   if (output == Output::Terminal) ReadTerminal();

@@ -18,7 +18,9 @@ class RunningTool {
   // takes what it complains of.
   enum class Output { File, UnreadPipe, Terminal };
 
-  RunningTool(const std::vector<std::string>& arguments, Output output);
+  // Runs in `folder`, the current one where it is empty.
+  RunningTool(const std::vector<std::string>& arguments, Output output,
+              const std::filesystem::path& folder = {});
   RunningTool(const RunningTool&) = delete;
   RunningTool& operator=(const RunningTool&) = delete;
   ~RunningTool();

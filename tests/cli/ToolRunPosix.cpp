@@ -8,20 +8,14 @@
 #include <unistd.h>
 
 #include "tests/TestTrials.h"
+#include "tests/cli/BecomeTool.h"
 #include "tests/cli/ToolRun.h"
 
 namespace tests {
 
 namespace {
 
-constexpr mode_t kFileMode = 0600;
 constexpr int kCannotRun = 127;
-
-int OpenForWriting(const std::string& path) {
-  const int descriptor = ::open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, kFileMode);
-  if (descriptor < 0) throw std::runtime_error("cannot write " + path);
-  return descriptor;
-}
 
 int PipeWithoutReader() {
   std::array<int, 2> ends{};
@@ -35,17 +29,6 @@ void LimitMemory(std::size_t bytes) {
   if (bytes > 0 && ::setrlimit(RLIMIT_AS, &limit) != 0) ::_exit(kCannotRun);
 }
 
-// Becomes the tool; returns only where that fails.
-void Become(const std::vector<std::string>& arguments, const std::filesystem::path& folder) {
-  if (!folder.empty() && ::chdir(folder.c_str()) != 0) return;
-  std::string program = VANTREL_REPORT_TOOL;
-  std::vector<std::string> words = arguments;
-  std::vector<char*> argv = {program.data()};
-  for (std::string& word : words) argv.push_back(word.data());
-  argv.push_back(nullptr);
-  ::execv(program.c_str(), argv.data());
-}
-
 }  // namespace
 
 ToolResult RunTool(const std::vector<std::string>& arguments, const ToolSurroundings& surroundings,
@@ -55,15 +38,12 @@ ToolResult RunTool(const std::vector<std::string>& arguments, const ToolSurround
   const std::string complaints = (own / "err").string();
   const int out = surroundings.ClosedPipe
                       ? PipeWithoutReader()
-                      : OpenForWriting(surroundings.Path.empty() ? collected : surroundings.Path);
-  const int err = surroundings.ClosedErrorPipe ? PipeWithoutReader() : OpenForWriting(complaints);
+                      : OutputFile(surroundings.Path.empty() ? collected : surroundings.Path);
+  const int err = surroundings.ClosedErrorPipe ? PipeWithoutReader() : OutputFile(complaints);
   const pid_t child = ::fork();
   if (child == 0) {
-    ::dup2(out, STDOUT_FILENO);
-    ::dup2(err, STDERR_FILENO);
     LimitMemory(surroundings.MostMemory);
-    Become(arguments, folder);
-    ::_exit(kCannotRun);
+    BecomeTool(arguments, folder, out, err);
   }
   ::close(out);
   ::close(err);
