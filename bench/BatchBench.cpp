@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <algorithm>
-#include <array>
 #include <chrono>
 #include <cstddef>
 #include <cstdlib>
@@ -17,8 +16,8 @@
 
 #include "bench/BenchTrial.h"
 #include "bench/Budget.h"
+#include "bench/ClinicalTrial.h"
 #include "gait/EventExtraction.h"
-#include "sample/SampleWalk.h"
 
 // The tool's measures of 1,000 copies of a trial of 2 MB, by one process and by two, against a bare
 // loop that reads the copies once.
@@ -32,20 +31,12 @@ constexpr int kCopies = 1000;
 constexpr int kCopiesATurn = 125;  // of one of two processes
 constexpr const char* kSeconds = "seconds";
 
-// The sample walk with as many silent markers as make 2 MB of it.
-sample::Trial TrialOf2Megabytes() {
-  sample::TrialBuilder walk = sample::SampleWalk();
-  constexpr int kMarkers = 225;
-  for (int i = 0; i < kMarkers; ++i) {
-    walk.AddPoint(fmt::format("M{}", i), [](std::int32_t) { return std::array{0.F, 0.F, 0.F}; });
-  }
-  return walk.Build();
-}
-
 // The copies, and a list of their names, each ended by a zero byte.
 class Copies {
  public:
-  Copies() : trial_(TrialOf2Megabytes(), BenchTrial::Frames::Written, modVantrel::FindGaitEvents) {
+  Copies()
+      : trial_(bench::TrialOf2Megabytes(), BenchTrial::Frames::Written,
+               modVantrel::FindGaitEvents) {
     std::ofstream list(List(), std::ios::binary);
     for (int i = 0; i < kCopies; ++i) {
       files_.push_back((trial_.Folder() / fmt::format("{}.c3d", i)).string());
