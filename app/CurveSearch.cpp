@@ -90,9 +90,9 @@ double PercentOfTrace(const pages::Trace& trace, std::size_t frame) {
   return span > 0 ? kWhole * (double{trace.Times[frame]} - start) / span : 0;
 }
 
-using Found = std::pair<double, std::optional<PointedAt>>;  // with the distance
+using BestSoFar = std::pair<double, std::optional<PointedAt>>;  // with the distance
 
-void Keep(Found& best, const Nearest& nearest, const PointedAt& what) {
+void Keep(BestSoFar& best, const Nearest& nearest, const PointedAt& what) {
   if (nearest.Distance >= best.first) return;
   best = {nearest.Distance, what};
   best.second->Instant = nearest.Instant;
@@ -107,7 +107,7 @@ struct Search {
 
   std::optional<PointedAt> operator()(const pages::CurvePanel& panel) const {
     constexpr double kBefore = 0.5;  // of its distance: what is lifted lies in front
-    Found best{Reach, {}};
+    BestSoFar best{Reach, {}};
     const Scales scales(Sight);
     const bool isStrides = Style.Curves == plot::Shown::Strides;
     for (const pages::Curve& curve : panel.Curves) {
@@ -135,7 +135,7 @@ struct Search {
   std::optional<PointedAt> operator()(const pages::TracePanel& panel) const {
     const pages::Page& page = Sight.Page;
     if (!page.OverTime || page.OverTime->Times.size() != panel.Values.size()) return std::nullopt;
-    Found best{Reach, {}};
+    BestSoFar best{Reach, {}};
     Keep(best,
          NearestOf(panel.Values, Scales(Sight), Point,
                    [&](std::size_t i) { return PercentOfTrace(*page.OverTime, i); }),

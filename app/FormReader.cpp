@@ -21,7 +21,7 @@ class Reader : public QAccessibleWidget {
   }
 };
 
-QAccessibleInterface* MakeReader(const QString& /*className*/, QObject* object) {
+QAccessibleInterface* MakeFormReader(const QString& /*className*/, QObject* object) {
   auto* form = qobject_cast<frmVantrel*>(object);
   return form == nullptr ? nullptr : new Reader(form);
 }
@@ -30,7 +30,7 @@ QAccessibleInterface* MakeReader(const QString& /*className*/, QObject* object) 
 
 void Install() {
   static const bool installed = [] {
-    QAccessible::installFactory(MakeReader);
+    QAccessible::installFactory(MakeFormReader);
     return true;
   }();
   static_cast<void>(installed);

@@ -19,7 +19,7 @@ constexpr QRect Left(int top, int height) { return {kFormMargin, top, kHalfWidth
 constexpr QRect Right(int top, int height) { return {kRight, top, kHalfWidth, height}; }
 constexpr QRect Whole(int top, int height) { return {kFormMargin, top, kColumnWidth, height}; }
 
-constexpr auto kRows = std::to_array<FormRow>({
+constexpr auto kFormRows = std::to_array<FormRow>({
     ButtonRow{"cmdOpen", u"Open C3D", Left(8, kOneLine), &frmVantrel::cmdOpen_Click},
     ButtonRow{"cmdExit", u"Exit", Right(8, kOneLine), &frmVantrel::cmdExit_Click},
     ButtonRow{"cmdShowHeaderInfo", u"Show Header Info", Left(37, kOneLine),
@@ -84,6 +84,6 @@ constexpr auto kRows = std::to_array<FormRow>({
 
 }  // namespace
 
-std::span<const FormRow> FormRows() { return kRows; }
+std::span<const FormRow> FormRows() { return kFormRows; }
 
 }  // namespace app

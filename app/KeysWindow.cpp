@@ -16,7 +16,7 @@ namespace app {
 
 namespace {
 
-constexpr QSize kSize(560, 560);
+constexpr QSize kKeysSize(560, 560);
 
 // A caption without the marks of its letters.
 QString Plain(QString caption) {
@@ -67,7 +67,7 @@ void Fill(QTableWidget& table) {
 KeysWindow::KeysWindow(QWidget* parent) : QDialog(parent) {
   setObjectName(QStringLiteral("KeysWindow"));
   setWindowTitle(tr("Keys"));
-  resize(kSize);
+  resize(kKeysSize);
   auto* column = new QVBoxLayout(this);
   auto* table = new QTableWidget(0, 3);
   table->setObjectName(QStringLiteral("tblKeys"));

@@ -22,7 +22,7 @@ namespace app {
 
 namespace {
 
-constexpr QSize kSize(820, 640);
+constexpr QSize kManualSize(820, 640);
 
 // The name by which links lead to a heading: its letters and digits in lower case, with hyphens for
 // blanks.
@@ -81,7 +81,7 @@ ManualWindow::ManualWindow(const QString& markdown, QWidget* parent)
       lblResult_(new QLabel) {
   setObjectName(QStringLiteral("ManualWindow"));
   setWindowTitle(tr("Manual"));
-  resize(kSize);
+  resize(kManualSize);
   auto* column = new QVBoxLayout(this);
   browser_->setObjectName(QStringLiteral("txtManual"));
   browser_->setAccessibleName(tr("Manual"));

@@ -18,7 +18,7 @@ using enum MenuName;
 constexpr MenuTurn kAtOnce = MenuTurn::AtOnce;
 constexpr bool kNewGroup = true;
 
-constexpr std::array kRows = {
+constexpr std::array kMenuRows = {
     MenuRow{.Menu = File,
             .Name = "mnuOpen",
             .Caption = u"&Open\u2026",
@@ -195,7 +195,7 @@ QString CaptionOf(MenuName menu) {
   return {};
 }
 
-std::span<const MenuRow> MenuRows() { return kRows; }
+std::span<const MenuRow> MenuRows() { return kMenuRows; }
 
 bool IsReportButton(const ButtonRow& button) {
   return button.Click != &frmVantrel::cmdOpen_Click && button.Click != &frmVantrel::cmdExit_Click;

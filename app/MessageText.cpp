@@ -17,14 +17,14 @@ namespace app {
 namespace {
 
 // A label to a screen reader, which reads the labels of a box when it comes up.
-QAccessibleInterface* MakeReader(const QString& /*className*/, QObject* object) {
+QAccessibleInterface* MakeTextReader(const QString& /*className*/, QObject* object) {
   auto* text = qobject_cast<MessageText*>(object);
   return text == nullptr ? nullptr : new QAccessibleWidget(text, QAccessible::StaticText);
 }
 
 void InstallReader() {
   static const bool installed = [] {
-    QAccessible::installFactory(MakeReader);
+    QAccessible::installFactory(MakeTextReader);
     return true;
   }();
   static_cast<void>(installed);

@@ -10,7 +10,7 @@ namespace {
 
 constexpr long kLongestHandedOver = 65'536;  // bytes
 
-QAccessibleInterface* MakeReader(const QString& /*className*/, QObject* object) {
+QAccessibleInterface* MakePaneReader(const QString& /*className*/, QObject* object) {
   auto* pane = qobject_cast<OutputPane*>(object);
   return pane == nullptr ? nullptr : new OutputPaneReader(pane);
 }
@@ -22,7 +22,7 @@ OutputPaneReader::OutputPaneReader(OutputPane* pane)
 
 void OutputPaneReader::Install() {
   static const bool installed = [] {
-    QAccessible::installFactory(MakeReader);
+    QAccessible::installFactory(MakePaneReader);
     return true;
   }();
   static_cast<void>(installed);

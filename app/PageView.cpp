@@ -38,7 +38,7 @@ bool HasStride(const pages::Page& page, const pages::StrideId& stride) {
 }
 
 // A tooltip that shows its text as it stands.
-QString AsToolTip(const QString& text) {
+QString UnwrappedToolTip(const QString& text) {
   return QStringLiteral("<span style='white-space:pre'>%1</span>").arg(text.toHtmlEscaped());
 }
 
@@ -196,7 +196,7 @@ void PageView::PointAt(const std::optional<PointedAt>& what, const QPoint& place
   if (text.isEmpty()) {
     QToolTip::hideText();
   } else {
-    QToolTip::showText(mapToGlobal(place), AsToolTip(text), this);
+    QToolTip::showText(mapToGlobal(place), UnwrappedToolTip(text), this);
   }
   emit Pointed(text);
 }

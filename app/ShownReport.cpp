@@ -35,7 +35,7 @@ struct Rows {
   RowsFunction Write;
 };
 
-constexpr std::array kRows = {
+constexpr std::array kRowsOfReports = {
     Rows{"header", reports::HeaderRows},         Rows{"parameters", reports::ParameterRows},
     Rows{"labels", reports::LabelRows},          Rows{"point", reports::PointRows},
     Rows{"analog", reports::AnalogRows},         Rows{"events", reports::EventRows},
@@ -45,7 +45,7 @@ constexpr std::array kRows = {
 
 constexpr bool HasItsRows(const reports::ReportInfo& info) {
   return info.Columns.empty() || info.Pools || info.ReadsAnyFile ||
-         std::ranges::find(kRows, info.Name, &Rows::Report) != kRows.end();
+         std::ranges::find(kRowsOfReports, info.Name, &Rows::Report) != kRowsOfReports.end();
 }
 static_assert(std::ranges::all_of(reports::kReports, HasItsRows));
 
@@ -57,7 +57,7 @@ Complaints WriteRows(const ShownReport& report, const std::string& file, TableOu
   }
   FileState state;
   if (std::string refusal = OpenAnew(file, state); !refusal.empty()) return {refusal};
-  return std::ranges::find(kRows, report.Name, &Rows::Report)
+  return std::ranges::find(kRowsOfReports, report.Name, &Rows::Report)
       ->Write(state, name, report.Options, table);
 }
 

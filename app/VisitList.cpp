@@ -43,7 +43,7 @@ QString WarningsOf(const VisitTrial& trial) {
 }
 
 // A tooltip that shows its text as it stands, its long lines wrapped.
-QString AsToolTip(const QString& text) {
+QString WrappedToolTip(const QString& text) {
   return QStringLiteral("<p>%1</p>")
       .arg(text.toHtmlEscaped().replace(u'\n', QStringLiteral("</p><p>")));
 }
@@ -115,8 +115,8 @@ void VisitList::Update(QTreeWidgetItem& item, const VisitTrial& trial) {
   const QString state = StateText(trial);
   item.setText(0, ToQString(modAllPurpose::OwnName(trial.Path)));
   item.setText(1, !state.isEmpty() || warnings.isEmpty() ? state : tr("See checkup"));
-  item.setToolTip(0, AsToolTip(ToQString(trial.Path)));
-  item.setToolTip(1, AsToolTip(trial.Failure.empty() ? warnings : state));
+  item.setToolTip(0, WrappedToolTip(ToQString(trial.Path)));
+  item.setToolTip(1, WrappedToolTip(trial.Failure.empty() ? warnings : state));
   item.setData(0, Qt::AccessibleTextRole, ToQString(SpokenName(trial, warnings)));
   item.setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
   item.setCheckState(0, CheckOf(trial.IsShown));

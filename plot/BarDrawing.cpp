@@ -17,9 +17,9 @@ using pages::BarGroup;
 
 namespace {
 
-constexpr int kTextSize = 62;
-constexpr int kLeastSize = 46;
-constexpr double kLine = 78;
+constexpr int kBarTextSize = 62;
+constexpr int kLeastBarTextSize = 46;
+constexpr double kBarTextLine = 78;
 constexpr double kBelowPlot = 78;  // from the frame to the first line of text
 
 // The room of one group, or of one bar of it.
@@ -30,7 +30,7 @@ struct Slot {
   double Centre() const { return Left + Width / 2; }
 };
 
-Slot Part(const Slot& whole, std::size_t index, std::size_t count) {
+Slot ShareOf(const Slot& whole, std::size_t index, std::size_t count) {
   const double width = whole.Width / static_cast<double>(std::max<std::size_t>(count, 1));
   return {whole.Left + static_cast<double>(index) * width, width};
 }
@@ -96,7 +96,7 @@ QString NumberOf(const Bar& bar, int decimals, double room, const TextStyle& lea
 
 void SetFitted(const Canvas& canvas, const QPointF& base, const QString& text, double room,
                TextStyle style) {
-  style = Fitted(style, text, room, kLeastSize);
+  style = Fitted(style, text, room, kLeastBarTextSize);
   SetText(canvas.Painter, base, Align::Centre, Shortened(text, style, room), style);
 }
 
@@ -104,15 +104,15 @@ void DrawBarTexts(const Canvas& canvas, const Bar& bar, const Slot& slot, double
                   int decimals) {
   constexpr double kApart = 20;
   const double room = slot.Width - kApart;
-  const TextStyle least{Face::Regular, kLeastSize, ColourOf(bar.Side, canvas.Style)};
+  const TextStyle least{Face::Regular, kLeastBarTextSize, ColourOf(bar.Side, canvas.Style)};
   TextStyle style = least;
-  style.Size = kTextSize;
+  style.Size = kBarTextSize;
   SetFitted(canvas, {slot.Centre(), bottom + kBelowPlot}, NumberOf(bar, decimals, room, least),
             room, style);
   const QString count = QString::number(bar.Count);
   const QString named = QStringLiteral("n = ") + count;
   style.Colour = ColoursOf(canvas.Style).Quiet;
-  SetFitted(canvas, {slot.Centre(), bottom + kBelowPlot + kLine},
+  SetFitted(canvas, {slot.Centre(), bottom + kBelowPlot + kBarTextLine},
             WidthOf(named, least) <= room ? named : count, room, style);
 }
 
@@ -121,17 +121,17 @@ void DrawGroupTexts(const Canvas& canvas, const BarGroup& group, const Slot& slo
                     bool isAlone) {
   constexpr double kApart = 20;
   constexpr std::size_t kLines = 3;
-  const TextStyle style{isAlone ? Face::Regular : Face::Bold, isAlone ? kTextSize : 56,
+  const TextStyle style{isAlone ? Face::Regular : Face::Bold, isAlone ? kBarTextSize : 56,
                         isAlone ? ColoursOf(canvas.Style).Quiet : ColoursOf(canvas.Style).Ink};
   QString text = TextOf(group.Title);
   if (isAlone) {
     if (!group.Asymmetry) return;
     text = QStringLiteral("Asymmetry %1 %").arg(NumberText(*group.Asymmetry, 1));
   }
-  double y = bottom + kBelowPlot + 2 * kLine;
+  double y = bottom + kBelowPlot + 2 * kBarTextLine;
   for (const QString& line : Wrapped(text, style, slot.Width - kApart, kLines)) {
     SetText(canvas.Painter, {slot.Centre(), y}, Align::Centre, line, style);
-    y += kLine;
+    y += kBarTextLine;
   }
 }
 
@@ -145,10 +145,10 @@ void DrawBarPanel(const Canvas& canvas, const PanelPlace& place, const pages::Ba
   DrawGrid(canvas, axes);
   for (std::size_t i = 0; i < count; ++i) {
     const BarGroup& group = panel.Groups[i];
-    const Slot slot = Part(plot, i, count);
+    const Slot slot = ShareOf(plot, i, count);
     DrawNormal(canvas, group, slot, axes);
     for (std::size_t k = 0; k < group.Bars.size(); ++k) {
-      const Slot room = Part(slot, k, group.Bars.size());
+      const Slot room = ShareOf(slot, k, group.Bars.size());
       DrawBar(canvas, group.Bars[k], room, axes);
       DrawBarTexts(canvas, group.Bars[k], room, place.Plot.bottom(), decimals);
     }

@@ -19,12 +19,12 @@ using modVantrel::GaitSide;
 
 namespace {
 
-constexpr double kBetween = 80;  // between texts of one line
+constexpr double kBetweenTexts = 80;  // between texts of one line
 constexpr double kFirstLine = 110;
 constexpr double kSecondLine = 210;
 constexpr double kNamesLine = 300;
-constexpr double kLine = 88;
-constexpr int kTextSize = 76;
+constexpr double kNamesPitch = 88;  // from one line of names to the next
+constexpr int kHeadTextSize = 76;
 constexpr int kSmallSize = 66;
 
 bool HasCurves(const pages::Page& page) {
@@ -90,7 +90,7 @@ double DrawLegend(const Canvas& canvas, const std::vector<LegendItem>& items, co
   constexpr double kSample = 240;
   constexpr double kSampleHeight = 60;
   constexpr double kGap = 30;
-  const TextStyle style{Face::Regular, kTextSize, ColoursOf(canvas.Style).Ink};
+  const TextStyle style{Face::Regular, kHeadTextSize, ColoursOf(canvas.Style).Ink};
   double x = end.x();
   for (auto item = items.rbegin(); item != items.rend(); ++item) {
     SetText(canvas.Painter, {x, end.y()}, Align::Right, item->Text, style);
@@ -100,7 +100,7 @@ double DrawLegend(const Canvas& canvas, const std::vector<LegendItem>& items, co
     canvas.Painter.setPen(item->Line);
     canvas.Painter.drawLine(QPointF(sample.left(), sample.center().y()),
                             {sample.right(), sample.center().y()});
-    x -= kBetween;
+    x -= kBetweenTexts;
   }
   return x;
 }
@@ -144,7 +144,7 @@ void DrawTitles(const Canvas& canvas, const pages::PageSet& set, const pages::Pa
   if (!set.Title.empty()) {
     const QString right = Shortened(TextOf(page.Title), small, head.width() / 2);
     SetText(canvas.Painter, {head.right(), y}, Align::Right, right, small);
-    room -= WidthOf(right, small) + kBetween;
+    room -= WidthOf(right, small) + kBetweenTexts;
   }
   const QString left = TextOf(set.Title.empty() ? page.Title : set.Title);
   const TextStyle fitted = Fitted(title, left, room, small.Size);
@@ -194,7 +194,7 @@ void DrawHead(const Canvas& canvas, const pages::PageSet& set, const pages::Page
   DrawTitles(canvas, set, page, head);
   const double start = DrawLegend(canvas, LegendOf(set, page, canvas.Style),
                                   {head.right(), head.top() + kSecondLine});
-  const TextStyle text{Face::Regular, kTextSize, colours.Ink};
+  const TextStyle text{Face::Regular, kHeadTextSize, colours.Ink};
   SetText(canvas.Painter, {head.left(), head.top() + kSecondLine}, Align::Left,
           Shortened(TextOf(set.Subject), text, start - head.left()), text);
 
@@ -203,10 +203,10 @@ void DrawHead(const Canvas& canvas, const pages::PageSet& set, const pages::Page
   double y = head.top() + kNamesLine;
   const QString rate = RateText(files);
   SetText(canvas.Painter, {head.right(), y}, Align::Right, rate, small);
-  const double room = head.width() - WidthOf(rate, small) - kBetween;
+  const double room = head.width() - WidthOf(rate, small) - kBetweenTexts;
   for (const QString& line : TrialNameLines(files, small, room)) {
     SetText(canvas.Painter, {head.left(), y}, Align::Left, line, small);
-    y += kLine;
+    y += kNamesPitch;
   }
   DrawRule(canvas, head, head.bottom());
 }
@@ -226,7 +226,7 @@ void DrawFoot(const Canvas& canvas, const pages::PageSet& set, std::size_t index
               const QRectF& foot) {
   const TextStyle style{Face::Regular, kSmallSize, ColoursOf(canvas.Style).Quiet};
   const double y = foot.bottom() - 20;
-  const double room = foot.width() / 3 - kBetween;
+  const double room = foot.width() / 3 - kBetweenTexts;
   DrawRule(canvas, foot, foot.top() + 20);
   SetText(canvas.Painter, {foot.left(), y}, Align::Left,
           Shortened(TextOf(set.Program), style, room), style);

@@ -20,7 +20,7 @@ constexpr int kUnitSize = 62;
 constexpr int kNumberSize = 58;
 constexpr int kWordSize = 58;
 constexpr int kNoteSize = 62;
-constexpr int kLeastSize = 40;
+constexpr int kLeastNumberSize = 40;
 constexpr double kTick = 18;
 constexpr double kAboveFrame = 46;  // from the frame to the line of the title
 
@@ -72,7 +72,7 @@ void DrawOrdinateNumbers(const Canvas& canvas, const PanelPlace& place, const Ax
     const QString number = NumberText(tick, decimals);
     const TextStyle style =
         Fitted({isBold ? Face::Bold : Face::Regular, kNumberSize, ColoursOf(canvas.Style).Quiet},
-               number, room, kLeastSize);
+               number, room, kLeastNumberSize);
     SetText(canvas.Painter, {place.Plot.left() - 1.6 * kTick, y + kMiddleOfDigits * style.Size},
             Align::Right, Shortened(number, style, room), style);
   }
