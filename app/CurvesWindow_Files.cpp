@@ -38,10 +38,6 @@ void TellError(QWidget* owner, const modAllPurpose::RuntimeError& error) {
   ShowMessage(owner, "The file could not be written.  " + modAllPurpose::RuntimeErrorLine(error));
 }
 
-bool IsTrial(const std::string& path) {
-  return modAllPurpose::IsRegularFile(path) && modVantrel::BeginsLikeC3dFile(path);
-}
-
 }  // namespace
 
 plot::DrawingStyle CurvesWindow::PaperStyle() const {
@@ -94,7 +90,7 @@ void CurvesWindow::WriteOrTell(const std::vector<WholeFile>& files) {
     if (!taken.empty()) {
       // Each of the names that are taken is asked for by itself.
       for (const WholeFile& file : files) {
-        if (IsTrial(file.Path)) {
+        if (modVantrel::IsC3dFile(file.Path)) {
           ShowMessage(this, "The file '" + file.Path + "' is a C3D file and stays as it is.");
           return;
         }

@@ -11,7 +11,6 @@
 #include "app/QtText.h"
 #include "app/modMsgBoxPlus.h"
 #include "c3d/FileKey.h"
-#include "support/FileSystem.h"
 #include "support/RuntimeError.h"
 #include "support/WholeFiles.h"
 
@@ -69,7 +68,7 @@ bool MayReplace(QWidget* owner, const std::string& path) {
 // False where the user wants another name.
 bool Write(QWidget* owner, const std::string& path, const std::string& text) {
   if (modAllPurpose::WriteFileWhereFree(path, text)) return true;
-  if (modAllPurpose::IsRegularFile(path) && modVantrel::BeginsLikeC3dFile(path)) {
+  if (modVantrel::IsC3dFile(path)) {
     ShowMessage(owner, "The file '" + path + "' is a C3D file and stays as it is.");
     return false;
   }

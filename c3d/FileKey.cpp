@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "c3d/C3dFormat.h"
+#include "support/FileSystem.h"
 #include "support/RandomAccessFile.h"
 
 namespace modVantrel {
@@ -26,6 +27,10 @@ bool BeginsLikeC3dFile(const std::string& path) {
   if (count < 2 || std::to_integer<int>(start[1]) != kFileKey) return false;
   const std::string_view text(reinterpret_cast<const char*>(start.data()), count);
   return text != kOtherBeginnings[0] && text != kOtherBeginnings[1];
+}
+
+bool IsC3dFile(const std::string& path) {
+  return modAllPurpose::IsRegularFile(path) && BeginsLikeC3dFile(path);
 }
 
 }  // namespace modVantrel

@@ -57,8 +57,7 @@ std::string WhyKept(const std::string& path, const Request& request, const pages
       std::ranges::any_of(set.Files, isPath, &pages::PageFile::Name)) {
     return path + " is read for the pages and stays as it is";
   }
-  const bool isTrial = modAllPurpose::IsRegularFile(path) && modVantrel::BeginsLikeC3dFile(path);
-  return isTrial ? path + " is a C3D file and stays as it is" : "";
+  return modVantrel::IsC3dFile(path) ? path + " is a C3D file and stays as it is" : "";
 }
 
 // Writes the files; false where one is complained of.

@@ -77,10 +77,9 @@ std::string GcdFiles::AxesRemark() {
 }
 
 void GcdFiles::RefuseTrial(const std::string& name) const {
-  if (!modAllPurpose::IsRegularFile(name)) return;
   bool isTrial = modAllPurpose::IsSameFile(name, state_.OpenC3dFileSpec);
   try {
-    isTrial = isTrial || BeginsLikeC3dFile(name);
+    isTrial = isTrial || IsC3dFile(name);
   } catch (const RuntimeError& error) {
     throw RuntimeError(error.Number(), name);  // it may be one
   }

@@ -46,6 +46,14 @@ sample::PointCurve Moving(const std::array<float, 3>& start, const std::array<fl
   };
 }
 
+sample::TrialBuilder WalkOfOneStride() {
+  sample::TrialBuilder builder = WholeFrameTrial();
+  builder.AddPoint("LTOE", Moving({}, {20, 0, 0}))
+      .AddPoint("RTOE", Standing(840, 100, 0))
+      .AddPoint("LKneeAngles", Standing(30, 1, 2));
+  return builder;
+}
+
 std::string Numbered(const std::string& prefix, int number) {
   std::string name = prefix;
   name += std::to_string(number);

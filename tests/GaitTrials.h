@@ -53,6 +53,10 @@ inline constexpr StrideTimes kWholeFrameStride = {16.0F / 64, 21.0F / 64, 41.0F 
 sample::PointCurve Standing(float x, float y, float z);
 sample::PointCurve Moving(const std::array<float, 3>& start, const std::array<float, 3>& step);
 
+// The same trial with its left stride as a walk along X, a metre long, by the markers of the toes,
+// and the left knee at 30, 1 and 2 degrees throughout.
+sample::TrialBuilder WalkOfOneStride();
+
 // `prefix` and `number`, for the labels of a trial.
 std::string Numbered(const std::string& prefix, int number);
 

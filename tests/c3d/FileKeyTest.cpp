@@ -41,5 +41,16 @@ TEST_F(FileKey, AnotherKindOfFileWithTheSameSecondByteDoesNot) {
   EXPECT_FALSE(BeginsLikeC3dFile(Given("\x89PNG\r\n")));
   EXPECT_TRUE(BeginsLikeC3dFile(Given("%PDD"))) << "a trial whose parameters begin in block 37";
 }
+TEST_F(FileKey, OnlyAFileThatBeginsLikeOneIsATrial) {
+  sample::SampleWalk().Build().WriteTo(folder_ / "walk.c3d");
+  EXPECT_TRUE(modVantrel::IsC3dFile((folder_ / "walk.c3d").string()));
+  EXPECT_FALSE(modVantrel::IsC3dFile(Given("%PDF-1.4\n")));
+}
+
+// Neither of these can be read, and it is no error to ask.
+TEST_F(FileKey, WhatIsNoRegularFileIsNoTrial) {
+  EXPECT_FALSE(modVantrel::IsC3dFile(folder_.Path().string()));
+  EXPECT_FALSE(modVantrel::IsC3dFile((folder_ / "missing.c3d").string()));
+}
 
 }  // namespace

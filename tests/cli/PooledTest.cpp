@@ -18,15 +18,7 @@ using testing::HasSubstr;
 using testing::StartsWith;
 using tests::RunInside;
 using tests::ToolResult;
-
-// A walk of one left stride along X, a metre long, and its knee at 30 degrees.
-sample::TrialBuilder Walk() {
-  sample::TrialBuilder builder = tests::WholeFrameTrial();
-  builder.AddPoint("LTOE", tests::Moving({}, {20, 0, 0}))
-      .AddPoint("RTOE", tests::Standing(840, 100, 0))
-      .AddPoint("LKneeAngles", tests::Standing(30, 1, 2));
-  return builder;
-}
+using tests::WalkOfOneStride;
 
 class PooledTest : public testing::Test {
  protected:
@@ -44,8 +36,8 @@ class PooledTest : public testing::Test {
 };
 
 TEST_F(PooledTest, VisitIsOneTextOverAllFiles) {
-  const std::string first = Given("a.c3d", Walk().Build());
-  const std::string second = Given("b.c3d", Walk().Build());
+  const std::string first = Given("a.c3d", WalkOfOneStride().Build());
+  const std::string second = Given("b.c3d", WalkOfOneStride().Build());
   const ToolResult run = RunInside({"visit", first, second});
   EXPECT_EQ(run.Status, 0) << run.Err;
   EXPECT_THAT(run.Out, StartsWith("Measure "));
@@ -54,8 +46,8 @@ TEST_F(PooledTest, VisitIsOneTextOverAllFiles) {
 }
 
 TEST_F(PooledTest, FileThatFailsIsNamedAndLeftOutWhole) {
-  const std::string good = Given("good.c3d", Walk().Build());
-  sample::Trial cut = Walk().Build();
+  const std::string good = Given("good.c3d", WalkOfOneStride().Build());
+  sample::Trial cut = WalkOfOneStride().Build();
   const std::string bad = Given("bad.c3d", cut.TruncateTo(cut.Size() - 600));
   const ToolResult alone = RunInside({"--format", "csv", "visit", good});
   const ToolResult both = RunInside({"--format", "csv", "visit", bad, good});
@@ -65,7 +57,7 @@ TEST_F(PooledTest, FileThatFailsIsNamedAndLeftOutWhole) {
 }
 
 TEST_F(PooledTest, LabelThatATrialLacksIsNamedBeforeTheErrorThatLeavesItOut) {
-  sample::Trial cut = Walk().Build();
+  sample::Trial cut = WalkOfOneStride().Build();
   const std::string bad = Given("bad.c3d", cut.TruncateTo(cut.Size() - 600));
   for (const auto& [report, label] :
        {std::pair{"variability", "LKneeAngles"}, std::pair{"norms", "KneeAngles"}}) {
@@ -80,7 +72,7 @@ TEST_F(PooledTest, LabelThatATrialLacksIsNamedBeforeTheErrorThatLeavesItOut) {
 }
 
 TEST_F(PooledTest, EmptyLabelIsNoneThatATrialHas) {
-  sample::TrialBuilder builder = Walk();
+  sample::TrialBuilder builder = WalkOfOneStride();
   const std::string file = Given("a.c3d", builder.AddPoint("", tests::Standing(1, 2, 3)).Build());
   EXPECT_EQ(RunInside({"--format", "csv", "--label", "", "variability", file}).Err,
             "vantrel-report: " + file + ": point label not found: \n");
@@ -106,7 +98,8 @@ sample::TrialBuilder WalkOfFurtherLabels() {
 // What those reports print of the walk's labels is the same wherever these stand.
 TEST_F(PooledTest, FurtherLabelsAreFoundByTheirNames) {
   const std::string normal = GivenText(
-      "norms.csv", RunInside({"--format", "csv", "norms", Given("norm.c3d", Walk().Build())}).Out);
+      "norms.csv",
+      RunInside({"--format", "csv", "norms", Given("norm.c3d", WalkOfOneStride().Build())}).Out);
   const std::vector<std::vector<std::string>> reports = {{"summary"},
                                                          {"visit"},
                                                          {"--label", "LKneeAngles", "variability"},
@@ -114,7 +107,7 @@ TEST_F(PooledTest, FurtherLabelsAreFoundByTheirNames) {
                                                          {"--normal", normal, "scores"}};
   for (std::vector<std::string> command : reports) {
     command.insert(command.begin(), {"--format", "csv"});
-    command.push_back(Given("a.c3d", Walk().Build()));
+    command.push_back(Given("a.c3d", WalkOfOneStride().Build()));
     const ToolResult known = RunInside(command);
     Given("a.c3d", WalkOfFurtherLabels().Build());
     const ToolResult further = RunInside(command);
@@ -140,7 +133,7 @@ TEST_F(PooledTest, FurtherLabelsHaveValues) {
 }
 
 TEST_F(PooledTest, NormsAreReadBackAsNormalValues) {
-  const std::string file = Given("a.c3d", Walk().Build());
+  const std::string file = Given("a.c3d", WalkOfOneStride().Build());
   const ToolResult norms = RunInside({"--format", "csv", "norms", file});
   ASSERT_EQ(norms.Status, 0) << norms.Err;
   const std::string normal = GivenText("norms.csv", norms.Out);
@@ -150,7 +143,7 @@ TEST_F(PooledTest, NormsAreReadBackAsNormalValues) {
 }
 
 TEST_F(PooledTest, LabelWithControlCharactersBreaksNoLineOfTextAndStaysWholeInATable) {
-  sample::TrialBuilder builder = Walk();
+  sample::TrialBuilder builder = WalkOfOneStride();
   builder.AddPoint("L\nP\x1B", tests::Standing(5, 6, 7));
   const std::string file = Given("a.c3d", builder.Build());
   const std::string shown = "\xEF\xBF\xBDP\xEF\xBF\xBD";
@@ -160,7 +153,7 @@ TEST_F(PooledTest, LabelWithControlCharactersBreaksNoLineOfTextAndStaysWholeInAT
 }
 
 TEST_F(PooledTest, NormalFileThatIsNoneIsNamedWithItsLineAndNothingIsPrinted) {
-  const std::string file = Given("a.c3d", Walk().Build());
+  const std::string file = Given("a.c3d", WalkOfOneStride().Build());
   const std::string normal = GivenText("norms.csv", "label,component\nnonsense\n");
   const ToolResult run = RunInside({"--format", "csv", "--normal", normal, "scores", file});
   EXPECT_EQ(run.Status, 1);

@@ -28,20 +28,14 @@ using testing::SizeIs;
 using testing::StartsWith;
 using tests::RunCurvesInside;
 using tests::ToolResult;
-
-// A walk of one left stride along X and its knee, which stands at 30 degrees.
-sample::TrialBuilder Walk() {
-  sample::TrialBuilder builder = tests::WholeFrameTrial();
-  builder.AddPoint("LTOE", tests::Moving({}, {20, 0, 0}))
-      .AddPoint("RTOE", tests::Standing(840, 100, 0))
-      .AddPoint("LKneeAngles", tests::Standing(30, 1, 2));
-  return builder;
-}
+using tests::WalkOfOneStride;
 
 class CurvesTest : public testing::Test {
  protected:
   std::string In(const std::string& name) const { return (folder_ / name).string(); }
-  std::string Given(const std::string& name) const { return Given(name, Walk().Build()); }
+  std::string Given(const std::string& name) const {
+    return Given(name, WalkOfOneStride().Build());
+  }
   std::string Given(const std::string& name, const sample::Trial& trial) const {
     trial.WriteTo(folder_ / name);
     return In(name);
@@ -208,7 +202,7 @@ TEST_F(CurvesTest, WhereOnePictureExistsNoneIsWritten) {
 
 TEST_F(CurvesTest, FileThatFailsIsNamedAndThePagesOfTheOthersAreWritten) {
   const std::string good = Given("good.c3d");
-  sample::Trial cut = Walk().Build();
+  sample::Trial cut = WalkOfOneStride().Build();
   const std::string bad = Given("bad.c3d", cut.TruncateTo(cut.Size() - 600));
   const ToolResult run = RunCurvesInside({"--output", In("a.json"), bad, good});
   EXPECT_EQ(run.Status, 1);
@@ -245,7 +239,7 @@ TEST_F(CurvesTest, FileThatLacksALabelIsNamedThoughAnotherHasIt) {
 }
 
 TEST_F(CurvesTest, LabelIsNamedBeforeTheErrorThatLeavesItsFileOut) {
-  sample::Trial cut = Walk().Build();
+  sample::Trial cut = WalkOfOneStride().Build();
   const std::string bad = Given("bad.c3d", cut.TruncateTo(cut.Size() - 600));
   const ToolResult run = RunCurvesInside({"--page", "label", "--page", "kinematics", "--label",
                                           "LXYZ", "--output", In("a.json"), bad});
