@@ -6,8 +6,6 @@ namespace pages {
 
 namespace {
 
-constexpr double kMostTicks = 100;
-
 // Digit * 10^Exponent.
 struct RoundTick {
   double Digit;
@@ -37,12 +35,6 @@ Range WidenedFor(const Range& fixed, const Extent& data) {
   Range range = fixed;
   if (data.Low() < range.Low) range.Low = std::floor(data.Low() / range.Tick) * range.Tick;
   if (data.High() > range.High) range.High = std::ceil(data.High() / range.Tick) * range.Tick;
-  if (range.High - range.Low > kMostTicks * range.Tick) {
-    Extent both = data;
-    both.Add(fixed.Low);
-    both.Add(fixed.High);
-    range = RoundRange(both);
-  }
   range.IsWidened = range != fixed;
   return range;
 }

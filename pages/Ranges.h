@@ -30,7 +30,7 @@ class Extent {
 };
 
 // `fixed`, widened at either end by as many whole ticks as `data` needs; a number that lies on an
-// end needs none. Data that would need more than a hundred ticks get a round range instead.
+// end needs none. However many these are, the tick stays what it was.
 Range WidenedFor(const Range& fixed, const Extent& data);
 
 // A range around `data` whose tick is 1, 2 or 5 times a power of ten; about five ticks. From 0 to 1

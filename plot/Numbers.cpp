@@ -16,11 +16,19 @@ constexpr double kBase = 10;
 std::vector<double> TicksOf(double low, double high, double step) {
   constexpr double kMost = 100;
   if (!(step > 0) || !(high > low) || (high - low) / step > kMost) return {};
+  // Counted by itself: far from zero, one more than a number can be that number again.
+  const double first = std::ceil(low / step - kTolerance);
+  const int behindIt = static_cast<int>(std::floor(high / step + kTolerance) - first);
   std::vector<double> ticks;
-  for (double k = std::ceil(low / step - kTolerance); k <= high / step + kTolerance; k += 1) {
-    ticks.push_back(k * step);
-  }
+  for (int i = 0; i <= behindIt; ++i) ticks.push_back((first + i) * step);
   return ticks;
+}
+
+double ThinnedTick(double low, double high, double tick) {
+  constexpr double kMost = 25;
+  const double ticks = (high - low) / tick;
+  if (!(tick > 0) || !(ticks > kMost) || !std::isfinite(ticks)) return tick;
+  return StepFor(ticks, static_cast<int>(kMost)) * tick;
 }
 
 double StepFor(double span, int count) {

@@ -12,6 +12,10 @@ namespace plot {
 // hundred.
 std::vector<double> TicksOf(double low, double high, double step);
 
+// `tick`, or the least of 2, 5, 10, 20, 50 ... times it of which about twenty-five at most fit
+// between `low` and `high`: what is drawn of the ticks of a wide range.
+double ThinnedTick(double low, double high, double tick);
+
 // A step of 1, 2 or 5 times a power of ten that leaves about `count` ticks in `span`.
 double StepFor(double span, int count);
 

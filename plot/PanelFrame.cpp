@@ -106,7 +106,10 @@ QPointF Axes::At(double x, double y) const {
 Axes AxesOf(const QRectF& plot, double fromX, double toX, double stepX, const pages::Range& range,
             const std::optional<PanelView>& view) {
   constexpr int kTicks = 5;
-  if (!view) return {plot, fromX, toX, range.Low, range.High, stepX, range.Tick};
+  if (!view) {
+    const double stepY = ThinnedTick(range.Low, range.High, range.Tick);
+    return {plot, fromX, toX, range.Low, range.High, stepX, stepY};
+  }
   return {plot,
           view->LowPercent,
           view->HighPercent,

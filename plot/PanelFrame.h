@@ -42,7 +42,7 @@ struct Axes {
 };
 
 // The axes of a plot over the whole of both ranges, or of the part that is seen of them. Nothing is
-// divided by an empty range.
+// divided by an empty range. A wide range has some of its ticks alone, so that they stay apart.
 Axes AxesOf(const QRectF& plot, double fromX, double toX, double stepX, const pages::Range& range,
             const std::optional<PanelView>& view);
 

@@ -94,6 +94,29 @@ TEST(PanelParts, AThinLineStandsAtZero) {
   EXPECT_LT(zero.back().Pen.widthF(), 6) << "thinner than a stride";
 }
 
+// The lines across a panel of curves whose ordinate has ticks of 15 between these.
+std::vector<DrawnLine> GridBetween(double low, double high) {
+  auto set = SamplePages({});
+  std::get<pages::CurvePanel>(set.Pages[0].Panels[kKnee]).Ordinate = {low, high, 15, true};
+  const Drawn panel = PanelOf(set, 0, kKnee);
+  std::vector<DrawnLine> lines;
+  for (const DrawnLine& line : panel.Parts.Lines) {
+    if (line.Points.size() != 2) continue;
+    const auto across = LinesAcross(panel, line.Points[0].y());
+    if (!across.empty() && across[0].Points == line.Points) lines.push_back(line);
+  }
+  return lines;
+}
+
+TEST(PanelParts, OfAWideRangeSomeTicksAreDrawnAlone) {
+  EXPECT_THAT(GridBetween(-30, 60), SizeIs(6)) << "five ticks and zero";
+  for (const double end : {1500.0, 70995.0, 3.5e38}) {
+    const auto lines = GridBetween(-end, end);
+    EXPECT_GT(lines.size(), 6U) << end;
+    EXPECT_LT(lines.size(), 28U) << end;
+  }
+}
+
 TEST(PanelParts, AbscissaGoesFromZeroToAHundredPercent) {
   const Drawn panel = PanelOf(SamplePages({}), 0, kKnee);
   EXPECT_NEAR(TextIn(panel, "100").Ink.center().x(), panel.X(1), 10);

@@ -52,6 +52,19 @@ TEST(Numbers, TicksAreTheMultiplesWithinBothEnds) {
   EXPECT_THAT(plot::TicksOf(0, 1e9, 1), IsEmpty());
 }
 
+TEST(Numbers, TicksEndAlsoWhereOneMoreThanANumberIsThatNumber) {
+  EXPECT_THAT(plot::TicksOf(1e18, 1e18 + 1024, 128), SizeIs(9));
+}
+
+TEST(Numbers, ThinnedTicksAreOneTwoOrFiveTimesAPowerOfTenTicks) {
+  EXPECT_DOUBLE_EQ(plot::ThinnedTick(-20, 80, 20), 20);
+  EXPECT_DOUBLE_EQ(plot::ThinnedTick(0, 25, 1), 1);
+  EXPECT_DOUBLE_EQ(plot::ThinnedTick(0, 26, 1), 2);
+  EXPECT_DOUBLE_EQ(plot::ThinnedTick(-1980, 20, 20), 100);
+  EXPECT_DOUBLE_EQ(plot::ThinnedTick(0, 71000, 0.25), 5000);
+  EXPECT_DOUBLE_EQ(plot::ThinnedTick(0, 1, 0), 0);
+}
+
 TEST(Numbers, HaveTheDecimalsOfTheirTicksAndATrueMinusSign) {
   EXPECT_EQ(plot::DecimalsOf(15), 0);
   EXPECT_EQ(plot::DecimalsOf(0.5), 1);
