@@ -43,6 +43,10 @@ Page LabelPage(const ShownTrials& shown, std::size_t file, const LabelOverTime& 
   for (const modVantrel::EventRecord& event : shown.Trials()[file].Events) {
     trace.Events.push_back({event.Side, event.Type, double{event.Time}});
   }
+  for (const TrialStride* stride : shown.StridesOf(file)) {
+    if (stride->Side == modVantrel::GaitSide::Left) ++trace.LeftStrides;
+    if (stride->Side == modVantrel::GaitSide::Right) ++trace.RightStrides;
+  }
   page.OverTime = std::move(trace);
   return page;
 }

@@ -151,6 +151,8 @@ struct Trace {
   std::string Label;         // as the file spells it
   std::vector<float> Times;  // seconds of the trial, one for each frame
   std::vector<TimedEvent> Events;
+  std::int64_t LeftStrides = 0;  // of this file, less those that are left out
+  std::int64_t RightStrides = 0;
 };
 
 struct Page {

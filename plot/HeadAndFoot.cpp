@@ -66,14 +66,12 @@ std::vector<LegendItem> LegendOf(const pages::PageSet& set, const pages::Page& p
   const auto bandOf = [&](GaitSide side) {
     return isMeans || !HasCurves(page) ? BandOf(side, style) : QColor(Qt::transparent);
   };
+  const std::int64_t left = page.OverTime ? page.OverTime->LeftStrides : set.LeftStrides;
+  const std::int64_t right = page.OverTime ? page.OverTime->RightStrides : set.RightStrides;
   std::vector<LegendItem> items = {
-      {SideText("Left", set.LeftStrides), LineOf(GaitSide::Left, width, style),
-       bandOf(GaitSide::Left)},
-      {SideText("Right", set.RightStrides), LineOf(GaitSide::Right, width, style),
-       bandOf(GaitSide::Right)}};
+      {SideText("Left", left), LineOf(GaitSide::Left, width, style), bandOf(GaitSide::Left)},
+      {SideText("Right", right), LineOf(GaitSide::Right, width, style), bandOf(GaitSide::Right)}};
   if (page.OverTime) {
-    items[0].Text = QStringLiteral("Left");
-    items[1].Text = QStringLiteral("Right");
     for (LegendItem& item : items) {
       item = {item.Text, PlainLine(item.Line.color(), width), QColor(Qt::transparent)};
     }

@@ -69,6 +69,19 @@ TEST(LabelPage, CarriesTimesAndEventsOfTheTrial) {
   EXPECT_EQ(trace.Events[0].Time, 10.0 / 64);
 }
 
+TEST(LabelPage, CountsTheStridesOfItsFileThatAreNotLeftOut) {
+  const std::vector<std::string> label = {"LKNE"};
+  const std::vector<pages::TrialValues> trials = {ValuesOf(Knee(), label), ValuesOf(Knee(), label)};
+  pages::PageChoice choice;
+  choice.Kinds = {PageKind::Label};
+  choice.LeftOut = {{1, GaitSide::Right, 2}};
+  const auto pages = pages::MakePages(trials, choice).Pages;
+  EXPECT_EQ(pages.at(0).OverTime->LeftStrides, 2);
+  EXPECT_EQ(pages.at(0).OverTime->RightStrides, 2);
+  EXPECT_EQ(pages.at(1).OverTime->LeftStrides, 2);
+  EXPECT_EQ(pages.at(1).OverTime->RightStrides, 1);
+}
+
 TEST(LabelPage, FramesThatAreNotSeenAreMissingInEveryCoordinate) {
   const auto pages = LabelPages({ValuesOf(Knee().NotSeen(1, 5), std::vector<std::string>{"LKNE"})});
   for (std::size_t i = 0; i < 3; ++i) {

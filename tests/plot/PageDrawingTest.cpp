@@ -133,6 +133,15 @@ TEST(PageDrawing, ShowsOnTopWhoseCurvesTheyAre) {
   }
 }
 
+TEST(PageDrawing, OverTimeShowsOnTopTheStridesOfItsFileAlone) {
+  auto set = SamplePages({6, 2, false, {}});
+  set.Pages[3].OverTime->LeftStrides = 2;
+  set.Pages[3].OverTime->RightStrides = 1;
+  const auto texts = PageOf(set, 3).Texts;
+  EXPECT_THAT(texts, Contains(IsText("Left, 2 strides")));
+  EXPECT_THAT(texts, Contains(IsText("Right, 1 stride")));
+}
+
 TEST(PageDrawing, ShowsAtTheFootProgramDateAndPage) {
   const auto texts = PageOf(SamplePages({3, 2, false, {}}), 1).Texts;
   for (const char* text :

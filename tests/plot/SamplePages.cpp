@@ -142,6 +142,8 @@ pages::Page SampleTrace(const Sample& sample) {
   pages::Page page{pages::PageKind::Label, "LKNE over time" + sample.Longer, 3, 1, {}, {}};
   pages::Trace trace;
   trace.Label = "LKNE";
+  trace.LeftStrides = sample.Strides;
+  trace.RightStrides = sample.Strides;
   for (int i = 0; i < 400; ++i) trace.Times.push_back(static_cast<float>(i) / 100);
   for (int k = 0; k < 8 * sample.Strides; ++k) {
     trace.Events.push_back({kSides[static_cast<std::size_t>(k) % 2],
