@@ -4,6 +4,7 @@
 // that are saved or printed, and the file of normals.
 
 #include <filesystem>
+#include <optional>
 #include <system_error>
 
 #include <QAction>
@@ -46,16 +47,18 @@ QString Caption(const std::string& path) {
   return ToQString(path).replace(u'&', QStringLiteral("&&"));
 }
 
-std::string TableText(const ShownReport& report, const std::string& file, const QString& ending,
-                      reports::Complaints& complaints) {
+// Nothing where there is no table.
+std::optional<std::string> TableText(const ShownReport& report, const std::string& file,
+                                     const QString& ending, TableWriting& writing) {
   modAllPurpose::TextReport text;
   if (ending == QStringLiteral("json")) {
     reports::JsonTable table(text);
-    complaints = WriteTable(report, file, table);
+    writing = WriteTable(report, file, table);
   } else {
     reports::CsvTable table(text);
-    complaints = WriteTable(report, file, table);
+    writing = WriteTable(report, file, table);
   }
+  if (!writing.Failure.empty()) return std::nullopt;
   return text.Text();
 }
 
@@ -127,14 +130,15 @@ void MainWindow::SaveReportAs() {
 
 void MainWindow::ExportTable() {
   const ShownReport report = form_->Shown().value();
-  reports::Complaints complaints;
+  TableWriting writing;
   SaveFile(
       this, tr("Export Table"), ProposedName(report.Name),
       {{tr("Comma-separated values"), QStringLiteral("csv")}, {tr("JSON"), QStringLiteral("json")}},
       [&](const QString& ending) {
-        return TableText(report, form_->OpenFileSpec(), ending, complaints);
+        return TableText(report, form_->OpenFileSpec(), ending, writing);
       });
-  for (const std::string& complaint : complaints) ShowMessage(this, complaint);
+  if (!writing.Failure.empty()) ShowMessage(this, writing.Failure);
+  for (const std::string& complaint : writing.Complaints) ShowMessage(this, complaint);
 }
 
 void MainWindow::PrintReport() {

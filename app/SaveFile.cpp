@@ -93,10 +93,11 @@ bool WriteOrTell(QWidget* owner, const std::string& path, const std::string& tex
 
 void SaveFile(QWidget* owner, const QString& title, const QString& proposed,
               const QList<FileKind>& kinds,
-              const std::function<std::string(const QString& ending)>& textOf) {
+              const std::function<std::optional<std::string>(const QString& ending)>& textOf) {
   QString name = proposed;
   while (const auto chosen = AskForName(owner, title, name, kinds)) {
-    if (WriteOrTell(owner, chosen->Path, textOf(chosen->Ending))) return;
+    const auto text = textOf(chosen->Ending);
+    if (!text || WriteOrTell(owner, chosen->Path, *text)) return;
     name = ToQString(chosen->Path).chopped(chosen->Ending.size() + 1);
   }
 }

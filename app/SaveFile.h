@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 
 #include <QList>
@@ -20,9 +21,10 @@ struct FileKind {
 // Asks for a name, beginning with `proposed` (a path without its ending), and writes the text that
 // `textOf` makes for the chosen ending, whole or not at all. A name with no ending of the list gets
 // that of the chosen kind. An existing file is replaced after asking, a C3D file never; whoever
-// says no is asked for another name. What cannot be written is told. Errors as `textOf`.
+// says no is asked for another name. What cannot be written is told. Where `textOf` has
+// no text nothing is written, and the matter ends. Errors as `textOf`.
 void SaveFile(QWidget* owner, const QString& title, const QString& proposed,
               const QList<FileKind>& kinds,
-              const std::function<std::string(const QString& ending)>& textOf);
+              const std::function<std::optional<std::string>(const QString& ending)>& textOf);
 
 }  // namespace app

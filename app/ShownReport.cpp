@@ -10,6 +10,7 @@
 #include "reports/ReportList.h"
 #include "reports/SummaryReport.h"
 #include "reports/TrialTables.h"
+#include "support/FileSystem.h"
 #include "support/Text.h"
 
 namespace app {
@@ -49,18 +50,6 @@ constexpr bool HasItsRows(const reports::ReportInfo& info) {
 }
 static_assert(std::ranges::all_of(reports::kReports, HasItsRows));
 
-Complaints WriteRows(const ShownReport& report, const std::string& file, TableOutput& table) {
-  const std::string name = modAllPurpose::WithReplacements(file);
-  if (reports::FindReport(report.Name)->ReadsAnyFile) {
-    reports::CheckRows(name, reports::CheckFile(file), table);
-    return {};
-  }
-  FileState state;
-  if (std::string refusal = OpenAnew(file, state); !refusal.empty()) return {refusal};
-  return std::ranges::find(kRowsOfReports, report.Name, &Rows::Report)
-      ->Write(state, name, report.Options, table);
-}
-
 }  // namespace
 
 bool HasTable(const ShownReport& report) {
@@ -68,11 +57,29 @@ bool HasTable(const ShownReport& report) {
   return info != nullptr && !info->Columns.empty();
 }
 
-Complaints WriteTable(const ShownReport& report, const std::string& file, TableOutput& table) {
-  table.Begin(reports::FindReport(report.Name)->Columns);
-  Complaints complaints = WriteRows(report, file, table);
+TableWriting WriteTable(const ShownReport& report, const std::string& file, TableOutput& table) {
+  const std::string name = modAllPurpose::WithReplacements(file);
+  const reports::ReportInfo& info = *reports::FindReport(report.Name);
+  if (info.ReadsAnyFile) {
+    const auto findings = reports::CheckFile(file);
+    const auto unopened = std::ranges::find(findings, "cannot-open", &modVantrel::Finding::Code);
+    if (unopened != findings.end() && !modAllPurpose::IsRegularFile(file)) {
+      return {file + ": " + unopened->Message, {}};
+    }
+    table.Begin(info.Columns);
+    reports::CheckRows(name, findings, table);
+    table.End();
+    return {};
+  }
+  FileState state;
+  if (const std::string refusal = OpenAnew(file, state); !refusal.empty()) {
+    return {file + ": " + refusal, {}};
+  }
+  const auto rows = std::ranges::find(kRowsOfReports, report.Name, &Rows::Report);
+  table.Begin(info.Columns);
+  TableWriting writing{{}, rows->Write(state, name, report.Options, table)};
   table.End();
-  return complaints;
+  return writing;
 }
 
 }  // namespace app

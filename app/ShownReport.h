@@ -18,10 +18,16 @@ struct ShownReport {
 // Whether that report has a table, too.
 bool HasTable(const ShownReport& report);
 
+// What came of a table: why there is none, or what it lacks of what was asked for.
+struct TableWriting {
+  std::string Failure;  // names the trial; empty where the table is there
+  reports::Complaints Complaints;
+};
+
 // Writes the table of a report of the trial `file`, from Begin to End, as the tool does: the trial
-// is read anew with its further labels. What the table lacks of what was asked for comes back, as
-// does the sentence for a trial that cannot be opened any more. Errors as the rows.
-reports::Complaints WriteTable(const ShownReport& report, const std::string& file,
-                               reports::TableOutput& table);
+// is read anew with its further labels. Where it cannot be opened any more, or is not there
+// for a checkup, nothing is written. Errors as the rows.
+TableWriting WriteTable(const ShownReport& report, const std::string& file,
+                        reports::TableOutput& table);
 
 }  // namespace app

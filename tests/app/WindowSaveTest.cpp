@@ -166,6 +166,24 @@ TEST_F(WindowSave, ATableIsWhatTheToolPrints) {
   }
 }
 
+TEST_F(WindowSave, ATableOfATrialThatVanishedReplacesNothingAndNamesTheTrial) {
+  const std::string walk = WriteSampleWalk();
+  const std::string bytes = tests::ReadWholeFile(walk);
+  Start(walk);
+  for (const char* report : {"cmdShowHeaderInfo", "cmdShowStrikeOffEvents", "mnuCheckup"}) {
+    std::ofstream(walk, std::ios::binary) << bytes;
+    Entry(report)->trigger();
+    std::filesystem::remove(walk);
+    PutIntoFile(folder_ / "table.csv", "good");
+    ExpectAndSave(folder_ / "table.csv");
+    boxes_.ExpectAndClick(QStringLiteral("OK"));
+    Choose("mnuExportTable");
+    const std::string told = boxes_.Seen().back().Text.toStdString();
+    EXPECT_EQ(told.find(walk + ": "), 0U) << told;
+    EXPECT_EQ(tests::ReadWholeFile(folder_ / "table.csv"), "good") << report;
+  }
+}
+
 TEST_F(WindowSave, OnlyAReportWithATableCanBeExported) {
   Start(WriteSampleWalk());
   EXPECT_FALSE(Entry("mnuExportTable")->isEnabled());
