@@ -155,7 +155,7 @@ std::vector<WholeFile> FilesOf(const std::string& file, const pages::PageSet& se
 
 std::string WriteFiles(const std::vector<WholeFile>& files, bool overwrite) {
   if (!overwrite) return modAllPurpose::WriteFilesWhereFree(files);
-  for (const WholeFile& file : files) modAllPurpose::WriteFileInOneStep(file.Path, file.Text);
+  modAllPurpose::WriteFilesTogether(files);
   return {};
 }
 

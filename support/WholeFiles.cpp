@@ -3,6 +3,7 @@
 #include "support/WholeFiles.h"
 
 #include <algorithm>
+#include <deque>
 #include <filesystem>
 #include <map>
 #include <optional>
@@ -49,6 +50,31 @@ bool MakeOrReplace(const fs::path& path, std::string_view text) {
   FileInWaiting(old->Path.parent_path(), text, &*old).TakePlaceOf(old->Path);
   return true;
 }
+
+// A file that is complete on disk, and what it is to take the place of.
+class Replacement {
+ public:
+  explicit Replacement(const WholeFile& file)
+      : wanted_(file),
+        old_(FindFileToReplace(NativePath(file.Path))),
+        new_(Folder(), file.Text, old_ ? &*old_ : nullptr) {}
+
+  void TakePlace() {
+    if (old_) {
+      new_.TakePlaceOf(old_->Path);
+    } else if (!new_.TakeNameIfFree(NativePath(wanted_.Path))) {
+      WriteFileInOneStep(wanted_.Path, wanted_.Text);  // the name was taken meanwhile
+    }
+  }
+  const std::string& Path() const { return wanted_.Path; }
+
+ private:
+  fs::path Folder() const { return (old_ ? old_->Path : NativePath(wanted_.Path)).parent_path(); }
+
+  const WholeFile& wanted_;
+  std::optional<FileToReplace> old_;
+  FileInWaiting new_;
+};
 
 // Files that are taken away again unless they are kept.
 class FilesOnTrial {
@@ -115,6 +141,20 @@ void WriteFileInOneStep(const std::string& path, std::string_view text) {
     }
     throw RuntimeError(ErrorNumber::PathFileAccessError);
   });
+}
+
+void WriteFilesTogether(std::span<const WholeFile> files) {
+  const UnbrokenWork work;
+  std::deque<Replacement> replacements;
+  for (const WholeFile* file : InOrder(files)) {
+    if (UnbrokenWork::IsInterrupted()) {
+      throw RuntimeError(ErrorNumber::PathFileAccessError, file->Path);
+    }
+    Naming(file->Path, [&] { replacements.emplace_back(*file); });
+  }
+  for (Replacement& replacement : replacements) {
+    Naming(replacement.Path(), [&] { replacement.TakePlace(); });
+  }
 }
 
 }  // namespace modAllPurpose

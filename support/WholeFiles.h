@@ -33,4 +33,9 @@ std::string WriteFilesWhereFree(std::span<const WholeFile> files);
 // more with it than before.
 void WriteFileInOneStep(const std::string& path, std::string_view text);
 
+// Does the same with each of `files`. All of them are complete on disk before the first takes its
+// name, so that nothing has changed where one cannot be written; an error of the steps after that,
+// each of which only names a file, leaves those before it replaced.
+void WriteFilesTogether(std::span<const WholeFile> files);
+
 }  // namespace modAllPurpose

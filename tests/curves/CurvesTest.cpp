@@ -192,6 +192,26 @@ TEST_F(CurvesTest, PagesOfEveryKindMayBeReplaced) {
   }
 }
 
+TEST_F(CurvesTest, WhereOnePictureCannotBeReplacedNoneIs) {
+  GivenText("a-1.svg", "old");
+  std::filesystem::create_directory(In("a-2.svg"));
+  const ToolResult run =
+      RunCurvesInside({"--overwrite", "--output", In("a.svg"), Given("walk.c3d")});
+  EXPECT_EQ(run.Status, 1);
+  EXPECT_THAT(run.Err, HasSubstr("a-2.svg"));
+  EXPECT_EQ(Text("a-1.svg"), "old");
+  EXPECT_THAT(Names(), ElementsAre("a-1.svg", "a-2.svg", "walk.c3d"));
+}
+
+TEST_F(CurvesTest, PicturesAreReplacedTogether) {
+  GivenText("a-1.svg", "old");
+  const ToolResult run =
+      RunCurvesInside({"--overwrite", "--output", In("a.svg"), Given("walk.c3d")});
+  EXPECT_EQ(run.Status, 0) << run.Err;
+  EXPECT_THAT(Text("a-1.svg"), StartsWith("<?xml"));
+  EXPECT_THAT(Text("a-2.svg"), StartsWith("<?xml"));
+}
+
 TEST_F(CurvesTest, WhereOnePictureExistsNoneIsWritten) {
   GivenText("a-2.svg", "mine");
   const ToolResult run = RunCurvesInside({"--output", In("a.svg"), Given("walk.c3d")});
