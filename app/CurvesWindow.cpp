@@ -16,6 +16,7 @@
 
 #include "app/PointedText.h"
 #include "app/QtText.h"
+#include "app/ToolTip.h"
 #include "support/FileSystem.h"
 #include "support/RuntimeError.h"
 
@@ -187,7 +188,7 @@ void CurvesWindow::UpdateEntries() {
 
 void CurvesWindow::Say(const QString& text) {
   pointed_->setText(text);
-  pointed_->setToolTip(text);
+  pointed_->setToolTip(WrappedToolTip(text));
 }
 
 void CurvesWindow::LeaveOutLifted() {

@@ -12,6 +12,7 @@
 
 #include "app/PointedText.h"
 #include "app/QtText.h"
+#include "app/ToolTip.h"
 
 namespace app {
 
@@ -38,10 +39,6 @@ bool HasStride(const pages::Page& page, const pages::StrideId& stride) {
 }
 
 // A tooltip that shows its text as it stands.
-QString UnwrappedToolTip(const QString& text) {
-  return QStringLiteral("<span style='white-space:pre'>%1</span>").arg(text.toHtmlEscaped());
-}
-
 }  // namespace
 
 PageView::PageView(QWidget* parent) : QWidget(parent) {

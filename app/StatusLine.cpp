@@ -9,6 +9,8 @@
 #include <QStylePainter>
 #include <QTextLayout>
 
+#include "app/ToolTip.h"
+
 namespace app {
 
 namespace {
@@ -47,7 +49,7 @@ void StatusLine::Tell() {
       remark_.isEmpty() ? text_.Sentence : QStringLiteral("%1\n%2").arg(remark_, text_.Sentence);
   setText(all);
   setAccessibleName(all);
-  setToolTip(all.toHtmlEscaped().replace(u'\n', QStringLiteral("<br>")));
+  setToolTip(WrappedToolTip(all));
   setEnabled(!text_.Counts.isEmpty());
   update();
 }

@@ -9,6 +9,7 @@
 #include <QStyle>
 
 #include "app/QtText.h"
+#include "app/ToolTip.h"
 #include "gait/EventNames.h"
 #include "support/FileSystem.h"
 
@@ -43,11 +44,6 @@ QString WarningsOf(const VisitTrial& trial) {
 }
 
 // A tooltip that shows its text as it stands, its long lines wrapped.
-QString WrappedToolTip(const QString& text) {
-  return QStringLiteral("<p>%1</p>")
-      .arg(text.toHtmlEscaped().replace(u'\n', QStringLiteral("</p><p>")));
-}
-
 std::string SpokenName(const VisitTrial& trial, const QString& warnings) {
   std::string name(modAllPurpose::OwnName(trial.Path));
   if (!trial.Failure.empty()) return name + ": " + trial.Failure;
