@@ -117,6 +117,7 @@ class CurvesWindow : public QMainWindow {
 
   // How it follows what is read.
   void ReadWhatIsNew();
+  void ReadNewestFirst();
   void Check(const std::string& path);
   void ReadLabels();
   void Cancel();

@@ -31,9 +31,7 @@ constexpr int kUntilProgress = 200;  // milliseconds
 }  // namespace
 
 void CurvesWindow::Follow(const std::string& path) {
-  if (!visit_.Follow(path)) return;
-  ReadWhatIsNew();
-  UpdateAll();
+  if (visit_.Follow(path)) ReadNewestFirst();
 }
 
 void CurvesWindow::FollowOpened(const std::string& path) {
@@ -42,10 +40,20 @@ void CurvesWindow::FollowOpened(const std::string& path) {
     Follow(path);
     return;
   }
-  EndReading();
   visit_.Forget(path);
+  ReadNewestFirst();
+}
+
+// Whoever goes on to another trial waits for that one: a reading of one that is gone ends, and what
+// the others still lack is read behind it.
+void CurvesWindow::ReadNewestFirst() {
+  if (background_->IsBusy()) {
+    EndReading();
+    visit_.GiveUp({}, {});
+  }
   ReadWhatIsNew();
   UpdateAll();
+  ReadLabels();
 }
 
 void CurvesWindow::AddTrials(const std::vector<std::string>& paths) {

@@ -2,6 +2,7 @@
 
 // The curves window with the trials of a visit: what is added, left out, followed and read.
 
+#include <algorithm>
 #include <fstream>
 
 #include <QAccessible>
@@ -14,6 +15,7 @@
 #include <QScreen>
 #include <QTabBar>
 #include <QTest>
+#include <QTextDocumentFragment>
 #include <QToolButton>
 
 #include "sample/SampleWalk.h"
@@ -169,6 +171,51 @@ TEST_F(Curves, WhatACheckupWarnsOfStandsInTheTooltipOfTheTrial) {
   EXPECT_FALSE(Trial(0)->icon(1).isNull());
   EXPECT_TRUE(Trial(0)->toolTip(1).contains(QStringLiteral("TOE")))
       << Trial(0)->toolTip(1).toStdString();
+}
+
+TEST_F(Curves, TheNameOfAFileIsNoMarkupInATooltip) {
+  Start();
+  DropAll({Write(tests::RisingKnees(0), "a<b>&amp;.c3d")});
+  window_->SavePages((folder_ / "c<b>&lt;.pdf").string(), {pages::PageKind::Kinematics});
+  WaitUntilRead();
+  auto* said = Part<QLabel>("lblPointed");
+  ASSERT_TRUE(said->text().contains(QStringLiteral("c<b>&lt;.pdf")));
+  EXPECT_EQ(QTextDocumentFragment::fromHtml(said->toolTip()).toPlainText(), said->text());
+  EXPECT_TRUE(QTextDocumentFragment::fromHtml(Trial(0)->toolTip(0))
+                  .toPlainText()
+                  .endsWith(QStringLiteral("a<b>&amp;.c3d")));
+}
+
+// Where the form is paged through a folder, nobody waits for the trials that it has passed.
+TEST_F(Curves, OfTrialsThatTheFormPassesTheLastIsReadAlone) {
+  Start();
+  for (const std::string& trial : ThreeTrials()) window_->Follow(trial);
+  std::size_t started = 0;
+  for (const auto* work : window_->findChildren<app::Background*>()) started += work->Started();
+  EXPECT_EQ(started, 1U);
+  WaitUntilRead();
+  ASSERT_EQ(List()->topLevelItemCount(), 1);
+  EXPECT_EQ(Trial(0)->text(0), QStringLiteral("three.c3d"));
+  EXPECT_EQ(CurvesOf("Knee flexion").Curves.size(), 5U);
+}
+
+TEST_F(Curves, TheTrialOfTheFormIsReadBeforeThoseThatWaitAlready) {
+  Start();
+  const auto trials = ThreeTrials();
+  std::vector<std::string> order;
+  for (const auto* work : window_->findChildren<app::Background*>()) {
+    QObject::connect(work, &app::Background::Changed, window_.get(), [&] {
+      for (const auto& trial : window_->TrialsOfVisit().Trials()) {
+        if (trial.Values && std::ranges::find(order, trial.Path) == order.end()) {
+          order.push_back(trial.Path);
+        }
+      }
+    });
+  }
+  window_->AddTrials({trials[0], trials[1]});
+  window_->Follow(trials[2]);
+  WaitUntilRead();
+  EXPECT_EQ(order, (std::vector<std::string>{trials[2], trials[0], trials[1]}));
 }
 
 TEST_F(Curves, PagesTurnByKeysAndStopAtTheEnds) {
