@@ -68,10 +68,10 @@ QString TextOf(const QString& path) {
 
 }  // namespace
 
-QString ManualText() {
+QString ManualText(const QString& page) {
   const QString installed = TextOf(QCoreApplication::applicationDirPath() +
-                                   QStringLiteral("/../share/doc/vantrel/manual.md"));
-  return installed.isEmpty() ? TextOf(QStringLiteral(":/docs/manual.md")) : installed;
+                                   QStringLiteral("/../share/doc/vantrel/") + page);
+  return installed.isEmpty() ? TextOf(QStringLiteral(":/docs/") + page) : installed;
 }
 
 ManualWindow::ManualWindow(const QString& markdown, QWidget* parent)
@@ -87,8 +87,7 @@ ManualWindow::ManualWindow(const QString& markdown, QWidget* parent)
   browser_->setAccessibleName(tr("Manual"));
   browser_->setOpenLinks(false);
   browser_->setSearchPaths({QStringLiteral(":/docs")});
-  browser_->document()->setMarkdown(markdown);
-  FitPictures(*browser_->document());
+  Show(markdown);
   connect(browser_, &QTextBrowser::anchorClicked, this, &ManualWindow::Follow);
   column->addWidget(browser_);
   AddFindRow();
@@ -148,11 +147,19 @@ void ManualWindow::Find(bool forward) {
   lblResult_->setText(found ? QString() : tr("not found"));
 }
 
+void ManualWindow::Show(const QString& markdown) {
+  browser_->document()->setMarkdown(markdown);
+  FitPictures(*browser_->document());
+  browser_->moveCursor(QTextCursor::Start);
+}
+
 void ManualWindow::Follow(const QUrl& link) {
   if (!link.isRelative()) {
     QDesktopServices::openUrl(link);
     return;
   }
+  if (link.path().endsWith(QStringLiteral(".md"))) Show(ManualText(link.path()));
+  if (!link.hasFragment()) return;
   const QTextBlock heading = HeadingOf(*browser_->document(), link.fragment());
   if (!heading.isValid()) return;
   // The heading comes to the upper edge.

@@ -11,12 +11,12 @@ class QUrl;
 
 namespace app {
 
-// The manual in Markdown: the file that is installed beside the program, or the text that the
-// program carries.
-QString ManualText();
+// A page of the manual in Markdown: the file of that name that is installed beside the program, or
+// the text that the program carries; empty for none.
+QString ManualText(const QString& page = QStringLiteral("manual.md"));
 
 // Shows a text in Markdown in a window of its own, in which one can search and follow the links to
-// its headings. Escape closes it.
+// its headings and to other pages of the manual. Escape closes it.
 class ManualWindow : public QWidget {
   Q_OBJECT
 
@@ -27,7 +27,8 @@ class ManualWindow : public QWidget {
   void AddFindRow();
   void AddKeys();
   void Find(bool forward);
-  // Goes to the heading of a link within the text; other links are the desktop's.
+  void Show(const QString& markdown);
+  // Goes to the page or heading of a link; links that lead out of the manual are the desktop's.
   void Follow(const QUrl& link);
 
   QTextBrowser* browser_;

@@ -12,9 +12,17 @@
 namespace {
 
 using modVantrel::EventRecord;
+using modVantrel::GaitEventType;
+using modVantrel::GaitSide;
 using Events = modAllPurpose::OneBasedTable<EventRecord>;
 
 constexpr int kMostEvents = 255;
+
+// Sides and types by turns.
+GaitSide SideOf(std::int32_t i) { return i % 2 == 0 ? GaitSide::Left : GaitSide::Right; }
+GaitEventType TypeOf(std::int32_t i) {
+  return i % 2 == 0 ? GaitEventType::FootStrike : GaitEventType::FootOff;
+}
 
 // Events in no order.
 Events ShuffledEvents(const benchmark::State& run) {
@@ -22,7 +30,7 @@ Events ShuffledEvents(const benchmark::State& run) {
   const auto count = kMostEvents * static_cast<std::int32_t>(run.range(0));
   for (std::int32_t i = 0; i < count; ++i) {
     const auto place = static_cast<std::int32_t>(std::int64_t{i} * 7919 % count);
-    events.Append({1 + place % 2, 1 + place / 2 % 2, 0.1F * static_cast<float>(place)});
+    events.Append({SideOf(place), TypeOf(place / 2), 0.1F * static_cast<float>(place)});
   }
   return events;
 }
@@ -34,7 +42,7 @@ Events EventsOfStrides(const benchmark::State& run) {
   const auto strides = kMostEvents * static_cast<std::int32_t>(run.range(0)) / kEventsAStride;
   for (std::int32_t i = 0; i < strides; ++i) {
     for (std::int32_t k = 2 * i; k < 2 * i + kEventsAStride; ++k) {
-      events.Append({1 + k / 2 % 2, 1 + k % 2, static_cast<float>(k)});
+      events.Append({SideOf(k / 2), TypeOf(k), static_cast<float>(k)});
     }
   }
   return events;

@@ -6,8 +6,8 @@
 
 A block of the manual that is marked as console holds commands, each behind "$ ", and under each what
 it prints on both streams. All of them are run in their order, in one folder, which holds
-sample-walk.c3d and across.c3d, the same walk along Y. A block of Python or R begins with a comment
-that is the name of the file it stands in. A script whose language or packages are not installed is
+sample-walk.c3d and across.c3d, the same walk along Y. A block of Python, R or bash begins with a
+comment that is the name of the file it stands in; one of bash must be run by a command. A script whose language or packages are not installed is
 passed over and named, with --all it fails. --page writes what was printed into the manual.
 """
 import argparse
@@ -71,8 +71,10 @@ class Manual:
         self.status = 0
         self.run_count = 0
         self.faults = []
+        self.unused = set()  # the scripts of the shell that no command has run
 
     def run(self, command):
+        self.unused -= set(re.split(r"[\s;|]+", command))
         environment = dict(os.environ, LC_ALL="C.UTF-8", MPLBACKEND="Agg")
         tools = pathlib.Path(self.options.tool).resolve().parent
         environment["PATH"] = f"{tools}:{environment['PATH']}"
@@ -123,6 +125,10 @@ class Manual:
             name = re.match(r"# (\S+)\n", body).group(1)
             self.scripts[name] = (language, body)
             (self.folder / name).write_text(body, encoding="utf-8")
+        elif language == "bash":
+            name = re.match(r"(?:#!.*\n)?# (\S+)\n", body).group(1)
+            (self.folder / name).write_text(body, encoding="utf-8")
+            self.unused.add(name)
         else:
             self.faults.append(f"nobody checks a block of {language or 'no language'}")
         return f"```{language}\n{body}```"
@@ -146,6 +152,7 @@ def main():
         written = BLOCK.sub(manual.block, page)
     if options.page:
         options.manual.write_text(written, encoding="utf-8")
+    manual.faults += [f"no command runs {name}" for name in sorted(manual.unused)]
     if manual.faults:
         sys.exit("\n\n".join(manual.faults))
     if manual.run_count == 0:

@@ -93,6 +93,18 @@ TEST_F(WindowHelp, EveryLinkWithinTheManualLeadsToItsHeading) {
   EXPECT_GE(links, 10);
 }
 
+TEST_F(WindowHelp, LinksLeadToOtherPagesOfTheManualAndBack) {
+  app::ManualWindow manual(app::ManualText(), nullptr);
+  manual.show();
+  auto* text = manual.findChild<QTextBrowser*>();
+  emit text->anchorClicked(QUrl(QStringLiteral("archive.md")));
+  EXPECT_TRUE(text->toPlainText().startsWith(QStringLiteral("Whole archives")));
+  EXPECT_EQ(text->verticalScrollBar()->value(), 0);
+  emit text->anchorClicked(QUrl(QStringLiteral("manual.md#tables")));
+  EXPECT_TRUE(text->toPlainText().startsWith(QStringLiteral("Manual")));
+  EXPECT_EQ(text->textCursor().block().text(), QStringLiteral("Tables"));
+}
+
 TEST_F(WindowHelp, ClosingTheWindowClosesTheManual) {
   Start();
   app::ManualWindow* manual = OpenManual();
