@@ -66,9 +66,15 @@ int Run(const std::vector<std::string>& arguments, const std::filesystem::path& 
   start.hStdOutput = out;
   start.hStdError = err;
   PROCESS_INFORMATION process{};
-  if (::CreateProcessW(tool.c_str(), commandLine.data(), nullptr, nullptr, TRUE, 0, nullptr,
-                       folder.empty() ? nullptr : folder.c_str(), &start, &process) == 0) {
-    throw std::runtime_error("cannot start the tool");
+  const auto isStarted = [&] {
+    return ::CreateProcessW(tool.c_str(), commandLine.data(), nullptr, nullptr, TRUE, 0, nullptr,
+                            folder.empty() ? nullptr : folder.c_str(), &start, &process) != 0;
+  };
+  // On a machine that is busy Wine may not manage at once.
+  for (int tries = 3; !isStarted(); ::Sleep(1000)) {
+    if (--tries == 0) {
+      throw std::runtime_error("cannot start the tool: " + std::to_string(::GetLastError()));
+    }
   }
   ::WaitForSingleObject(process.hProcess, INFINITE);
   DWORD status = 0;
