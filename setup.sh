@@ -8,8 +8,9 @@ packages=(
   appstream clang-14 clang-format clang-tidy cmake desktop-file-utils dpkg-dev fonts-dejavu-core
   fonts-liberation g++ git libbenchmark-dev libclang-rt-14-dev libcli11-dev libfmt-dev
   libgmock-dev libgtest-dev libqscintilla2-qt6-dev librsvg2-bin lintian locales man-db
-  ninja-build openbox parallel poppler-utils python3 qt6-base-dev qt6-base-private-dev qt6-svg-dev
-  qt6-wayland rapidjson-dev shared-mime-info x11-utils xauth xvfb
+  ninja-build openbox parallel poppler-utils pybind11-dev python3 python3-dev python3-numpy
+  python3-pytest qt6-base-dev qt6-base-private-dev qt6-svg-dev qt6-wayland rapidjson-dev shared-mime-info
+  x11-utils xauth xvfb
 )
 
 if [ "${1:-}" = --windows ]; then

@@ -31,6 +31,7 @@ const std::map<std::string, std::vector<std::string>> kMayInclude = {
     {"console", {"support", "c3d", "gait"}},
     {"cli", {"support", "c3d", "gait", "visit", "reports", "console"}},
     {"curves", {"support", "c3d", "gait", "visit", "pages", "plot", "console"}},
+    {"python", {"support", "c3d", "gait", "visit", "reports"}},
     {"sample", {"support", "c3d"}},
 };
 
@@ -141,8 +142,8 @@ std::vector<std::string> FilesOfTheTree() {
 
 // By its name; a source that the build fills in ends in ".in".
 bool IsSource(const fs::path& file) {
-  static const std::set<std::string> kExtensions = {".cpp",   ".h",  ".sh", ".bash",
-                                                    ".cmake", ".py", ".rc", ".1"};
+  static const std::set<std::string> kExtensions = {".cpp", ".h",   ".sh", ".bash", ".cmake",
+                                                    ".py",  ".pyi", ".rc", ".1"};
   const fs::path filledIn = file.extension() == ".in" ? file.stem() : file;
   return kExtensions.contains(filledIn.extension().string()) ||
          file.filename() == "CMakeLists.txt" || file == ".ci/run";

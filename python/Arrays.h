@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <algorithm>
+#include <pybind11/numpy.h>
+#include <vector>
+
+namespace python {
+
+using Shape = std::vector<pybind11::ssize_t>;
+
+// A numpy array of that shape, last dimension fastest, which owns a copy of `values`. There must be
+// as many values as the shape has places.
+template <typename Number>
+pybind11::array_t<Number> ArrayOf(const std::vector<Number>& values, Shape shape) {
+  pybind11::array_t<Number> array(std::move(shape));
+  Number* const into = array.mutable_data();
+  // A channel may have gigabytes: other threads go on meanwhile.
+  const pybind11::gil_scoped_release released;
+  std::ranges::copy(values, into);
+  return array;
+}
+
+// The same in one dimension.
+template <typename Number>
+pybind11::array_t<Number> ArrayOf(const std::vector<Number>& values) {
+  return ArrayOf(values, {static_cast<pybind11::ssize_t>(values.size())});
+}
+
+}  // namespace python
