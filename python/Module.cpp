@@ -6,11 +6,12 @@
 #include <pybind11/pybind11.h>
 #include <pybind11/stl.h>
 #include <string>
-#include <utility>
+#include <tuple>
 #include <vector>
 
 #include "gait/Checkup.h"
 #include "python/Exceptions.h"
+#include "python/TableBinding.h"
 #include "python/TrialBinding.h"
 #include "reports/CheckReport.h"
 #include "support/Text.h"
@@ -41,6 +42,7 @@ std::vector<FindingRow> Findings(const py::bytes& file) {
 PYBIND11_MODULE(_core, module) {
   RegisterExceptions();
   BindTrial(module);
+  BindTable(module);
   module.def("search_key", SearchKey, py::arg("name"));
   module.def("findings", Findings, py::arg("file"));
   module.attr("version") = VANTREL_VERSION;

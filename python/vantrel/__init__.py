@@ -14,6 +14,8 @@
     trial.normalized("LKneeAngles")                  # float32, strides x 51 x 3
     trial.measures(), trial.findings()               # what each stride measures; what is unusual
 
+    vantrel.table("summary", ["walk.c3d", "across.c3d"])   # a dict of columns, for pandas
+
 The numbers are those of the program vantrel-report, to the bit: the same code reads and works them
 out. Labels and names are found whatever their case. Units are those of the file; times are seconds of
 the trial.
@@ -29,12 +31,13 @@ from . import _core
 from ._errors import DataError, Error, OpenError
 from ._labels import LabelledArrays
 from ._parameters import ParameterGroup, Parameters
+from ._table import Complaint, TableError, TableWarning, table
 from ._trial import Finding, Trial, open
 
 __version__: str = _core.version
 
-__all__ = ["DataError", "Error", "Finding", "LabelledArrays", "OpenError", "ParameterGroup",
-           "Parameters", "Trial", "open"]
+__all__ = ["Complaint", "DataError", "Error", "Finding", "LabelledArrays", "OpenError",
+           "ParameterGroup", "Parameters", "TableError", "TableWarning", "Trial", "open", "table"]
 
 # What users see stands in the package itself, whatever module it is written in.
 for _name in __all__:

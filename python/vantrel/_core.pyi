@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The compiled core of the package. Its users are the package's own modules: import vantrel."""
-from typing import Any, List, Optional, Tuple
+from typing import Any, Dict, List, Optional, Tuple
 
 import numpy as np
 from numpy.typing import NDArray
@@ -44,3 +44,8 @@ class Trial:
     def analog_notes(self) -> Tuple[List[str], List[str]]: ...
     def parameter_names(self, whole: bool) -> List[Tuple[str, List[str]]]: ...
     def parameter(self, group: str, parameter: str) -> Optional[Any]: ...
+
+def table_reports() -> List[Tuple[str, bool, bool]]: ...
+def table(*, report: str, files: List[bytes], jobs: int, labels: List[str], all_labels: bool,
+          group: Optional[str], parameter: Optional[str], normal: bytes,
+          stops: bool) -> Tuple[Dict[str, NDArray[Any]], List[Tuple[Optional[str], str]]]: ...

@@ -20,11 +20,11 @@ class Error(Exception):
     filename: Optional[str]
     """The file that it is about, as it was named; None where that is not known."""
 
-    def __init__(self, number: int, message: str, filename: Optional[str] = None) -> None:
-        # All three are the exception's arguments, so that it can be pickled.
-        super().__init__(number, message, filename)
-        self.message = message
-        self.filename = filename
+    def __init__(self, *arguments: object) -> None:
+        # What an exception was made of is what it is made of again when it is pickled.
+        super().__init__(*arguments)
+        self.message = ""
+        self.filename = None
 
     def __str__(self) -> str:
         return self.message if self.filename is None else f"{self.filename}: {self.message}"
@@ -45,6 +45,8 @@ class OpenError(Error):
     def __init__(self, code: int, message: str, filename: Optional[str] = None) -> None:
         super().__init__(code, message, filename)
         self.code = code
+        self.message = message
+        self.filename = filename
 
 
 class DataError(Error):
@@ -60,3 +62,5 @@ class DataError(Error):
     def __init__(self, number: int, message: str, filename: Optional[str] = None) -> None:
         super().__init__(number, message, filename)
         self.number = number
+        self.message = message
+        self.filename = filename

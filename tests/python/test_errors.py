@@ -153,7 +153,7 @@ def test_names_of_any_bytes_are_opened(walk_file, tmp_path, name, convert):
 
 @pytest.mark.parametrize("error", [vantrel.OpenError(2, "no trial", "walk.c3d"),
                                    vantrel.DataError(62, "cut short"),
-                                   vantrel.Error(1, "anything", "x")])
+                                   vantrel.TableError("label not found", "walk.c3d")])
 def test_errors_travel_between_processes(error):
     again = pickle.loads(pickle.dumps(error))
     assert type(again) is type(error) and again.args == error.args and str(again) == str(error)
