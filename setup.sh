@@ -16,7 +16,7 @@ packages=(
 if [ "${1:-}" = --windows ]; then
   packages+=(g++-mingw-w64-x86-64 googletest wine64)
 elif [ "${1:-}" = --checks ]; then
-  packages+=(cppcheck gcovr valgrind)
+  packages+=(cppcheck gcovr mypy valgrind)
   # For the scripts of the manual.
   packages+=(python3-matplotlib python3-pandas r-base-core r-cran-readr)
 fi

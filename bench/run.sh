@@ -4,7 +4,7 @@
 # the two tables of docs/speed.md; with --page it puts them there instead. Takes about five minutes
 # and 4 GB of room for temporary files, on a machine that does nothing else. What each program
 # printed is left in build/release/bench/. Ends with 1 where a bound is missed.
-#   bench/run.sh [--page] [NAME...]   open check label listing spline gcd batch archive pages window curves growth, or all
+#   bench/run.sh [--page] [NAME...]   open check label listing spline gcd batch archive python pages window curves growth, or all
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -14,7 +14,7 @@ if [ "${1:-}" = --page ]; then
   shift
 fi
 names=("$@")
-[ ${#names[@]} -gt 0 ] || names=(open check label listing spline gcd batch archive pages window curves growth)
+[ ${#names[@]} -gt 0 ] || names=(open check label listing spline gcd batch archive python pages window curves growth)
 
 build=build/release
 {

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Makes the Debian package of a build and fails where a desktop would not take it: lintian, the
-# validators of the desktop entry and of the metadata, and the file type of a trial.
+# Makes the Debian packages of a build and fails where a system would not take them: lintian, the
+# validators of the desktop entry and of the metadata, the file type of a trial, and an import by the
+# system's own Python.
 #   check_package.sh BUILD_FOLDER
 set -euo pipefail
 build=$(realpath -- "$1")
@@ -11,7 +12,8 @@ trap 'rm -rf "$folder"' EXIT
 (cd "$folder" && cpack --config "$build/CPackConfig.cmake" -B "$folder" >"$folder/cpack.log" 2>&1) ||
   { cat "$folder/cpack.log"; exit 1; }
 package=$(echo "$folder"/vantrel_*.deb)
-lintian --fail-on error,warning --allow-root --no-user-dirs "$package"
+python_package=$(echo "$folder"/python3-vantrel_*.deb)
+lintian --fail-on error,warning --allow-root --no-user-dirs "$package" "$python_package"
 
 dpkg-deb --extract "$package" "$folder/root"
 share=$folder/root/usr/share
@@ -33,4 +35,17 @@ update-mime-database "$share/mime"
 update-desktop-database "$share/applications"
 grep -qx 'application/x-c3d=vantrel.desktop;' "$share/applications/mimeinfo.cache"
 grep -qx '50:application/x-c3d:\*.c3d' "$share/mime/globs2"
-echo "The package is well: $(basename "$package")"
+
+# The package of Python stands by itself, and the other one holds nothing of it.
+test ! -e "$folder/root/usr/lib/python3"
+dpkg-deb --extract "$python_package" "$folder/python"
+test ! -e "$folder/python/usr/bin"
+modules=$folder/python/usr/lib/python3/dist-packages
+test -s "$modules/vantrel/_core.pyi" && test -e "$modules/vantrel/py.typed"
+dpkg-deb --field "$python_package" Depends | grep -q 'python3 (>= 3\.[0-9]*~), python3 (<< 3\.[0-9]*)'
+(cd / && PYTHONDONTWRITEBYTECODE=1 PYTHONPATH=$modules /usr/bin/python3 -c '
+import sys, vantrel
+trial = vantrel.open(sys.argv[1])
+assert trial.points["LTOE"].shape == (trial.frames, 3)
+assert vantrel.__file__.startswith(sys.argv[2])' "$build/sample-walk.c3d" "$modules")
+echo "The packages are well: $(basename "$package"), $(basename "$python_package")"

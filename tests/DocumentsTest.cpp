@@ -102,8 +102,8 @@ TEST(Documents, NamedByOtherOnesAreThere) {
   static const std::regex kLink(R"re(\]\(([^):#]+)\))re");
   std::size_t links = 0;
   for (const std::filesystem::path document :
-       {"README.md", "docs/manual.md", "docs/archive.md", "docs/tour.md", "docs/speed.md",
-        "docs/fuzzing.md", "docs/reading-c3d.md"}) {
+       {"README.md", "docs/manual.md", "docs/archive.md", "docs/python.md", "docs/tour.md",
+        "docs/speed.md", "docs/fuzzing.md", "docs/reading-c3d.md"}) {
     const std::string text = TextOf(document.string());
     ASSERT_THAT(text, StartsWith("# ")) << document;
     for (std::sregex_iterator next(text.begin(), text.end(), kLink), end; next != end; ++next) {

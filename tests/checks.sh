@@ -2,10 +2,10 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # The slow checks, run by hand before a release: a build with Clang, clang-tidy on the sources of this
 # system and on those of Windows, cppcheck, valgrind on the tool, the line coverage of the core, and the
-# manual with its scripts in R and Python.
+# manual with its scripts in R and Python, and the types of the package of Python.
 # With an argument, only the check of that name; valgrind takes the trials to be read, the sample
 # walk without any.
-#   tests/checks.sh [clang|tidy|tidy_windows|cppcheck|coverage|manual]
+#   tests/checks.sh [clang|tidy|tidy_windows|cppcheck|coverage|manual|types]
 #   tests/checks.sh valgrind [FILE.c3d...]
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -103,9 +103,17 @@ coverage() {
 # The packages of the manual's scripts belong to the system's own Python.
 manual() {
   cmake --preset release
-  cmake --build --preset release --target vantrel-report sample-walk
-  PATH=/usr/bin:$PATH tests/manual_commands.py --all build/release/vantrel-report \
-    build/release/sample-walk.c3d docs/manual.md
+  cmake --build --preset release --target vantrel-report vantrel_python sample-walk
+  local page
+  for page in docs/manual.md docs/python.md; do
+    PATH=/usr/bin:$PATH PYTHONPATH=$PWD/build/release/python tests/manual_commands.py --all \
+      build/release/vantrel-report build/release/sample-walk.c3d "$page"
+  done
+}
+
+# The package of Python holds what its annotations and its stub say.
+types() {
+  /usr/bin/mypy --strict --cache-dir=build/mypy python/vantrel
 }
 
 case ${1:-all} in
@@ -116,6 +124,7 @@ case ${1:-all} in
   valgrind) valgrind_tool "${@:2}" ;;
   coverage) coverage ;;
   manual) manual ;;
+  types) types ;;
   all)
     clang
     tidy
@@ -124,6 +133,7 @@ case ${1:-all} in
     valgrind_tool
     coverage
     manual
+    types
     ;;
   *)
     echo "there is no check '$1'" >&2

@@ -7,8 +7,9 @@
 A block of the manual that is marked as console holds commands, each behind "$ ", and under each what
 it prints on both streams. All of them are run in their order, in one folder, which holds
 sample-walk.c3d and across.c3d, the same walk along Y. A block of Python, R or bash begins with a
-comment that is the name of the file it stands in; one of bash must be run by a command. A script whose language or packages are not installed is
-passed over and named, with --all it fails. --page writes what was printed into the manual.
+comment that is the name of the file it stands in; one of bash must be run by a command. A script whose
+language or packages are not installed is passed over and named, with --all it fails. --page writes what
+was printed into the manual, and beside it those of its pictures that the scripts made.
 """
 import argparse
 import difflib
@@ -134,6 +135,13 @@ class Manual:
         return f"```{language}\n{body}```"
 
 
+def keep_pictures(page, folder, beside):
+    """the page's pictures that were made in the folder, written anew"""
+    for name in re.findall(r"!\[[^]]*\]\(([^)/]+)\)", page):
+        if (folder / name).exists():
+            shutil.copyfile(folder / name, beside / name)
+
+
 def main():
     parser = argparse.ArgumentParser()
     parser.add_argument("--all", action="store_true")
@@ -150,6 +158,8 @@ def main():
         (folder / "across.c3d").write_bytes(quarter_turned(walk))
         manual = Manual(folder, options)
         written = BLOCK.sub(manual.block, page)
+        if options.page:
+            keep_pictures(page, folder, options.manual.parent)
     if options.page:
         options.manual.write_text(written, encoding="utf-8")
     manual.faults += [f"no command runs {name}" for name in sorted(manual.unused)]

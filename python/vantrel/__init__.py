@@ -34,7 +34,7 @@ from ._parameters import ParameterGroup, Parameters
 from ._table import Complaint, TableError, TableWarning, table
 from ._trial import Finding, Trial, open
 
-__version__: str = _core.version
+__version__ = _core.version
 
 __all__ = ["Complaint", "DataError", "Error", "Finding", "LabelledArrays", "OpenError",
            "ParameterGroup", "Parameters", "TableError", "TableWarning", "Trial", "open", "table"]

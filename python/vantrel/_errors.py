@@ -12,13 +12,13 @@ class Error(Exception):
 
     What is wrong with the way to a file is raised as Python does it: FileNotFoundError,
     PermissionError, IsADirectoryError and other kinds of OSError.
+
+    message   what is wrong, in one sentence
+    filename  the file that it is about, as it was named; None where that is not known
     """
 
     message: str
-    """What is wrong, in one sentence."""
-
     filename: Optional[str]
-    """The file that it is about, as it was named; None where that is not known."""
 
     def __init__(self, *arguments: object) -> None:
         # What an exception was made of is what it is made of again when it is pickled.

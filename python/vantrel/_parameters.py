@@ -2,16 +2,15 @@
 """The parameters of a trial by group and name."""
 from __future__ import annotations
 
-from typing import Any, Dict, Iterator, List, Mapping, NoReturn, Optional, Tuple, Union
-
-from numpy.typing import NDArray
+from typing import Any, Dict, Iterator, List, Mapping, NoReturn, Optional, Tuple
 
 from . import _core
 from ._names import missing, no_pickle, search_key
 
 __all__ = ["ParameterGroup", "Parameters"]
 
-Value = Union[int, float, str, List[Any], NDArray[Any]]
+# An int, a float, a str, a list or an array: the file says which.
+Value = Any
 
 
 def _by_key(names: List[str]) -> Dict[bytes, int]:

@@ -10,7 +10,7 @@ from numpy.typing import NDArray
 
 from . import _core
 from ._errors import Error
-from ._trial import FileName, open as open_trial
+from ._trial import FileName, path_of, open as open_trial
 
 __all__ = ["Complaint", "TableError", "TableWarning", "table"]
 
@@ -18,12 +18,14 @@ _REPORTS = {name: (labels, normals) for name, labels, normals in _core.table_rep
 
 
 class Complaint(NamedTuple):
-    """What is to be said of a file of a table."""
+    """What is to be said of a file of a table.
+
+    file     the file; None where it is not of one file
+    message  the sentence that vantrel-report prints on standard error
+    """
 
     file: Optional[str]
-    """The file; None where it is not of one file."""
     message: str
-    """The sentence that vantrel-report prints on standard error."""
 
 
 class TableWarning(UserWarning):
@@ -84,18 +86,11 @@ def table(report: str, files: Union[FileName, Iterable[FileName]], *, jobs: int 
     _check_request(report, jobs, bool(wanted) or all_labels, normal, errors)
     names = [files] if isinstance(files, (str, bytes, os.PathLike)) else list(files)
     columns, said = _core.table(
-        report=report, files=[_path(name) for name in names], jobs=jobs, labels=wanted,
+        report=report, files=[path_of(name) for name in names], jobs=jobs, labels=wanted,
         all_labels=all_labels, group=group, parameter=parameter,
-        normal=b"" if normal is None else _path(normal), stops=errors == "raise")
+        normal=b"" if normal is None else path_of(normal), stops=errors == "raise")
     _tell([Complaint(*complaint) for complaint in said], errors)
     return columns
-
-
-def _path(name: FileName) -> bytes:
-    path = os.fsencode(name)
-    if b"\0" in path:
-        raise ValueError("embedded null byte")
-    return path
 
 
 def _check_request(report: str, jobs: int, has_labels: bool, normal: Optional[FileName],

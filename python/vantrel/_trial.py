@@ -31,16 +31,18 @@ _MEASURES = np.dtype([("side", "U5"), ("number", "i4"), *((name, "f4") for name 
 
 
 class Finding(NamedTuple):
-    """Something unusual in a trial, as the checkup says it."""
+    """Something unusual in a trial, as the checkup says it.
+
+    severity  "error", "warning" or "note"
+    code      the kind of finding, always the same for the same kind: "point-gaps"
+    place     group and parameter, label, event, stride or byte; may be empty
+    message   one sentence with the figures, and what it does to the numbers
+    """
 
     severity: str
-    """"error", "warning" or "note"."""
     code: str
-    """The kind of finding, always the same for the same kind: "point-gaps"."""
     place: str
-    """Group and parameter, label, event, stride or byte; may be empty."""
     message: str
-    """One sentence with the figures, and what it does to the numbers."""
 
 
 class Trial:
@@ -59,9 +61,8 @@ class Trial:
     """
 
     def __init__(self, file: FileName) -> None:
-        path = os.fsencode(file)
-        self._core = _core.Trial(path)
-        self._path = os.path.abspath(path)
+        self._core = _open(file)
+        self._path = os.path.abspath(os.fsencode(file))
         core = self._core
         self._points = LabelledArrays("point", core.labels, core.points, core.point_notes)
         self._residuals = LabelledArrays("point", core.labels, core.residuals, core.point_notes)
@@ -247,10 +248,20 @@ def open(file: FileName) -> Trial:
     let the file be opened; OpenError (code, message) for a file that is no trial which can be read;
     DataError (number, message) for one that is damaged or cut short.
     """
-    if b"\0" in os.fsencode(file):
+    return Trial(file)
+
+
+def path_of(file: FileName) -> bytes:
+    """the name of a file as the system takes it"""
+    path = os.fsencode(file)
+    if b"\0" in path:
         raise ValueError("embedded null byte")
+    return path
+
+
+def _open(file: FileName) -> _core.Trial:
     try:
-        return Trial(file)
+        return _core.Trial(path_of(file))
     except OpenError as error:
         if error.code == _FILE_NOT_OPENED:
             _raise_what_the_system_says(file)
