@@ -2,7 +2,7 @@
 """The data of a trial by label."""
 from __future__ import annotations
 
-from typing import Any, Callable, Dict, Iterator, List, Mapping, NoReturn, Tuple
+from typing import Callable, Dict, Iterator, List, Mapping, NoReturn, Tuple
 
 import numpy as np
 from numpy.typing import NDArray
@@ -36,7 +36,7 @@ class LabelledArrays(Mapping[str, NDArray[np.float32]]):
                 self._places.setdefault(key, place)
 
     def __getitem__(self, label: str) -> NDArray[np.float32]:
-        return self._read(self._place(label))
+        return self._read(self.place(label))
 
     def at(self, place: int) -> NDArray[np.float32]:
         """The array of the label at a place of the trial's list of labels, from 0.
@@ -46,17 +46,23 @@ class LabelledArrays(Mapping[str, NDArray[np.float32]]):
         """
         return self._read(range(len(self._labels))[place])
 
+    def place(self, label: str) -> int:
+        """The place of a label in the trial's list of labels, from 0; KeyError where there is none."""
+        if label not in self:
+            raise missing(self._what, label, self)
+        return self._places[search_key(label)]
+
     def unit(self, label: str) -> str:
         """The unit of a label's values, as the file spells it ("mm", "deg", "Nmm", "V").
 
         A point has that of the kind (angles, forces, moments, powers, scalars) in whose list it
         stands, else that of the markers. Empty where the file names none.
         """
-        return self._notes()[1][self._place(label)]
+        return self._notes()[1][self.place(label)]
 
     def description(self, label: str) -> str:
         """What the file says of a label; empty where it says nothing."""
-        return self._notes()[0][self._place(label)]
+        return self._notes()[0][self.place(label)]
 
     def __contains__(self, label: object) -> bool:
         return isinstance(label, str) and search_key(label) in self._places
@@ -78,8 +84,3 @@ class LabelledArrays(Mapping[str, NDArray[np.float32]]):
 
     def __reduce__(self) -> NoReturn:
         raise no_pickle(f"the mapping of {self._what}s")
-
-    def _place(self, label: Any) -> int:
-        if label not in self:
-            raise missing(self._what, label, self)
-        return self._places[search_key(label)]

@@ -182,7 +182,7 @@ class Trial:
         frames: what stands in the file for a frame in which the point is not seen goes into them.
         `findings` names such gaps. KeyError for a label that is not there.
         """
-        return self._core.curves(self._points._place(label))
+        return self._core.curves(self._points.place(label))
 
     def measures(self) -> NDArray[Any]:
         """The measures of every valid stride: a structured array, one row a stride.
@@ -193,9 +193,10 @@ class Trial:
         `measure_units` has their units. Lengths, speed and axis are 0 without the markers LTOE and
         RTOE. The conventional measures of a trial, by side, are `vantrel.table("summary", file)`.
         """
-        rows = np.zeros(len(self._core.strides()), dtype=_MEASURES)
+        strides = self.strides
+        rows = np.zeros(len(strides), dtype=_MEASURES)
         for name in ("side", "number"):
-            rows[name] = self.strides[name]
+            rows[name] = strides[name]
         for name, values in zip(_MEASURE_NAMES, self._core.measures().T):
             rows[name] = values
         return rows

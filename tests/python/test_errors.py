@@ -114,6 +114,18 @@ def test_parameters_of_a_file_that_shrank_are_a_data_error(own_walk):
             read()
 
 
+def test_parameters_in_front_of_where_a_file_ends_are_found(own_walk):
+    trial = vantrel.open(own_walk)
+    group = trial.parameters["POINT"]
+    os.truncate(own_walk, own_walk.read_bytes().index(b"CAMERA_RATE"))
+    assert trial.parameters["POINT"]["RATE"] == group["RATE"] == 100
+    assert "POINT" in trial.parameters
+    for read in (lambda: list(trial.parameters), lambda: len(trial.parameters),
+                 lambda: "NOTHING" in trial.parameters, lambda: trial.parameters["NOTHING"]):
+        with pytest.raises(vantrel.DataError):
+            read()
+
+
 def test_a_closed_trial_is_a_value_error(walk_file):
     trial = vantrel.open(walk_file)
     group = trial.parameters["POINT"]

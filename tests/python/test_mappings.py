@@ -51,6 +51,7 @@ def test_what_is_no_label_is_a_key_error(walk, label):
 
 
 def test_points_are_found_by_place(walk):
+    assert walk.points.place("rtoe") == walk.labels.index("RTOE") == 4
     np.testing.assert_array_equal(walk.points.at(4), walk.points["RTOE"])
     np.testing.assert_array_equal(walk.points.at(-1), walk.points[walk.labels[-1]])
     for place in (30, -31):
