@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <cstdint>
-#include <pybind11/embed.h>
 #include <string>
 
 #include <benchmark/benchmark.h>
+#include <pybind11/embed.h>
 
 #include "bench/BenchTrial.h"
 #include "bench/Budget.h"

@@ -2,17 +2,21 @@
 #pragma once
 
 #include <algorithm>
-#include <pybind11/numpy.h>
+#include <ranges>
+#include <utility>
 #include <vector>
+
+#include <pybind11/numpy.h>
 
 namespace python {
 
 using Shape = std::vector<pybind11::ssize_t>;
 
-// A numpy array of that shape, last dimension fastest, which owns a copy of `values`. There must be
-// as many values as the shape has places.
-template <typename Number>
-pybind11::array_t<Number> ArrayOf(const std::vector<Number>& values, Shape shape) {
+// A numpy array of that shape, last dimension fastest, which owns a copy of `values`, a range of
+// numbers. There must be as many values as the shape has places.
+template <typename Values>
+auto ArrayOf(const Values& values, Shape shape) {
+  using Number = std::ranges::range_value_t<Values>;
   pybind11::array_t<Number> array(std::move(shape));
   Number* const into = array.mutable_data();
   // A channel may have gigabytes: other threads go on meanwhile.
@@ -22,9 +26,9 @@ pybind11::array_t<Number> ArrayOf(const std::vector<Number>& values, Shape shape
 }
 
 // The same in one dimension.
-template <typename Number>
-pybind11::array_t<Number> ArrayOf(const std::vector<Number>& values) {
-  return ArrayOf(values, {static_cast<pybind11::ssize_t>(values.size())});
+template <typename Values>
+auto ArrayOf(const Values& values) {
+  return ArrayOf(values, Shape{static_cast<pybind11::ssize_t>(values.size())});
 }
 
 }  // namespace python

@@ -4,8 +4,9 @@
 
 #include <cstdint>
 #include <exception>
-#include <pybind11/pybind11.h>
 #include <string>
+
+#include <pybind11/pybind11.h>
 
 #include "python/Failures.h"
 #include "python/FileNames.h"

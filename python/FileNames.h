@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <pybind11/pybind11.h>
 #include <string>
+
+#include <pybind11/pybind11.h>
 
 namespace python {
 

@@ -3,11 +3,12 @@
 // The core of the package vantrel: plain calls into the layers below, which the package's own
 // modules in Python turn into what its users see.
 
-#include <pybind11/pybind11.h>
-#include <pybind11/stl.h>
 #include <string>
 #include <tuple>
 #include <vector>
+
+#include <pybind11/pybind11.h>
+#include <pybind11/stl.h>
 
 #include "gait/Checkup.h"
 #include "python/Exceptions.h"

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+
 #include <pybind11/numpy.h>
 
 #include "c3d/ParamIndex.h"

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <pybind11/pybind11.h>
 #include <string>
 #include <utility>
 #include <vector>
+
+#include <pybind11/pybind11.h>
 
 #include "c3d/ParamRecord.h"
 #include "python/OpenedTrial.h"

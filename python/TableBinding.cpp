@@ -4,13 +4,14 @@
 
 #include <cstddef>
 #include <optional>
-#include <pybind11/numpy.h>
-#include <pybind11/stl.h>
 #include <string>
 #include <tuple>
 #include <utility>
 #include <variant>
 #include <vector>
+
+#include <pybind11/numpy.h>
+#include <pybind11/stl.h>
 
 #include "python/Arrays.h"
 #include "python/FileNames.h"

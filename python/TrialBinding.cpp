@@ -4,12 +4,13 @@
 
 #include <cstdint>
 #include <memory>
-#include <pybind11/numpy.h>
-#include <pybind11/stl.h>
 #include <string>
 #include <tuple>
 #include <utility>
 #include <vector>
+
+#include <pybind11/numpy.h>
+#include <pybind11/stl.h>
 
 #include "c3d/ParameterSection.h"
 #include "gait/EventNames.h"
@@ -61,7 +62,7 @@ py::array_t<float> Residuals(const OpenedTrial& trial, std::int32_t place) {
 }
 
 py::array_t<float> Samples(const OpenedTrial& trial, std::int32_t place) {
-  return ArrayOf(ReadOfLabel<ReadSamples>(trial, place));
+  return ArrayOf(ReadOfLabel<ReadSamples>(trial, place).Values);
 }
 
 py::array_t<float> Curves(const OpenedTrial& trial, std::int32_t place) {

@@ -6,6 +6,7 @@
 #include <array>
 #include <cstddef>
 #include <limits>
+#include <utility>
 
 #include "c3d/FrameData.h"
 #include "c3d/FrameLayout.h"
@@ -66,15 +67,12 @@ std::vector<float> ReadResiduals(const FileState& state, std::int32_t point) {
   return values;
 }
 
-std::vector<float> ReadSamples(const FileState& state, std::int32_t channel) {
-  const auto frames = modVantrel::ReadAnalogDataForIndex(state, channel);
-  std::vector<float> values;
-  values.reserve(FrameCount(state) * static_cast<std::size_t>(frames[1].Values.Count()));
-  for (std::int32_t i = 1; i <= state.PointFrameCount; ++i) {
-    const auto samples = frames[i].Values;
-    values.insert(values.end(), samples.begin(), samples.end());
-  }
-  return values;
+ChannelSamples ReadSamples(const FileState& state, std::int32_t channel) {
+  auto frames = modVantrel::ReadAnalogDataForIndex(state, channel);
+  // The samples of all frames stand in one block, frame after frame.
+  const modVantrel::SampleValues first = frames[1].Values;
+  const std::size_t count = FrameCount(state) * static_cast<std::size_t>(first.Count());
+  return {std::move(frames), std::span(first.begin(), count)};
 }
 
 std::vector<float> FrameTimes(const FileState& state) {

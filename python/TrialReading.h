@@ -2,9 +2,11 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <vector>
 
+#include "c3d/AnalogFrames.h"
 #include "c3d/FileState.h"
 
 // What is read from an open trial, as plain values. Points and channels are numbered from 1. Errors
@@ -17,8 +19,13 @@ std::vector<float> ReadCoordinates(const modVantrel::FileState& state, std::int3
 // The residual in every frame, -1 where the point is not seen.
 std::vector<float> ReadResiduals(const modVantrel::FileState& state, std::int32_t point);
 
-// All samples of a channel; error 9 for one that has a label but no data.
-std::vector<float> ReadSamples(const modVantrel::FileState& state, std::int32_t channel);
+// A channel in every frame, and all of its samples, which last as long as the frames. Error 9 for a
+// channel that has a label but no data.
+struct ChannelSamples {
+  modVantrel::AnalogFrames Frames;
+  std::span<const float> Values;
+};
+ChannelSamples ReadSamples(const modVantrel::FileState& state, std::int32_t channel);
 
 // The time of every frame, in seconds of the trial.
 std::vector<float> FrameTimes(const modVantrel::FileState& state);

@@ -2,6 +2,7 @@
 """The data of a trial by label."""
 from __future__ import annotations
 
+import functools
 from typing import Callable, Dict, Iterator, List, Mapping, NoReturn, Tuple
 
 import numpy as np
@@ -22,18 +23,27 @@ class LabelledArrays(Mapping[str, NDArray[np.float32]]):
     that names those near to it.
     """
 
-    def __init__(self, what: str, labels: List[str],
+    def __init__(self, what: str, labels: Callable[[], List[str]],
                  read: Callable[[int], NDArray[np.float32]],
                  notes: Callable[[], Tuple[List[str], List[str]]]) -> None:
         self._what = what
-        self._labels = labels
+        self._read_labels = labels
         self._read = read
         self._notes = notes
-        self._places: Dict[bytes, int] = {}
-        for place, label in enumerate(labels):
+
+    # Found when they are first asked for: an open costs nothing for them.
+    @functools.cached_property
+    def _labels(self) -> List[str]:
+        return self._read_labels()
+
+    @functools.cached_property
+    def _places(self) -> Dict[bytes, int]:
+        places: Dict[bytes, int] = {}
+        for place, label in enumerate(self._labels):
             key = search_key(label)
             if key:
-                self._places.setdefault(key, place)
+                places.setdefault(key, place)
+        return places
 
     def __getitem__(self, label: str) -> NDArray[np.float32]:
         return self._read(self.place(label))

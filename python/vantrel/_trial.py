@@ -64,9 +64,10 @@ class Trial:
         self._core = _open(file)
         self._path = os.path.abspath(os.fsencode(file))
         core = self._core
-        self._points = LabelledArrays("point", core.labels, core.points, core.point_notes)
-        self._residuals = LabelledArrays("point", core.labels, core.residuals, core.point_notes)
-        self._analogs = LabelledArrays("channel", core.analog_labels, core.analogs,
+        self._points = LabelledArrays("point", lambda: core.labels, core.points, core.point_notes)
+        self._residuals = LabelledArrays("point", lambda: core.labels, core.residuals,
+                                         core.point_notes)
+        self._analogs = LabelledArrays("channel", lambda: core.analog_labels, core.analogs,
                                        core.analog_notes)
 
     @property
