@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Sets up, builds and runs every test: the optimised build in the plain and in a comma locale, and
-# the core under the sanitizers. Without arguments it does all of that; with the name of a preset
+# the core under the sanitizers, its threads included. Without arguments it does all of that; with the name of a preset
 # (release, debug, asan) only that build; with --windows the Windows build, under Wine, and its tool
 # against this system's.
 set -euo pipefail
@@ -19,6 +19,14 @@ test_under_comma_locale() {
   mkdir -p "$folder"
   [ -d "$folder/de_DE.UTF-8" ] || localedef -i de_DE -f UTF-8 "$folder/de_DE.UTF-8"
   LOCPATH=$folder LC_ALL=de_DE.UTF-8 ctest --preset release --parallel 2
+}
+
+# What works in several threads, under the sanitizer of threads.
+test_threads() {
+  cmake --preset tsan
+  cmake --build --preset tsan --target jobs_tests support_tests vantrel-report sample-walk
+  build/tsan/support_tests --gtest_brief=1 --gtest_filter='*OrderedWork*:BehindASlowWork.*'
+  build/tsan/jobs_tests --gtest_brief=1
 }
 
 test_windows() {
@@ -43,3 +51,4 @@ tests/check_format.sh
 build_and_test release
 test_under_comma_locale
 build_and_test asan
+test_threads
