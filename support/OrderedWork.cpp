@@ -11,6 +11,7 @@
 #include <map>
 #include <mutex>
 #include <optional>
+#include <system_error>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -130,6 +131,7 @@ class Workshop {
       const std::size_t size = piece.size();
       works_.Take(std::move(piece));
       MakeRoom(size);
+      works_.Meanwhile();
     }
     if (made.Error) std::rethrow_exception(made.Error);
     if (!made.Left) return false;
@@ -155,15 +157,55 @@ class Workshop {
   std::size_t waiting_ = 0;
 };
 
-// The threads of a workshop, which end with this object.
+// Does the works one after the other where there is no thread but the caller's.
+class WorkAlone {
+ public:
+  explicit WorkAlone(const OrderedWork& works) : works_(works) {}
+
+  void DoAll() {
+    for (std::size_t number = 0; number < works_.Count; ++number) {
+      const AtItsTurn left = Do(number);
+      if (left.Do) left.Do();
+      works_.Meanwhile();
+    }
+    works_.Finish();
+  }
+
+ private:
+  AtItsTurn Do(std::size_t number) {
+    try {
+      return works_.Work(number, [this](std::string piece) { Take(std::move(piece)); });
+    } catch (const WorkStopped&) {
+      if (error_) std::rethrow_exception(error_);
+      throw;
+    }
+  }
+
+  // What fails here is no error of the work that posts, which might make something of it.
+  void Take(std::string piece) {
+    try {
+      works_.Take(std::move(piece));
+      works_.Meanwhile();
+    } catch (...) {
+      error_ = std::current_exception();
+      throw WorkStopped();
+    }
+  }
+
+  const OrderedWork& works_;
+  std::exception_ptr error_;
+};
+
+// The threads of a workshop, which end with this object. There may be fewer than asked for, and
+// none where the system gives none.
 class Crew {
  public:
   Crew(Workshop& workshop, std::size_t count) : workshop_(workshop) {
+    threads_.reserve(count);
     try {
       while (threads_.size() < count) threads_.emplace_back([&workshop] { workshop.DoWorks(); });
     } catch (const std::system_error&) {
-      // The system gives no more of them; some are enough.
-      if (threads_.empty()) throw;
+      // The system gives no more of them.
     }
   }
   Crew(const Crew&) = delete;
@@ -175,6 +217,8 @@ class Crew {
     for (std::thread& thread : threads_) thread.join();
   }
 
+  bool IsEmpty() const { return threads_.empty(); }
+
  private:
   Workshop& workshop_;
   std::vector<std::thread> threads_;
@@ -185,7 +229,11 @@ class Crew {
 void WorkInOrder(const OrderedWork& works) {
   Workshop workshop(works);
   const Crew crew(workshop, std::min(works.Count, static_cast<std::size_t>(works.Threads)));
-  workshop.TakeAll();
+  if (crew.IsEmpty()) {
+    WorkAlone(works).DoAll();
+  } else {
+    workshop.TakeAll();
+  }
 }
 
 int ThreadsFor(int jobs) {

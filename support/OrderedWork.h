@@ -24,13 +24,14 @@ struct OrderedWork {
   // How many bytes may wait for their turn; what one work posts at a time may come on top.
   std::size_t MostWaiting = std::size_t{16} << 20U;
 
-  // In one of the threads. It ends with WorkStopped, at the latest where it posts or next reads
-  // from a trial, once nobody waits for it any more. Any other exception is thrown at its turn.
+  // In one of the threads; in the caller's where the system gives no other. It ends with
+  // WorkStopped, at the latest where it posts or next reads from a trial, once nobody waits for it
+  // any more. Any other exception is thrown at its turn.
   std::function<AtItsTurn(std::size_t number, const PostPiece& post)> Work;
 
   // In the caller's thread, as all that follows: a piece of the work whose turn it is.
   std::function<void(std::string piece)> Take;
-  // Several times a second while the caller waits, and behind each work.
+  // Several times a second while the caller waits, and behind each piece and each work.
   std::function<void()> Meanwhile = [] {};
   // Behind the last work, before the threads end.
   std::function<void()> Finish = [] {};
