@@ -21,10 +21,12 @@ namespace {
 // Whether an entry of a folder is a folder, a trial, or nothing that matters.
 enum class Kind { Folder, Trial, Other };
 
+// By what the folder itself says of it, where it says that: what lies in it may be out of reach.
 Kind KindOf(const fs::directory_entry& entry, const std::string& name) {
   std::error_code ignored;
-  if (entry.symlink_status(ignored).type() == fs::file_type::directory) return Kind::Folder;
+  if (!entry.is_symlink(ignored) && entry.is_directory(ignored)) return Kind::Folder;
   if (!IsTrialName(name)) return Kind::Other;
+  if (entry.is_regular_file(ignored)) return Kind::Trial;
   const fs::file_type type = entry.status(ignored).type();
   const bool canBeOpened = type == fs::file_type::regular || type == fs::file_type::not_found ||
                            type == fs::file_type::unknown || type == fs::file_type::none;

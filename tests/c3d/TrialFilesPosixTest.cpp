@@ -58,6 +58,23 @@ TEST(TrialsOfNames, ThatAreNoUtf8AreTheirBytes) {
   EXPECT_THAT(Found(folder.Path()), ElementsAre(folder.Path().string() + "/m\xFCller.c3d"));
 }
 
+TEST(TrialsOfFolder, WhosePathIsLongerThanTheSystemTakesIsToldOf) {
+  const tests::TemporaryFolder folder;
+  const std::string name(250, 'd');
+  const fs::path before = fs::current_path();
+  fs::current_path(folder.Path());
+  for (int i = 0; i < 17; ++i) {
+    fs::create_directory(name);
+    fs::current_path(name);
+  }
+  fs::current_path(before);
+  std::vector<std::string> unread;
+  modVantrel::TrialsBelow(folder.Path().string(),
+                          [&](const auto& deep, const auto& /*why*/) { unread.push_back(deep); });
+  ASSERT_EQ(unread.size(), 1U);
+  EXPECT_GE(unread[0].size(), 4096U);
+}
+
 TEST(TrialsOfFolder, ThatMayNotBeReadIsToldOfAndTheOthersAreFound) {
   const tests::TemporaryFolder folder;
   for (const char* name : {"a", "b", "c"}) {
