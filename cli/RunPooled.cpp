@@ -9,6 +9,7 @@
 #include "c3d/FileState.h"
 #include "cli/TableOfRequest.h"
 #include "console/Complaint.h"
+#include "console/PostedOutput.h"
 #include "console/RunFiles.h"
 #include "console/StandardOutput.h"
 #include "console/Usage.h"
@@ -24,8 +25,9 @@ using console::FileEnd;
 using console::FileOutcome;
 using console::StandardOutput;
 using console::Streams;
+using console::Whole;
 using modAllPurpose::MessageOf;
-
+using modAllPurpose::PostPiece;
 using reports::Complaints;
 using reports::PooledReport;
 
@@ -76,22 +78,57 @@ void ReadAll(const std::vector<std::string>& files, int jobs, const Streams& str
   RunFiles(files, jobs, streams, run, status);
 }
 
-Complaints Write(const Request& request, const PooledReport& report, StandardOutput& output) {
-  if (request.Format == OutputFormat::Text) return report.ShowText(output);
+// What is printed behind the last trial, made beside the thread that prints it.
+Complaints Write(const Request& request, const PooledReport& report, const PostPiece& post) {
+  const bool isText = request.Format == OutputFormat::Text;
+  console::PostedOutput output(post, isText ? Whole::Line : Whole::Append, {});
+  Complaints complaints;
+  if (isText) {
+    complaints = report.ShowText(output);
+  } else {
+    const auto part = MakeTable(request, output);
+    part->BeginPart(reports::FindReport(request.Report)->Columns);
+    complaints = report.WriteRows(*part);
+  }
+  output.Flush();
+  return complaints;
+}
+
+// Prints the report as RunFiles prints that of one file, so that it ends well where it is
+// interrupted. An error of it, or of the output, passes.
+Complaints WriteAndPrint(const Request& request, const PooledReport& report,
+                         const Streams& streams) {
+  StandardOutput output(streams.Output);
+  const bool isText = request.Format == OutputFormat::Text;
   const auto table = MakeTable(request, output);
-  table->Begin(reports::FindReport(request.Report)->Columns);
-  Complaints complaints = report.WriteRows(*table);
-  table->End();
+  Complaints complaints;
+  console::FileRun run;
+  run.Work = [&](std::size_t /*number*/, const PostPiece& post) -> FileEnd {
+    complaints = Write(request, report, post);
+    return {[] { return FileOutcome(); }};
+  };
+  run.Print = [&](std::string piece) {
+    if (isText) {
+      output.Append(std::move(piece));
+    } else {
+      table->AddPart(piece);
+    }
+  };
+  run.Close = [&] {
+    if (!isText) table->End();
+    output.Flush();
+  };
+  if (!isText) table->Begin(reports::FindReport(request.Report)->Columns);
+  int status = console::kAllWell;
+  RunFiles({request.Report}, 1, streams, run, status);
   return complaints;
 }
 
 // Writes the report; false where something is complained of.
 bool Print(const Request& request, const PooledReport& report, const Streams& streams) {
-  StandardOutput output(streams.Output);
   Complaints complaints;
   const std::string lost = MessageOf([&] {
-    complaints = Write(request, report, output);
-    output.Flush();
+    complaints = WriteAndPrint(request, report, streams);
     return std::string();
   });
   for (const std::string& complaint : complaints) ComplainOf(request.Report, complaint, streams);

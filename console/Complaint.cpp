@@ -2,18 +2,18 @@
 
 #include "console/Complaint.h"
 
-#include <cstdio>
 #include <string>
 
 #include <fmt/format.h>
 
 #include "console/Escapes.h"
+#include "console/Start.h"
 
 namespace console {
 
 void Complain(const Streams& streams, std::string_view message) {
   const std::string line = fmt::format("{}: {}\n", streams.Program, Escaped(message));
-  std::fwrite(line.data(), 1, line.size(), streams.Error);
+  WriteLines(streams.Error, line);
 }
 
 void ComplainOf(const std::string& file, std::string_view message, const Streams& streams) {

@@ -47,18 +47,17 @@ void Progress::Count(bool failed) {
 void Progress::Refresh() {
   if (!isShown_ || Clock::now() < next_) return;
   next_ = Clock::now() + kBetweenDrawings;
-  const std::string text = ProgressText(done_, count_, failed_, Clock::now() - start_);
-  const std::string line = fmt::format("\r{:<{}}", text, width_);
+  std::string text = ProgressText(done_, count_, failed_, Clock::now() - start_);
+  // The last column stays free: behind it, or in a further row, nothing would lead back.
+  const auto columns = static_cast<std::size_t>(TerminalColumns(stream_));
+  if (columns > 0 && text.size() >= columns) text.resize(columns - 1);
+  WriteLines(stream_, fmt::format("\r{:<{}}", text, width_));
   width_ = text.size();
-  std::fwrite(line.data(), 1, line.size(), stream_);
-  std::fflush(stream_);
 }
 
 void Progress::Hide() {
   if (width_ == 0) return;
-  const std::string blank = fmt::format("\r{:{}}\r", "", width_);
-  std::fwrite(blank.data(), 1, blank.size(), stream_);
-  std::fflush(stream_);
+  WriteLines(stream_, fmt::format("\r{:{}}\r", "", width_));
   width_ = 0;
   next_ = Clock::now();
 }

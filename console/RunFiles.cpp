@@ -20,6 +20,9 @@ using modAllPurpose::UnbrokenWork;
 
 namespace {
 
+// What each file that is done holds until its turn at least.
+constexpr std::size_t kBytesOfFile = 1024;
+
 // The side of a run that prints, in the thread that began it.
 class Printing {
  public:
@@ -38,6 +41,7 @@ class Printing {
   }
 
   void Tell(const FileEnd& end) {
+    if (sharesTerminal_) progress_.Hide();
     const FileOutcome outcome = end.Tell();
     if (!outcome.Remarks.empty()) progress_.Hide();
     for (const Remark& remark : outcome.Remarks) {
@@ -86,7 +90,7 @@ void RunFiles(const std::vector<std::string>& files, int jobs, const Streams& st
   works.Threads = modAllPurpose::ThreadsFor(jobs);
   works.Work = [&](std::size_t number, const PostPiece& post) {
     const auto end = std::make_shared<FileEnd>(run.Work(number, post));
-    return AtItsTurn{[&printing, end] { printing.Tell(*end); }, end->Bytes};
+    return AtItsTurn{[&printing, end] { printing.Tell(*end); }, end->Bytes + kBytesOfFile};
   };
   works.Take = [&](std::string piece) { printing.Print(std::move(piece)); };
   works.Meanwhile = [&] { printing.Meanwhile(); };

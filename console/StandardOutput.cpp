@@ -19,7 +19,7 @@ constexpr std::size_t kPieceSize = std::size_t{256} * 1024;
 void StandardOutput::AppendOutput(std::string_view text, bool /*paneOnly*/, bool continueLine) {
   pending_ += text;
   if (!continueLine) pending_ += '\n';
-  if (pending_.size() >= kPieceSize) Flush();
+  if (pending_.size() >= kPieceSize) FlushLines();
 }
 
 void StandardOutput::Append(std::string text) {
@@ -28,12 +28,20 @@ void StandardOutput::Append(std::string text) {
   } else {
     pending_ += text;
   }
-  if (pending_.size() >= kPieceSize) Flush();
+  if (pending_.size() >= kPieceSize) FlushLines();
 }
 
-void StandardOutput::Flush() {
-  std::string piece;
-  piece.swap(pending_);
+void StandardOutput::Flush() { Print(std::exchange(pending_, {})); }
+
+void StandardOutput::FlushLines() {
+  const auto end = pending_.rfind('\n');
+  if (end == std::string::npos) return;
+  std::string rest = pending_.substr(end + 1);
+  pending_.resize(end + 1);
+  Print(std::exchange(pending_, std::move(rest)));
+}
+
+void StandardOutput::Print(const std::string& piece) {
   try {
     HandOver(piece);
   } catch (const OutputClosed&) {

@@ -18,7 +18,8 @@ struct OutputClosed {};
 // since its work is something else.
 enum class Unwritten { EndsReport, LosesLines };
 
-// A report on the tool's standard output, lines ended by LF, handed over in large pieces.
+// A report on the tool's standard output, lines ended by LF, handed over in large pieces of whole
+// lines.
 class StandardOutput : public modAllPurpose::ReportOutput {
  public:
   // `stream` must last as long.
@@ -41,6 +42,8 @@ class StandardOutput : public modAllPurpose::ReportOutput {
   const std::optional<modAllPurpose::RuntimeError>& LostLines() const { return lostLines_; }
 
  private:
+  void FlushLines();
+  void Print(const std::string& piece);
   void HandOver(const std::string& piece);
 
   std::FILE* stream_;

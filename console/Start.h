@@ -25,8 +25,12 @@ void PrepareOutput();
 
 bool IsTerminal(std::FILE* stream);
 
+// How many characters stand in a row of a terminal; 0 where that is not known.
+int TerminalColumns(std::FILE* stream);
+
 // Writes all of `piece`; false where that fails. An UnbrokenWork around it lasts until whole lines
-// are written, but nobody waits in it for a reader who does not read.
+// are written; once it is interrupted it waits for slow readers a second in all, and not for one
+// who does not read.
 bool WriteLines(std::FILE* stream, std::string_view piece);
 
 // Whether the write that has just failed did so because nobody reads it any

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <cerrno>
+#include <chrono>
 #include <csignal>
 #include <poll.h>
+#include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -33,11 +35,34 @@ std::string_view NextChunk(std::string_view text) {
   return text.substr(0, end == std::string_view::npos ? PIPE_BUF : end + 1);
 }
 
+// Whether an interruption has waited long enough for readers, since this was first asked.
+bool IsPatienceOver() {
+  using Clock = std::chrono::steady_clock;
+  constexpr std::chrono::seconds kPatience{1};
+  static const Clock::time_point since = Clock::now();
+  return Clock::now() - since > kPatience;
+}
+
+// An interruption waits for a reader who is slow, so that what is printed ends well, but not for
+// one who does not read.
 void AwaitReader(int file) {
+  constexpr int kMoment = 50;
   pollfd readiness{file, POLLOUT, 0};
-  if (::poll(&readiness, 1, 0) != 0) return;
-  const modAllPurpose::InterruptibleWait wait;
-  ::poll(&readiness, 1, -1);
+  while (::poll(&readiness, 1, kMoment) <= 0) {
+    if (!modAllPurpose::UnbrokenWork::IsInterrupted() || !IsPatienceOver()) continue;
+    const modAllPurpose::InterruptibleWait end;
+  }
+}
+
+// Also where another program made the pipe or terminal one that takes what it can and no more.
+bool WriteAll(int file, std::string_view chunk) {
+  while (!chunk.empty()) {
+    AwaitReader(file);
+    const ssize_t taken = ::write(file, chunk.data(), chunk.size());
+    if (taken < 0 && errno != EAGAIN && errno != EINTR) return false;
+    if (taken > 0) chunk.remove_prefix(static_cast<std::size_t>(taken));
+  }
+  return true;
 }
 
 }  // namespace
@@ -55,13 +80,18 @@ void PrepareOutput() {
 
 bool IsTerminal(std::FILE* stream) { return ::isatty(::fileno(stream)) == 1; }
 
+int TerminalColumns(std::FILE* stream) {
+  winsize size{};
+  return ::ioctl(::fileno(stream), TIOCGWINSZ, &size) == 0 ? size.ws_col : 0;
+}
+
 bool WriteLines(std::FILE* stream, std::string_view piece) {
   errno = 0;
   if (IsRegular(stream)) return Write(stream, piece);
+  if (std::fflush(stream) != 0) return false;
   while (!piece.empty()) {
     const std::string_view chunk = NextChunk(piece);
-    AwaitReader(::fileno(stream));
-    if (!Write(stream, chunk)) return false;
+    if (!WriteAll(::fileno(stream), chunk)) return false;
     piece.remove_prefix(chunk.size());
   }
   return true;

@@ -50,10 +50,11 @@ bool IsConsole(DWORD output) {
   return ::GetConsoleMode(::GetStdHandle(output), &mode) != 0;
 }
 
-bool IsFile(std::FILE* stream) {
-  return ::GetFileType(reinterpret_cast<HANDLE>(::_get_osfhandle(::_fileno(stream)))) ==
-         FILE_TYPE_DISK;
+HANDLE HandleOf(std::FILE* stream) {
+  return reinterpret_cast<HANDLE>(::_get_osfhandle(::_fileno(stream)));
 }
+
+bool IsFile(std::FILE* stream) { return ::GetFileType(HandleOf(stream)) == FILE_TYPE_DISK; }
 
 bool Write(std::FILE* stream, std::string_view piece) {
   return std::fwrite(piece.data(), 1, piece.size(), stream) == piece.size() &&
@@ -104,6 +105,11 @@ void PrepareOutput() {
 }
 
 bool IsTerminal(std::FILE* stream) { return ::_isatty(::_fileno(stream)) != 0; }
+
+int TerminalColumns(std::FILE* stream) {
+  CONSOLE_SCREEN_BUFFER_INFO info{};
+  return ::GetConsoleScreenBufferInfo(HandleOf(stream), &info) != 0 ? info.dwSize.X : 0;
+}
 
 bool WriteLines(std::FILE* stream, std::string_view piece) {
   errno = 0;

@@ -170,6 +170,31 @@ TEST_F(LargeArchive, InterruptedBehindAReaderWhoDoesNotReadEndsAllTheSame) {
   }
 }
 
+TEST_F(LargeArchive, InterruptedWhileNobodyReadsItsErrorsEndsAllTheSame) {
+  std::vector<std::string> arguments = {"--jobs", "2", "header"};
+  for (int i = 0; i < 3000; ++i) arguments.push_back("missing" + std::to_string(i));
+  RunningTool tool(arguments, RunningTool::Output::FileAndUnreadErrors);
+  std::this_thread::sleep_for(std::chrono::milliseconds(300));
+  tool.Send(SIGTERM);
+  EXPECT_EQ(tool.WaitAtMost(std::chrono::seconds(20)), SIGTERM);
+}
+
+TEST_F(LargeArchive, InterruptedBehindASlowReaderLeavesAWholeArray) {
+  const std::string walk = (*archive_ / "visit000/00000.c3d").string();
+  const std::vector<std::vector<std::string>> reports = {
+      {"--jobs", "2", "--all-labels", "--format", "json", "point", walk, walk, walk, walk},
+      {"--format", "json", "norms", walk, walk}};
+  for (const auto& report : reports) {
+    RunningTool tool(report, RunningTool::Output::UnreadPipe);
+    std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    tool.Send(SIGINT);
+    const std::string out = tool.ReadSlowly();
+    EXPECT_EQ(tool.Wait(), SIGINT) << report.back();
+    EXPECT_FALSE(rapidjson::Document().Parse(out.c_str()).HasParseError())
+        << out.substr(out.size() < 200 ? 0 : out.size() - 200);
+  }
+}
+
 TEST_F(LargeArchive, InterruptedWhileGcdFilesAreWrittenLeavesWholeSets) {
   for (int i = 0; i < 10; ++i) {
     const tests::TemporaryFolder out;
@@ -185,6 +210,45 @@ TEST_F(LargeArchive, InterruptedWhileGcdFilesAreWrittenLeavesWholeSets) {
     }
     for (const auto& [trial, count] : sets) {
       EXPECT_TRUE(count == 6 || count == 1) << trial << ": " << count;
+    }
+  }
+}
+
+TEST_F(LargeArchive, ShowsItsProgressInOneRowOfANarrowTerminal) {
+  const RunningTool shown(Command("2", {"--format", "csv", "check"}),
+                          RunningTool::Output::NarrowTerminal);
+  const std::string out = shown.Out();
+  const std::string count = " of " + std::to_string(kFiles);
+  int drawn = 0;
+  for (std::size_t begin = out.find('\r'), end = 0; begin != std::string::npos; begin = end) {
+    end = out.find_first_of("\r\n", begin + 1);
+    const std::string line = out.substr(begin + 1, end - begin - 1);
+    if (line.find(count) == std::string::npos) continue;
+    ++drawn;
+    ASSERT_LT(line.size(), 20U) << line;
+  }
+  EXPECT_GT(drawn, 0);
+}
+
+TEST_F(LargeArchive, ReachesATerminalWholeThatTakesWhatItCanAndNoMore) {
+  const std::string walk = (*archive_ / "visit000/00000.c3d").string();
+  const std::vector<std::string> report = {"--label", "LTOE", "--format", "json", "point", walk};
+  const RunningTool shown(report, RunningTool::Output::ImpatientTerminal);
+  std::string out = shown.Out();
+  std::erase(out, '\r');
+  EXPECT_EQ(out, RunTool(report).Out);
+}
+
+TEST_F(LargeArchive, ShowsItsProgressBehindWholeLinesOfTheSameTerminal) {
+  for (const std::string report : {"measures", "check"}) {
+    const RunningTool shown(Command("2", {"--format", "json", report}),
+                            RunningTool::Output::Terminal);
+    const std::string out = shown.Out();
+    EXPECT_GT(out.size(), 300'000U) << "more than is printed at a time";
+    for (std::size_t end = out.find('\r'); end != std::string::npos;
+         end = out.find('\r', end + 1)) {
+      if (out.substr(end, 2) == "\r\n") continue;
+      ASSERT_TRUE(end == 0 || out[end - 1] != '}') << "a row is drawn over";
     }
   }
 }

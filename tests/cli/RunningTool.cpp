@@ -18,13 +18,20 @@ namespace tests {
 
 namespace {
 
+bool IsTerminal(RunningTool::Output output) {
+  using enum RunningTool::Output;
+  return output == Terminal || output == NarrowTerminal || output == ImpatientTerminal;
+}
+
 // The two ends of what is not a file: the one to read, and the one that the tool is given.
 std::array<int, 2> EndsOf(RunningTool::Output output) {
   std::array<int, 2> ends{};
-  const int failed = output == RunningTool::Output::Terminal
-                         ? ::openpty(&ends[0], &ends[1], nullptr, nullptr, nullptr)
-                         : ::pipe2(ends.data(), O_CLOEXEC);
+  winsize narrow{5, 20, 0, 0};
+  winsize* const size = output == RunningTool::Output::NarrowTerminal ? &narrow : nullptr;
+  const int failed = IsTerminal(output) ? ::openpty(&ends[0], &ends[1], nullptr, nullptr, size)
+                                        : ::pipe2(ends.data(), O_CLOEXEC);
   if (failed != 0) throw std::runtime_error("cannot make a pipe or terminal");
+  if (output == RunningTool::Output::ImpatientTerminal) ::fcntl(ends[1], F_SETFL, O_NONBLOCK);
   return ends;
 }
 
@@ -34,17 +41,19 @@ RunningTool::RunningTool(const std::vector<std::string>& arguments, Output outpu
                          const std::filesystem::path& folder) {
   int out = OutputFile(folder_ / "out");
   int err = OutputFile(folder_ / "err");
-  if (output != Output::File) {
-    const auto ends = EndsOf(output);
-    readEnd_ = ends[0];
-    ::close(std::exchange(out, ends[1]));
-  }
-  if (output == Output::Terminal) ::close(std::exchange(err, ::dup(out)));
+  if (output != Output::File) Replace(output == Output::FileAndUnreadErrors ? err : out, output);
+  if (IsTerminal(output)) ::close(std::exchange(err, ::dup(out)));
   child_ = ::fork();
   if (child_ == 0) BecomeTool(arguments, folder, out, err);
   ::close(out);
   ::close(err);
-  if (output == Output::Terminal) ReadTerminal();
+  if (IsTerminal(output)) ReadTerminal();
+}
+
+void RunningTool::Replace(int& output, Output by) {
+  const auto ends = EndsOf(by);
+  readEnd_ = ends[0];
+  ::close(std::exchange(output, ends[1]));
 }
 
 RunningTool::~RunningTool() {
@@ -62,11 +71,33 @@ void RunningTool::ReadTerminal() {
   }
 }
 
+std::string RunningTool::ReadSlowly() {
+  std::string all;
+  std::array<char, 4096> piece{};
+  for (ssize_t size = 1; size > 0;) {
+    size = ::read(readEnd_, piece.data(), piece.size());
+    if (size > 0) all.append(piece.data(), static_cast<std::size_t>(size));
+    std::this_thread::sleep_for(std::chrono::microseconds(500));
+  }
+  return all;
+}
+
 void RunningTool::Send(int signal) const { ::kill(child_, signal); }
 
 int RunningTool::Wait() {
   if (child_ > 0) ::waitpid(std::exchange(child_, -1), &status_, 0);
   return WIFSIGNALED(status_) ? WTERMSIG(status_) : 0;
+}
+
+int RunningTool::WaitAtMost(std::chrono::milliseconds time) {
+  const auto end = std::chrono::steady_clock::now() + time;
+  siginfo_t ended{};
+  while (ended.si_pid == 0 && std::chrono::steady_clock::now() < end) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    ::waitid(P_PID, static_cast<id_t>(child_), &ended, WEXITED | WNOHANG | WNOWAIT);
+  }
+  if (ended.si_pid == 0) Send(SIGKILL);
+  return Wait();
 }
 
 void RunningTool::AwaitOutput(std::size_t bytes) const {

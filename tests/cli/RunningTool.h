@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <filesystem>
 #include <string>
@@ -15,8 +16,16 @@ namespace tests {
 class RunningTool {
  public:
   // Where the output goes: into a file, into a pipe that nobody reads, or to a terminal that also
-  // takes what it complains of.
-  enum class Output { File, UnreadPipe, Terminal };
+  // takes what it complains of, which may have rows of 20 characters or fail what it cannot take at
+  // once. What is complained of may instead be what nobody reads.
+  enum class Output {
+    File,
+    UnreadPipe,
+    Terminal,
+    NarrowTerminal,
+    ImpatientTerminal,
+    FileAndUnreadErrors
+  };
 
   // Runs in `folder`, the current one where it is empty.
   RunningTool(const std::vector<std::string>& arguments, Output output,
@@ -29,6 +38,11 @@ class RunningTool {
 
   // Waits for the end: the number of the signal that ended it, 0 for none.
   int Wait();
+  // The same; it is killed where it does not end for so long.
+  int WaitAtMost(std::chrono::milliseconds time);
+
+  // What it prints into a pipe that nobody has read, read slowly to its end.
+  std::string ReadSlowly();
 
   // Waits until so much of the output is there, or the tool has ended.
   void AwaitOutput(std::size_t bytes) const;
@@ -38,6 +52,8 @@ class RunningTool {
   std::string Err() const;
 
  private:
+  // Gives the tool, in place of one of its outputs, what is no file.
+  void Replace(int& output, Output by);
   void ReadTerminal();
 
   TemporaryFolder folder_;
