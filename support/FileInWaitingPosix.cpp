@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
+#include <mutex>
 #include <string>
 #include <sys/stat.h>
 #include <sys/xattr.h>
@@ -244,6 +245,10 @@ bool FileInWaiting::TakeNameIfFree(const fs::path& name) {
 }
 
 void FileInWaiting::TakePlaceOf(const fs::path& name) {
+  // One at a time, so that threads that wait for the same folder do not wait with a name each: what
+  // is left where the program is killed right here is one file at most.
+  static std::mutex oneAtATime;
+  const std::lock_guard lock(oneAtATime);
   for (int i = 0; i < kAttempts && name_.empty(); ++i) {
     const fs::path own = NameInWaiting(folder_);
     if (GiveName(Descriptor(handle_), own)) {

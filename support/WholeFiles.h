@@ -7,7 +7,8 @@
 
 // Files that are there whole or not at all. Each text is complete on disk before its file takes its
 // name, in one step; an interruption (see UnbrokenWork) leaves nothing beside it, and a program
-// that is killed nothing where the system can make files without a name.
+// that is killed nothing where the system can make files without a name, but for one file at most
+// where it is killed in the moment in which that takes the place of another.
 //
 // Every error is 57, 61, 70, 75 or 76 and names the file, or for 76 the folder that is missing.
 namespace modAllPurpose {

@@ -214,6 +214,25 @@ TEST_F(LargeArchive, InterruptedWhileGcdFilesAreWrittenLeavesWholeSets) {
   }
 }
 
+TEST_F(LargeArchive, KilledWhileGcdFilesAreReplacedLeavesOneFileAtMostBesideThem) {
+  const tests::TemporaryFolder out;
+  const auto command = Command("64", {"--output-dir", out.Path().string(), "--overwrite", "gcd"});
+  RunningTool(command, RunningTool::Output::File).Wait();
+  for (int i = 0; i < 40; ++i) {
+    RunningTool tool(command, RunningTool::Output::File);
+    std::this_thread::sleep_for(std::chrono::milliseconds(20 + 2 * i));
+    tool.Send(SIGKILL);
+    tool.Wait();
+    int left = 0;
+    for (const std::string& name : tests::NamesIn(out.Path())) {
+      if (name.ends_with(".gcd")) continue;
+      ++left;
+      fs::remove(out / name);
+    }
+    EXPECT_LE(left, 1);
+  }
+}
+
 TEST_F(LargeArchive, ShowsItsProgressInOneRowOfANarrowTerminal) {
   const RunningTool shown(Command("2", {"--format", "csv", "check"}),
                           RunningTool::Output::NarrowTerminal);
