@@ -2,7 +2,17 @@
 
 #include "app/CommandLine.h"
 
+#include "support/ProgramArguments.h"
+
 namespace app {
+
+StartWords::StartWords(int argc, char** argv)
+    : words_(modAllPurpose::ProgramArguments(argc, argv)) {
+  words_.insert(words_.begin(), argv[0]);
+  for (std::string& word : words_) pointers_.push_back(word.data());
+  count_ = static_cast<int>(words_.size());
+  pointers_.push_back(nullptr);
+}
 
 std::string JoinedArguments(int argc, const char* const* argv) {
   std::string line;

@@ -3,8 +3,28 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace app {
+
+// The words that the program was started with, its own name first, in UTF-8 on Windows and as they
+// came elsewhere. The toolkit takes them as main's arguments, removes its own options from them and
+// refers to them as long as it lives.
+class StartWords {
+ public:
+  StartWords(int argc, char** argv);
+  StartWords(const StartWords&) = delete;
+  StartWords& operator=(const StartWords&) = delete;
+  ~StartWords() = default;
+
+  int& Count() { return count_; }
+  char** Words() { return pointers_.data(); }
+
+ private:
+  std::vector<std::string> words_;
+  std::vector<char*> pointers_;  // to each word, then a null
+  int count_;
+};
 
 // The command line behind the program's name: the arguments joined by blanks, so that a path with
 // blanks that nobody quoted is whole again.

@@ -40,12 +40,13 @@ bool DeployThisProgram(const deploy::MessageShower& showMessage) {
 }
 
 int RunVantrel(int argc, char** argv, const Deployment& deployment) {
-  QApplication application(argc, argv);
+  StartWords words(argc, argv);
+  QApplication application(words.Count(), words.Words());
   QApplication::setApplicationName(QStringLiteral("vantrel"));
   QApplication::setDesktopFileName(QStringLiteral("vantrel"));
   QApplication::setWindowIcon(ProgramIcon());
   // The toolkit has taken its own options off the command line; the rest is the path of a file.
-  const StartLine start = ReadStartLine(argc, argv);
+  const StartLine start = ReadStartLine(words.Count(), words.Words());
   if (!Form_Initialize(deployment)) return 0;
 
   modVantrel::FileState state;

@@ -5,9 +5,10 @@
 #include "cli/Tool.h"
 #include "console/Start.h"
 #include "support/Interruption.h"
+#include "support/ProgramArguments.h"
 
 int main(int argc, char* argv[]) {
   modAllPurpose::LetInterruptionsWait();
   console::PrepareOutput();
-  return cli::RunTool(console::Arguments(argc, argv), {stdout, stderr});
+  return cli::RunTool(modAllPurpose::ProgramArguments(argc, argv), {stdout, stderr});
 }

@@ -9,10 +9,6 @@
 // What systems do differently about a program's start and its standard output.
 namespace console {
 
-// The arguments that the tool was started with, its own name aside, in UTF-8 on Windows and as they
-// came elsewhere.
-std::vector<std::string> Arguments(int argc, char** argv);
-
 // The files, not folders, that `file` stands for, in order, where it has a wildcard, "*" or "?", in
 // its last name; `file` itself where it has none or stands for no file. Only Windows shells leave
 // that to a program, and Windows itself says which names fit, short ones among them; elsewhere a

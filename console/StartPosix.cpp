@@ -67,8 +67,6 @@ bool WriteAll(int file, std::string_view chunk) {
 
 }  // namespace
 
-std::vector<std::string> Arguments(int argc, char** argv) { return {argv + 1, argv + argc}; }
-
 std::vector<std::string> WithoutWildcards(const std::string& file) { return {file}; }
 
 void PrepareOutput() {

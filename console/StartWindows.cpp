@@ -13,6 +13,7 @@
 #include "support/FileSystem.h"
 #include "support/Interruption.h"
 #include "support/WindowsError.h"
+#include "support/WindowsText.h"
 
 namespace console {
 
@@ -23,16 +24,6 @@ struct CloseSearch {
   void operator()(HANDLE search) const { ::FindClose(search); }
 };
 using Search = std::unique_ptr<void, CloseSearch>;
-
-// `text` in UTF-8, with a mark in place of what is no UTF-16.
-std::string Utf8(const wchar_t* text) {
-  const auto convert = [&](char* into, int size) {
-    return ::WideCharToMultiByte(CP_UTF8, 0, text, -1, into, size, nullptr, nullptr);
-  };
-  std::string utf8(static_cast<std::size_t>(convert(nullptr, 0)), '\0');
-  convert(utf8.data(), static_cast<int>(utf8.size()));
-  return utf8.substr(0, utf8.find('\0'));  // without the NUL at the end
-}
 
 // The user's console, whose code page is put back when the tool ends, by itself or by its user.
 UINT codePageBefore = 0;
@@ -63,16 +54,6 @@ bool Write(std::FILE* stream, std::string_view piece) {
 
 }  // namespace
 
-// main's own arguments are in the code page of the system, which cannot name every file.
-std::vector<std::string> Arguments(int /*argc*/, char** /*argv*/) {
-  int count = 0;
-  wchar_t** const words = ::CommandLineToArgvW(::GetCommandLineW(), &count);
-  std::vector<std::string> arguments;
-  for (int k = 1; k < count; ++k) arguments.push_back(Utf8(words[k]));
-  ::LocalFree(words);
-  return arguments;
-}
-
 std::vector<std::string> WithoutWildcards(const std::string& file) {
   const auto nameStart = file.find_last_of("/\\:") + 1;
   if (file.find_first_of("*?", nameStart) == std::string::npos) return {file};
@@ -86,7 +67,7 @@ std::vector<std::string> WithoutWildcards(const std::string& file) {
   std::vector<std::string> files;
   do {
     if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) continue;
-    files.push_back(file.substr(0, nameStart) + Utf8(&found.cFileName[0]));
+    files.push_back(file.substr(0, nameStart) + modAllPurpose::Utf8Text(&found.cFileName[0]));
   } while (::FindNextFileW(search.get(), &found) != 0);
   if (::GetLastError() != ERROR_NO_MORE_FILES) throw modAllPurpose::LastFileError();
   if (files.empty()) return {file};

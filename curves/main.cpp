@@ -5,9 +5,10 @@
 #include "console/Start.h"
 #include "curves/RunCurves.h"
 #include "support/Interruption.h"
+#include "support/ProgramArguments.h"
 
 int main(int argc, char* argv[]) {
   modAllPurpose::LetInterruptionsWait();
   console::PrepareOutput();
-  return curves::RunCurves(console::Arguments(argc, argv), {stdout, stderr});
+  return curves::RunCurves(modAllPurpose::ProgramArguments(argc, argv), {stdout, stderr});
 }
