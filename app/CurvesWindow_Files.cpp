@@ -72,7 +72,7 @@ std::string CurvesWindow::AskForFile(const QString& title, const QString& name,
     return chosen.endsWith(endingOf(filter), Qt::CaseInsensitive);
   });
   if (!hasEnding) chosen += endingOf(dialog.selectedNameFilter());
-  return chosen.toStdString();
+  return PathFrom(chosen);
 }
 
 bool CurvesWindow::MayReplace(const std::string& file) {

@@ -73,7 +73,7 @@ void CurvesWindow::ChooseTrials() {
   if (dialog.exec() != QDialog::Accepted) return;
   std::vector<std::string> paths;
   for (const QString& path : dialog.selectedFiles()) {
-    paths.push_back(path.toStdString());
+    paths.push_back(PathFrom(path));
   }
   AddTrials(paths);
 }

@@ -6,6 +6,7 @@
 #include <QStandardPaths>
 #include <QString>
 
+#include "app/QtText.h"
 #include "support/Text.h"
 
 namespace app {
@@ -14,9 +15,10 @@ std::string GetSpecialFolderPath(int folderId) {
   if (folderId != kDesktopFolderId) return {};
   const QString folder = QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
   if (!QFileInfo(folder).isDir()) return {};
-  std::string path = folder.toStdString();
+  const char separator = QDir::separator().toLatin1();
+  std::string path = PathFrom(folder);
   modAllPurpose::TrimInPlace(path);
-  if (!path.ends_with('/')) path += '/';
+  if (!path.ends_with(separator)) path += separator;
   return path;
 }
 

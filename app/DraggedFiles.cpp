@@ -6,14 +6,28 @@
 #include <QMimeData>
 #include <QUrl>
 
+#include "app/QtText.h"
+
 namespace app {
+
+namespace {
+
+#ifdef _WIN32
+std::string PathOf(const QUrl& url) { return PathFrom(url.toLocalFile()); }
+#else
+// Byte for byte: a name need not be UTF-8.
+std::string PathOf(const QUrl& url) {
+  const QByteArray path = url.path(QUrl::FullyEncoded).toLatin1();
+  return QByteArray::fromPercentEncoding(path).toStdString();
+}
+#endif
+
+}  // namespace
 
 std::vector<std::string> DraggedFiles(const QMimeData* data) {
   std::vector<std::string> files;
   for (const QUrl& url : data->urls()) {
-    if (!url.isLocalFile()) continue;
-    const QByteArray path = url.path(QUrl::FullyEncoded).toLatin1();
-    files.push_back(QByteArray::fromPercentEncoding(path).toStdString());
+    if (url.isLocalFile()) files.push_back(PathOf(url));
   }
   return files;
 }

@@ -154,12 +154,12 @@ void MainWindow::ChooseNormals() {
       this, tr("Normals"), folder.isEmpty() ? ToQString(remembered_.LastFolder()) : folder,
       tr("Normal values (*.csv *.gcd *.CSV *.GCD);;All files (*)"));
   if (chosen.isEmpty()) return;
-  const auto normals = visit::ReadNormalFile(chosen.toStdString());
+  const auto normals = visit::ReadNormalFile(PathFrom(chosen));
   if (const auto* fault = std::get_if<std::string>(&normals)) {
     ShowMessage(this, *fault);
     return;
   }
-  remembered_.SetNormals(chosen.toStdString());
+  remembered_.SetNormals(PathFrom(chosen));
   EnableActions();
   emit NormalsChanged();
 }

@@ -7,6 +7,8 @@
 #include <QPushButton>
 #include <QStringList>
 
+#include "app/QtText.h"
+#include "support/FileSystem.h"
 #include "support/Text.h"
 
 namespace modApiCommonDialog {
@@ -44,9 +46,8 @@ void HintAtCancel(const QFileDialog& dialog, const QString& hint) {
 DialogResult ResultForChosenFile(std::string_view path) {
   DialogResult result;
   result.DialogFileSpec = modAllPurpose::Trimmed(modAllPurpose::StripAtNul(path));
-  const std::size_t nameStart = result.DialogFileSpec.rfind('/') + 1;  // 0 where there is no slash
-  result.DialogFolder = result.DialogFileSpec.substr(0, nameStart);
-  result.DialogFileName = result.DialogFileSpec.substr(nameStart);
+  result.DialogFolder = modAllPurpose::FolderPart(result.DialogFileSpec);
+  result.DialogFileName = modAllPurpose::OwnName(result.DialogFileSpec);
   result.DialogOk = true;
   return result;
 }
@@ -62,7 +63,7 @@ DialogResult ShowOpenFileDialog(QWidget* owner, std::string_view filter,
   }
   HintAtCancel(dialog, cancelHint);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
-  return ResultForChosenFile(dialog.selectedFiles().constFirst().toStdString());
+  return ResultForChosenFile(app::PathFrom(dialog.selectedFiles().constFirst()));
 }
 
 }  // namespace modApiCommonDialog

@@ -3,6 +3,7 @@
 #include "app/OutputPane.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <utility>
 
 #include <QEvent>
@@ -85,7 +86,8 @@ OutputPane::OutputPane(QWidget* parent) : QsciScintilla(parent) {
   // listings.
   SendScintilla(SCI_SETMODEVENTMASK, 0UL);
   SendScintilla(SCI_SETRECTANGULARSELECTIONMODIFIER, static_cast<unsigned long>(SCMOD_CTRL));
-  SendScintilla(SCI_STYLESETFONT, kDefaultStyle, PaneFontFamily().toUtf8().constData());
+  SendScintilla(SCI_STYLESETFONT, std::uintptr_t{kDefaultStyle},
+                PaneFontFamily().toUtf8().constData());
   SendScintilla(SCI_STYLESETSIZE, kDefaultStyle, long{kPaneLetters});
   connect(this, &QsciScintilla::SCN_ZOOM, this, &OutputPane::SetScrollWidth);
   connect(this, &QsciScintilla::SCN_UPDATEUI, this, [this](int changes) {
@@ -120,7 +122,7 @@ void OutputPane::Append(std::string_view text) {
   const long start = length();
   {
     const Writable writable(*this);
-    SendScintilla(SCI_APPENDTEXT, static_cast<unsigned long>(text.size()), text.data());
+    SendScintilla(SCI_APPENDTEXT, std::uintptr_t{text.size()}, text.data());
   }
   SendScintilla(SCI_SETEMPTYSELECTION, static_cast<unsigned long>(length()));
   longestLine_ = std::max(longestLine_, LongestLineOf(text));
@@ -132,7 +134,8 @@ void OutputPane::Append(std::string_view text) {
 void OutputPane::SetScrollWidth() {
   // Widths are whole pixels, so one character alone would say too much or too little.
   static const std::string kSample(100, '0');
-  const long sampleWidth = SendScintilla(SCI_TEXTWIDTH, kDefaultStyle, kSample.c_str());
+  const long sampleWidth =
+      SendScintilla(SCI_TEXTWIDTH, std::uintptr_t{kDefaultStyle}, kSample.c_str());
   const long width = longestLine_ * sampleWidth / static_cast<long>(kSample.size());
   SendScintilla(SCI_SETSCROLLWIDTH, static_cast<unsigned long>(width + kLeftEdge));
 }
@@ -193,7 +196,7 @@ bool OutputPane::FindBetween(std::string_view text, long start, long end) {
   // The editor's own search is the quicker one, and matches the cases of these letters.
   SendScintilla(SCI_SETTARGETSTART, start);
   SendScintilla(SCI_SETTARGETEND, end);
-  if (SendScintilla(SCI_SEARCHINTARGET, static_cast<unsigned long>(text.size()), text.data()) < 0) {
+  if (SendScintilla(SCI_SEARCHINTARGET, std::uintptr_t{text.size()}, text.data()) < 0) {
     return false;
   }
   Select(SendScintilla(SCI_GETTARGETSTART), SendScintilla(SCI_GETTARGETEND));

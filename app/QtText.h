@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <string>
 #include <string_view>
 
+#include <QDir>
 #include <QString>
 
 namespace app {
@@ -11,6 +13,12 @@ namespace app {
 // show as the replacement character.
 inline QString ToQString(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+// A path of the toolkit, which separates folders by a slash everywhere, as the program and the
+// system write it.
+inline std::string PathFrom(const QString& path) {
+  return QDir::toNativeSeparators(path).toStdString();
 }
 
 }  // namespace app

@@ -53,7 +53,7 @@ std::optional<ChosenName> AskForName(QWidget* owner, const QString& title, const
     ending = kinds.at(std::max<qsizetype>(chosen, 0)).Ending;
     name += QLatin1Char('.') + ending;
   }
-  return ChosenName{name.toStdString(), ending};
+  return ChosenName{PathFrom(name), ending};
 }
 
 bool MayReplace(QWidget* owner, const std::string& path) {
