@@ -3,20 +3,24 @@
 
 #include <string>
 
-#include <QByteArray>
-#include <QtGlobal>
-
 namespace tests {
 
-// Lets the user's settings be looked for in a folder of the test while it lives.
+// Lets the user's settings be looked for in a folder of the test while it lives. On Windows the
+// system keeps that for the whole user, so no two tests may run at once, and they run under Wine
+// alone.
 class ConfigFolder {
  public:
-  explicit ConfigFolder(const std::string& folder) {
-    qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(folder));
-  }
+  explicit ConfigFolder(std::string folder);
   ConfigFolder(const ConfigFolder&) = delete;
   ConfigFolder& operator=(const ConfigFolder&) = delete;
-  ~ConfigFolder() { qunsetenv("XDG_CONFIG_HOME"); }
+  ~ConfigFolder();
+
+  // Has the system name `desktop` as the user's desktop. Where settings are a file of the folder,
+  // that must be there.
+  void NameDesktop(const std::string& desktop);
+
+ private:
+  std::string folder_;
 };
 
 }  // namespace tests

@@ -2,8 +2,6 @@
 
 // Run-time errors: each ends the program, after what was written is shown and the error named.
 
-#include <fstream>
-
 #include <QGuiApplication>
 #include <QSignalSpy>
 
@@ -113,16 +111,6 @@ TEST_F(FormError, ADesktopThatWasRemovedSinceTheStartIsError76) {
   boxes_.ExpectAndClick(QStringLiteral("OK"));
   Click("cmdShowAllGroups");
   ExpectErrorAndEnd("Run-time error '76':\n\nPath not found");
-}
-
-TEST_F(FormError, AFullDiskIsError61AndTheReportIsInThePane) {
-  Start(WriteSampleWalk());
-  std::filesystem::create_symlink("/dev/full", DesktopFile());
-  Tick(true);
-  boxes_.ExpectAndClick(QStringLiteral("OK"));
-  Click("cmdShowAllGroups");
-  EXPECT_TRUE(PaneText().starts_with("POINT\n"));
-  ExpectErrorAndEnd("Run-time error '61':\n\nDisk full");
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 
 #include "tests/app/FormFixture.h"
 
-#include <fstream>
 #include <regex>
 
 #include <QApplication>
@@ -29,6 +28,15 @@ std::unique_ptr<QWidget> MakeTop(modVantrel::FileState& state, Around around) {
   return std::make_unique<app::frmVantrel>(state);
 }
 
+#ifdef _WIN32
+QUrl UrlOf(const std::string& path) { return QUrl::fromLocalFile(QString::fromStdString(path)); }
+#else
+// Percent-encoded byte for byte, as file managers hand it over.
+QUrl UrlOf(const std::string& path) {
+  return QUrl::fromEncoded("file://" + QByteArray::fromStdString(path).toPercentEncoding("/"));
+}
+#endif
+
 app::frmVantrel& FormOf(QWidget& top) {
   auto* window = qobject_cast<app::MainWindow*>(&top);
   return window == nullptr ? dynamic_cast<app::frmVantrel&>(top) : window->Form();
@@ -41,8 +49,7 @@ FormTest::FormTest() : FormTest(AroundAsAsked()) {}
 FormTest::FormTest(Around around) : top_(MakeTop(state_, around)), form_(FormOf(*top_)) {
   std::filesystem::create_directory(folder_ / "Desktop");
   std::filesystem::create_directory(folder_ / "config");
-  std::ofstream(folder_ / "config/user-dirs.dirs")
-      << "XDG_DESKTOP_DIR=\"" << (folder_ / "Desktop").string() << "\"\n";
+  config_.NameDesktop((folder_ / "Desktop").string());
 }
 
 void FormTest::Start(const std::string& commandLine) {
@@ -78,8 +85,7 @@ void FormTest::DropOn(QWidget& target, const std::vector<std::string>& paths) {
   QMimeData data;
   QList<QUrl> urls;
   for (const std::string& path : paths) {
-    // Percent-encoded byte for byte, as file managers hand it over.
-    urls << QUrl::fromEncoded("file://" + QByteArray::fromStdString(path).toPercentEncoding("/"));
+    urls << UrlOf(path);
   }
   data.setUrls(urls);
   const QPoint place(3, 3);

@@ -11,6 +11,7 @@
 #include "sample/SampleWalk.h"
 #include "sample/TrialBuilder.h"
 #include "tests/TestTrials.h"
+#include "tests/app/ConfigFolder.h"
 
 namespace {
 
@@ -33,8 +34,6 @@ class Program : public ::testing::Test {
   Outcome Start(const QStringList& arguments, const char* clicks = "",
                 const char* deployment = nullptr) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("XDG_CONFIG_HOME"),
-                       QString::fromStdString((folder_ / "config").string()));
     if (deployment != nullptr) {
       environment.insert(QStringLiteral("VANTREL_TEST_DEPLOYMENT"), QLatin1String(deployment));
     }
@@ -52,6 +51,7 @@ class Program : public ::testing::Test {
   }
 
   tests::TemporaryFolder folder_;
+  tests::ConfigFolder config_{(folder_ / "config").string()};
 };
 
 TEST_F(Program, ClosedByItsUserEndsWithStatusZero) {

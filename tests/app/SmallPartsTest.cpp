@@ -4,7 +4,6 @@
 
 #include <array>
 #include <filesystem>
-#include <fstream>
 
 #include <QFontDatabase>
 #include <QFontMetrics>
@@ -70,29 +69,30 @@ TEST(FormPosition, CutsTowardsZeroWhereTheFormIsLargerThanTheScreen) {
 
 class DesktopFolder : public ::testing::Test {
  protected:
-  void SystemNames(const std::string& folder) {
-    std::ofstream(folder_ / "user-dirs.dirs") << "XDG_DESKTOP_DIR=\"" << folder << "\"\n";
+  void SystemNames(const std::filesystem::path& folder) { config_.NameDesktop(folder.string()); }
+  static std::string WithSeparator(const std::filesystem::path& folder) {
+    return (folder / "").string();
   }
 
   TemporaryFolder folder_;
   ConfigFolder config_{folder_.Path().string()};
 };
 
-TEST_F(DesktopFolder, IsTheOneOfTheSystemWithASlashAtItsEnd) {
+TEST_F(DesktopFolder, IsTheOneOfTheSystemWithASeparatorAtItsEnd) {
   const auto desktop = folder_ / "Schreibtisch für alle";
   std::filesystem::create_directory(desktop);
-  SystemNames(desktop.string());
-  EXPECT_EQ(app::GetDesktopFolder(), desktop.string() + "/");
+  SystemNames(desktop);
+  EXPECT_EQ(app::GetDesktopFolder(), WithSeparator(desktop));
 }
 
 TEST_F(DesktopFolder, IsEmptyWhereTheNamedFolderIsNotThere) {
-  SystemNames((folder_ / "nowhere").string());
+  SystemNames(folder_ / "nowhere");
   EXPECT_EQ(app::GetDesktopFolder(), "");
 }
 
 TEST_F(DesktopFolder, IsTheOnlyFolderIdThatIsKnown) {
-  SystemNames(folder_.Path().string());
-  EXPECT_EQ(app::GetSpecialFolderPath(16), folder_.Path().string() + "/");
+  SystemNames(folder_.Path());
+  EXPECT_EQ(app::GetSpecialFolderPath(16), WithSeparator(folder_.Path()));
   EXPECT_EQ(app::GetSpecialFolderPath(5), "");
 }
 
@@ -140,13 +140,6 @@ TEST(DesktopCopy, InPlaceOfAFolderIsError75) {
   const TemporaryFolder folder;
   app::DesktopCopy copy;
   EXPECT_EQ(tests::ErrorNumberOf([&] { copy.Open(folder.Path().string()); }), 75);
-}
-
-TEST(DesktopCopy, OnAFullDiskIsError61) {
-  app::DesktopCopy copy;
-  copy.Open("/dev/full");
-  copy.Write("does not fit", false);
-  EXPECT_EQ(tests::ErrorNumberOf([&] { copy.Close(); }), 61);
 }
 
 TEST(ChosenFile, IsSplitIntoFolderAndName) {

@@ -5,6 +5,11 @@
 // standard output, and closes the window at last.
 
 #include <iostream>
+#ifdef _WIN32
+#include <cstdio>
+#include <fcntl.h>
+#include <io.h>
+#endif
 
 #include <QApplication>
 #include <QMessageBox>
@@ -14,6 +19,7 @@
 
 #include "app/OutputPane.h"
 #include "app/Startup.h"
+#include "tests/ToolkitVariables.h"
 
 namespace {
 
@@ -86,6 +92,10 @@ bool AnswerAsTold(const deploy::MessageShower& showMessage) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+#ifdef _WIN32
+  ::_setmode(::_fileno(stdout), _O_BINARY);
+#endif
+  tests::TakeToolkitVariables();
   if (!qEnvironmentVariableIsSet("VANTREL_TEST_DEPLOYMENT")) return app::RunVantrel(argc, argv);
   return app::RunVantrel(argc, argv, AnswerAsTold);
 }

@@ -55,7 +55,7 @@ TEST_F(WindowMenu, AFileDroppedOnTheMenusIsOpened) {
   DropOn(window_, WriteSampleWalk());
   EXPECT_GT(Tree()->topLevelItemCount(), 0);
   Drop(Write(SampleTrial(), "other.c3d"));
-  EXPECT_TRUE(window_.windowTitle().endsWith(QStringLiteral("/other.c3d")));
+  EXPECT_TRUE(window_.windowTitle().endsWith(QDir::separator() + QStringLiteral("other.c3d")));
 }
 
 TEST_F(WindowMenu, StandInTheirOrder) {

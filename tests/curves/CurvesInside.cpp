@@ -11,8 +11,8 @@ namespace tests {
 
 ToolResult RunCurvesInside(const std::vector<std::string>& arguments) {
   const TemporaryFolder folder;
-  std::FILE* const output = std::fopen((folder / "out").c_str(), "wb");
-  std::FILE* const error = std::fopen((folder / "err").c_str(), "wb");
+  std::FILE* const output = std::fopen((folder / "out").string().c_str(), "wb");
+  std::FILE* const error = std::fopen((folder / "err").string().c_str(), "wb");
   const int status = curves::RunCurves(arguments, {output, error});
   std::fclose(output);
   std::fclose(error);

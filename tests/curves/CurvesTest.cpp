@@ -149,11 +149,9 @@ TEST_F(CurvesTest, WhatThePagesAreMadeOfIsNeverReplaced) {
   const std::string likeAPage = Given("a-1.svg");
   const std::string notRead = GivenText("bad.json", "no trial");
   const std::string norms = GivenText("norms.json", NormalKnee());
-  std::filesystem::create_symlink("walk.c3d", In("link.json"));
   std::filesystem::create_hard_link(In("walk.c3d"), In("twin.json"));
   const auto before = Text("walk.c3d");
   for (const std::vector<std::string>& words : {
-           std::vector<std::string>{In("link.json"), walk},
            std::vector<std::string>{In("twin.json"), walk},
            std::vector<std::string>{In("a.svg"), walk, likeAPage},
            std::vector<std::string>{notRead, walk, notRead},
@@ -315,17 +313,6 @@ TEST_F(CurvesTest, OfTwoRunsAtOnceOneWritesAllItsPicturesAndTheOtherNone) {
   EXPECT_EQ(std::ranges::count(runs, 0, &ToolResult::Status), 1);
   EXPECT_EQ(std::ranges::count(runs, 1, &ToolResult::Status), 1);
   EXPECT_THAT(Names(), ElementsAre("a-1.svg", "a-2.svg", "walk.c3d"));
-}
-
-TEST_F(CurvesTest, NeedsNoDisplayAndSaysNothingOfItsSurroundings) {
-  const std::string walk = Given("walk.c3d");
-  ::setenv("DISPLAY", "nowhere.invalid:9", 1);
-  ::setenv("QT_QPA_PLATFORM", "xcb", 1);
-  ::unsetenv("XDG_RUNTIME_DIR");
-  const ToolResult run = tests::RunTool({"--output", In("a.pdf"), walk});
-  EXPECT_EQ(run.Status, 0);
-  EXPECT_EQ(run.Out + run.Err, "");
-  EXPECT_THAT(Text("a.pdf"), StartsWith("%PDF-"));
 }
 
 }  // namespace

@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <algorithm>
-#include <array>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <map>
-#include <memory>
 
 #include <QBuffer>
 #include <QImage>
@@ -51,15 +48,6 @@ class PageFiles : public testing::Test {
     std::ranges::sort(names);
     return names;
   }
-  // What `command`, with %s for the file, prints about a PDF.
-  std::string Asked(const std::string& command, const std::string& pdf) const {
-    std::ofstream(In("asked.pdf"), std::ios::binary) << pdf;
-    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> output(
-        ::popen((command + " '" + In("asked.pdf") + "' -").c_str(), "r"), ::pclose);
-    std::string text;
-    for (int c = 0; (c = std::fgetc(output.get())) != EOF;) text += static_cast<char>(c);
-    return text;
-  }
 
  private:
   static std::string Name() {
@@ -69,30 +57,6 @@ class PageFiles : public testing::Test {
 
   fs::path folder_;
 };
-
-TEST_F(PageFiles, PdfHoldsAllPagesAndTheirTextsCanBeFound) {
-  const auto files = BytesOf(SamplePages({3, 1, true, {}}), FileKind::Pdf, {}, {});
-  ASSERT_THAT(files, SizeIs(1));
-  const std::string text = Asked("pdftotext", files[0]);
-  EXPECT_THAT(text, HasSubstr("Knee flexion"));
-  EXPECT_THAT(text, HasSubstr("Ankle dorsiflexion"));
-  EXPECT_THAT(text, HasSubstr("Page 5 of 5"));
-  EXPECT_EQ(std::ranges::count(text, '\f'), 5);
-}
-
-TEST_F(PageFiles, PdfCarriesItsThreeFonts) {
-  const auto files = BytesOf(SamplePages({}), FileKind::Pdf, {}, {});
-  std::ofstream(In("a.pdf"), std::ios::binary) << files[0];
-  const std::unique_ptr<std::FILE, int (*)(std::FILE*)> output(
-      ::popen(("pdffonts '" + In("a.pdf") + "'").c_str(), "r"), ::pclose);
-  std::vector<std::string> lines;
-  for (std::array<char, 512> line{}; std::fgets(line.data(), line.size(), output.get());) {
-    lines.emplace_back(line.data());
-  }
-  ASSERT_THAT(lines, SizeIs(5)) << "two lines of heading";
-  lines.erase(lines.begin(), lines.begin() + 2);
-  EXPECT_THAT(lines, testing::Each(testing::MatchesRegex(".*DejaVuSans.* yes .*\n")));
-}
 
 TEST_F(PageFiles, PdfIsOfTheSheetThatWasAskedFor) {
   const auto set = SamplePages({});
