@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Installs the Debian packages that building and testing need and that are missing; with --windows
-# also those for the Windows build.
+# also those for the Windows build, with --windows-window those of the window there too, and builds
+# its toolkit, once.
 set -euo pipefail
 
 packages=(
@@ -13,8 +14,9 @@ packages=(
   x11-utils xauth xvfb
 )
 
-if [ "${1:-}" = --windows ]; then
+if [[ "${1:-}" = --windows* ]]; then
   packages+=(g++-mingw-w64-x86-64 googletest wine64)
+  [ "$1" = --windows ] || packages+=(icoutils)
 elif [ "${1:-}" = --checks ]; then
   packages+=(cppcheck gcovr mypy valgrind)
   # For the scripts of the manual.
@@ -26,11 +28,12 @@ for package in "${packages[@]}"; do
   status=$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null || true)
   [ "$status" = installed ] || missing+=("$package")
 done
-[ ${#missing[@]} -gt 0 ] || exit 0
-
-as_root=()
-[ "$(id -u)" -eq 0 ] || as_root=(sudo)
-echo "Installing: ${missing[*]}"
-"${as_root[@]}" apt-get update
-"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-  apt-get install -y --no-install-recommends "${missing[@]}"
+if [ ${#missing[@]} -gt 0 ]; then
+  as_root=()
+  [ "$(id -u)" -eq 0 ] || as_root=(sudo)
+  echo "Installing: ${missing[*]}"
+  "${as_root[@]}" apt-get update
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -y --no-install-recommends "${missing[@]}"
+fi
+[ "${1:-}" != --windows-window ] || "$(dirname "$0")/cmake/mingw/toolkit/build.sh"

@@ -3,7 +3,8 @@
 # Sets up, builds and runs every test: the optimised build in the plain and in a comma locale, and
 # the core under the sanitizers, its threads included. Without arguments it does all of that; with the name of a preset
 # (release, debug, asan) only that build; with --windows the Windows build, under Wine, and its tool
-# against this system's.
+# against this system's; with --windows-window the Windows build with the window, whose toolkit is
+# built first where it is not there.
 set -euo pipefail
 cd "$(dirname "$0")"
 
@@ -38,6 +39,11 @@ test_windows() {
     build/release/sample-walk.c3d
 }
 
+if [ "${1:-}" = --windows-window ]; then
+  ./setup.sh --windows-window
+  build_and_test windows-window
+  exit
+fi
 if [ "${1:-}" = --windows ]; then
   test_windows
   exit

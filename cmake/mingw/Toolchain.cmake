@@ -12,8 +12,8 @@ set(CMAKE_EXE_LINKER_FLAGS_INIT -static)
 set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_LIST_DIR}/../../tests/wine.sh)
 
 # Nothing of this machine's own libraries is found; the Find modules beside this file bring those
-# that are used, from their sources.
-set(CMAKE_FIND_ROOT_PATH /usr/x86_64-w64-mingw32)
+# that are used, from their sources. VANTREL_TOOLKIT is a folder of libraries built for Windows.
+set(CMAKE_FIND_ROOT_PATH /usr/x86_64-w64-mingw32 ${VANTREL_TOOLKIT})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
