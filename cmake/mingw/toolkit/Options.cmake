@@ -12,9 +12,11 @@ set(CMAKE_BUILD_TYPE Release CACHE STRING "")
 # Stands in the libraries, so it is the same wherever they are built.
 set(CMAKE_INSTALL_PREFIX /windows-toolkit CACHE PATH "")
 set(INPUT_opengl no CACHE STRING "")
+# Without Direct2D the sources that use DirectWrite are left out, so neither is asked for.
 toolkit_option(OFF
   BUILD_SHARED_LIBS QT_BUILD_EXAMPLES QT_BUILD_TESTS QT_BUILD_TOOLS_BY_DEFAULT
-  FEATURE_concurrent FEATURE_dbus FEATURE_direct2d FEATURE_direct2d1_1 FEATURE_glib FEATURE_icu
+  FEATURE_concurrent FEATURE_dbus FEATURE_direct2d FEATURE_direct2d1_1 FEATURE_directwrite
+  FEATURE_directwrite3 FEATURE_glib FEATURE_icu
   FEATURE_network FEATURE_opengl FEATURE_pkg_config FEATURE_sql FEATURE_vulkan FEATURE_xml
   FEATURE_zstd)
 # A header that it needs is left out of Debian's sources.
