@@ -17,6 +17,7 @@
 #include "python/FileNames.h"
 #include "python/TableRun.h"
 #include "reports/ReportList.h"
+#include "support/Text.h"
 
 namespace python {
 
@@ -78,13 +79,14 @@ std::vector<std::string> Paths(const std::vector<py::bytes>& files) {
   return {files.begin(), files.end()};
 }
 
+// A sentence may hold the name of a file, whose bytes may be no UTF-8.
 using ComplaintRow = std::pair<py::object, std::string>;
 std::vector<ComplaintRow> Rows(const std::vector<Complaint>& complaints) {
   std::vector<ComplaintRow> rows;
   for (const Complaint& complaint : complaints) {
     rows.emplace_back(
-        complaint.File.empty() ? py::object(py::none()) : py::object(FileName(complaint.File)),
-        complaint.Message);
+        complaint.File ? py::object(FileName(*complaint.File)) : py::object(py::none()),
+        modAllPurpose::WithReplacements(complaint.Message));
   }
   return rows;
 }

@@ -3,6 +3,7 @@
 #include "python/TableRun.h"
 
 #include <cstddef>
+#include <optional>
 #include <utility>
 #include <variant>
 
@@ -74,7 +75,7 @@ class Run {
     return {[this, &file, takeIn, said] { TakeIn(file, takeIn, said); }, kBytesOfTrial};
   }
 
-  void Complain(const std::string& about, const reports::Complaints& said) const {
+  void Complain(const std::optional<std::string>& about, const reports::Complaints& said) const {
     for (const std::string& message : said) result_.Complaints.push_back({about, message});
     if (request_.StopsAtComplaint && !said.empty()) throw Stopped();
   }
@@ -99,12 +100,12 @@ void MakePooled(const TableRequest& request, TableResult& result, Run& run,
   const auto made =
       reports::MakePooledReport(request.Report->Name, request.Options, request.NormalFile);
   if (const auto* failure = std::get_if<std::string>(&made)) {
-    run.Complain({}, {*failure});
+    run.Complain(std::nullopt, {*failure});
     return;
   }
   PooledReport& report = *std::get<std::unique_ptr<PooledReport>>(made);
   run.OverFiles([&](const std::string& file) { return run.StridesOf(file, report); }, meanwhile);
-  run.Complain({}, report.WriteRows(*result.Table));
+  run.Complain(std::nullopt, report.WriteRows(*result.Table));
 }
 
 }  // namespace

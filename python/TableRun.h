@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -24,7 +25,7 @@ struct TableRequest {
 
 // What is to be said of a file, or of the report where it is not of one file.
 struct Complaint {
-  std::string File;
+  std::optional<std::string> File;
   std::string Message;
 };
 

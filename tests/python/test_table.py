@@ -153,6 +153,21 @@ def test_no_file_is_lost_silently(walk_file, own_walk, tmp_path):
     np.testing.assert_array_equal(again["x"], columns["x"])
 
 
+def test_an_empty_name_is_that_of_a_file_which_is_not_there(walk_file):
+    for report in ("strides", "visit"):
+        with pytest.raises(FileNotFoundError):
+            vantrel.table(report, "")
+        complaints = []
+        vantrel.table(report, [walk_file, ""], errors=complaints)
+        assert [complaint.file for complaint in complaints] == [""]
+
+
+def test_normal_values_in_a_file_whose_name_is_no_utf8_are_named(walk_file, tmp_path):
+    normal = os.path.join(os.fsencode(tmp_path), b"G\xe4nger.csv")
+    with pytest.raises(vantrel.TableError, match="G\ufffdnger.csv"):
+        vantrel.table("scores", walk_file, normal=normal)
+
+
 def test_normal_values_that_are_none_are_named(walk_file, tmp_path):
     with pytest.raises(vantrel.TableError, match="none.csv"):
         vantrel.table("scores", walk_file, normal=tmp_path / "none.csv")
