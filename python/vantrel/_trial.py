@@ -274,6 +274,6 @@ def _raise_what_the_system_says(file: FileName) -> None:
     """the OSError that keeps the file from being opened; nothing where there is none"""
     mode = os.stat(file).st_mode
     if stat.S_ISDIR(mode):
-        raise IsADirectoryError(errno.EISDIR, os.strerror(errno.EISDIR), file)
+        raise IsADirectoryError(errno.EISDIR, os.strerror(errno.EISDIR), os.fspath(file))
     if stat.S_ISREG(mode):
         os.close(os.open(file, os.O_RDONLY))

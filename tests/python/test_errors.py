@@ -37,8 +37,10 @@ def test_a_missing_file_is_a_file_not_found_error(tmp_path):
 
 
 def test_a_folder_is_an_is_a_directory_error(tmp_path):
-    with pytest.raises(IsADirectoryError):
-        vantrel.open(tmp_path)
+    for name in (tmp_path, str(tmp_path), os.fsencode(tmp_path)):
+        with pytest.raises(IsADirectoryError) as caught:
+            vantrel.open(name)
+        assert caught.value.filename == (name if isinstance(name, bytes) else str(name))
 
 
 def test_a_file_that_may_not_be_read_is_a_permission_error(walk_file):
