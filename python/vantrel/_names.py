@@ -8,9 +8,14 @@ from typing import Iterable, List
 from . import _core
 
 
+def encoded(name: str) -> bytes:
+    """a name as the core takes it; what is no Unicode is in no file, and is not found"""
+    return name.encode("utf-8", "surrogatepass")
+
+
 def search_key(name: str) -> bytes:
     """the form in which two names are compared: without the blanks around them and in one case"""
-    return _core.search_key(name.encode("utf-8", "surrogatepass"))
+    return _core.search_key(encoded(name))
 
 
 def near_names(name: str, names: Iterable[str]) -> List[str]:

@@ -2,6 +2,7 @@
 """The tables of the program's reports, over any number of files."""
 from __future__ import annotations
 
+import operator
 import os
 import warnings
 from typing import Any, Dict, Iterable, List, NamedTuple, Optional, Union
@@ -10,6 +11,7 @@ from numpy.typing import NDArray
 
 from . import _core
 from ._errors import Error
+from ._names import encoded
 from ._trial import FileName, path_of, open as open_trial
 
 __all__ = ["Complaint", "TableError", "TableWarning", "table"]
@@ -80,17 +82,35 @@ def table(report: str, files: Union[FileName, Iterable[FileName]], *, jobs: int 
     norms the percent too. A missing number is NaN. The values of parameters are objects: str, int,
     float or None. A file stands under its name as given; bytes that are no UTF-8 are U+FFFD.
 
-    Ctrl+C ends it soon. ValueError for a report without a table or a missing option.
+    Ctrl+C ends it soon. ValueError for a report without a table or a missing option; a parameter
+    needs its group.
     """
-    wanted = [labels] if isinstance(labels, str) else list(labels or [])
+    wanted = [] if labels is None else _as_list(labels)
     _check_request(report, jobs, bool(wanted) or all_labels, normal, errors)
-    names = [files] if isinstance(files, (str, bytes, os.PathLike)) else list(files)
+    if parameter is not None and group is None:
+        raise ValueError("parameter needs group")
+    names = _as_list(files)
     columns, said = _core.table(
-        report=report, files=[path_of(name) for name in names], jobs=jobs, labels=wanted,
-        all_labels=all_labels, group=group, parameter=parameter,
+        report=report, files=[path_of(name) for name in names],
+        jobs=min(operator.index(jobs), len(names)),
+        labels=[_encoded("label", label) for label in wanted], all_labels=all_labels,
+        group=None if group is None else _encoded("group", group),
+        parameter=None if parameter is None else _encoded("parameter", parameter),
         normal=b"" if normal is None else path_of(normal), stops=errors == "raise")
     _tell([Complaint(*complaint) for complaint in said], errors)
     return columns
+
+
+def _as_list(one_or_more: Any) -> List[Any]:
+    """one name, or those that something holds"""
+    alone = isinstance(one_or_more, (str, bytes, os.PathLike))
+    return [one_or_more] if alone else list(one_or_more)
+
+
+def _encoded(what: str, name: object) -> bytes:
+    if not isinstance(name, str):
+        raise TypeError(f"a {what} is a str, not {type(name).__name__}")
+    return encoded(name)
 
 
 def _check_request(report: str, jobs: int, has_labels: bool, normal: Optional[FileName],
@@ -102,7 +122,7 @@ def _check_request(report: str, jobs: int, has_labels: bool, normal: Optional[Fi
         raise ValueError(f"{report} needs labels, or all_labels=True")
     if needs_normals and normal is None:
         raise ValueError(f"{report} needs normal, a file of normal values")
-    if jobs < 0:
+    if operator.index(jobs) < 0:
         raise ValueError("jobs is 0 or more")
     if not isinstance(errors, list) and errors not in ("raise", "warn"):
         raise ValueError('errors is "raise", "warn" or a list')

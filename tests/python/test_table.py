@@ -100,6 +100,45 @@ def test_labels_and_parameters_are_chosen(tool, walk_file):
                 "parameters")
 
 
+@pytest.mark.parametrize("choose", [tuple, iter, np.array, lambda labels: dict.fromkeys(labels)])
+def test_labels_are_chosen_by_whatever_holds_them(walk_file, choose):
+    columns = vantrel.table("point", walk_file, labels=choose(["LTOE", "RTOE"]))
+    assert list(dict.fromkeys(columns["label"])) == ["LTOE", "RTOE"]
+
+
+@pytest.mark.parametrize("report, options", [
+    ("point", {"labels": b"LTOE"}), ("point", {"labels": [b"LTOE"]}), ("point", {"labels": [None]}),
+    ("point", {"labels": ["LTOE", 3]}), ("parameters", {"group": 3}),
+    ("parameters", {"group": "POINT", "parameter": b"RATE"}),
+])
+def test_names_that_are_no_text_are_type_errors(walk_file, report, options):
+    with pytest.raises(TypeError, match="^a (label|group|parameter) is a str, not "):
+        vantrel.table(report, walk_file, **options)
+
+
+def test_names_that_no_file_can_hold_are_not_found(walk_file):
+    for options in ({"labels": "LTOE\udcff"}, {"labels": "\ud800"}):
+        with pytest.raises(vantrel.TableError, match="not found"):
+            vantrel.table("point", walk_file, **options)
+    with pytest.raises(vantrel.TableError, match="not found"):
+        vantrel.table("parameters", walk_file, group="\udcff")
+
+
+def test_files_that_are_none_are_a_type_error():
+    for files in (None, 3, [None]):
+        with pytest.raises(TypeError):
+            vantrel.table("strides", files)
+
+
+def test_jobs_are_any_whole_number(walk_file):
+    for jobs in (2**40, np.int64(2), True):
+        assert len(vantrel.table("strides", [walk_file] * 2, jobs=jobs)["file"]) == 12
+    assert len(vantrel.table("strides", [], jobs=2**40)["file"]) == 0
+    for jobs in (1.5, "2", None):
+        with pytest.raises(TypeError, match="integer"):
+            vantrel.table("strides", walk_file, jobs=jobs)
+
+
 def test_columns_have_their_types_without_rows(walk_file):
     empty = vantrel.table("strides", [])
     assert {name: column.dtype for name, column in empty.items()} == {
@@ -185,6 +224,7 @@ def test_the_checkup_takes_any_file_and_finds_fault_in_its_rows(tmp_path):
     lambda: vantrel.table("point", []), lambda: vantrel.table("scores", []),
     lambda: vantrel.table("strides", [], jobs=-1), lambda: vantrel.table("strides", ["a\0b"]),
     lambda: vantrel.table("strides", [], errors="ignore"),
+    lambda: vantrel.table("parameters", [], parameter="RATE"),
 ])
 def test_wrong_requests_are_value_errors(wrong):
     with pytest.raises(ValueError):
