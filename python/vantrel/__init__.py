@@ -25,7 +25,8 @@ Any number of threads may read one trial or many; the interpreter's lock is let 
 
 What goes wrong is an exception: FileNotFoundError and its kin for a file that the system does not let
 be opened, OpenError for one that is no trial, DataError for one that does not hold what it says,
-KeyError, with the near ones, for a label or name that is not there, and ValueError for a closed trial.
+KeyError, with the near ones, for a label or name that is not there, TableError for a table that lacks
+something, and ValueError for a closed trial.
 """
 from . import _core
 from ._errors import DataError, Error, OpenError

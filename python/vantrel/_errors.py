@@ -8,7 +8,9 @@ __all__ = ["Error", "OpenError", "DataError"]
 
 
 class Error(Exception):
-    """Something is wrong with the contents of a file. The base of OpenError and DataError.
+    """Something is wrong with the contents of a file.
+
+    The base of OpenError, DataError and TableError.
 
     What is wrong with the way to a file is raised as Python does it: FileNotFoundError,
     PermissionError, IsADirectoryError and other kinds of OSError.

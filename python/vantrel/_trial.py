@@ -87,7 +87,10 @@ class Trial:
 
     @property
     def first_frame(self) -> int:
-        """The number of the first frame, from 1; frame i of an array is frame first_frame + i."""
+        """The number of the first frame, as the file has it, mostly 1.
+
+        Row i of an array is frame first_frame + i, as in the tables.
+        """
         return self._core.first_frame
 
     @property
