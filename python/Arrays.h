@@ -8,6 +8,8 @@
 
 #include <pybind11/numpy.h>
 
+#include "python/OutsideInterpreter.h"
+
 namespace python {
 
 using Shape = std::vector<pybind11::ssize_t>;
@@ -20,7 +22,7 @@ auto ArrayOf(const Values& values, Shape shape) {
   pybind11::array_t<Number> array(std::move(shape));
   Number* const into = array.mutable_data();
   // A channel may have gigabytes: other threads go on meanwhile.
-  const pybind11::gil_scoped_release released;
+  const OutsideInterpreter outside;
   std::ranges::copy(values, into);
   return array;
 }

@@ -12,6 +12,7 @@
 
 #include "gait/Checkup.h"
 #include "python/Exceptions.h"
+#include "python/OutsideInterpreter.h"
 #include "python/TableBinding.h"
 #include "python/TrialBinding.h"
 #include "reports/CheckReport.h"
@@ -30,7 +31,7 @@ py::bytes SearchKey(const std::string& name) { return modAllPurpose::SearchKey(n
 using FindingRow = std::tuple<std::string_view, std::string, std::string, std::string>;
 std::vector<FindingRow> Findings(const py::bytes& file) {
   const std::string path = file;
-  const py::gil_scoped_release released;
+  const OutsideInterpreter outside;
   std::vector<FindingRow> rows;
   for (auto& [level, code, place, message] : reports::CheckFile(path)) {
     rows.emplace_back(modVantrel::SeverityName(level), code, place, message);

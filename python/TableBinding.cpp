@@ -15,6 +15,7 @@
 
 #include "python/Arrays.h"
 #include "python/FileNames.h"
+#include "python/OutsideInterpreter.h"
 #include "python/TableRun.h"
 #include "reports/ReportList.h"
 #include "support/Text.h"
@@ -65,14 +66,15 @@ py::dict DictOf(const ColumnTable& table) {
 }
 
 // Has an exception raised by a signal, as KeyboardInterrupt, end the work.
-void EndWhereInterrupted() {
-  const py::gil_scoped_acquire acquired;
-  if (PyErr_CheckSignals() != 0) throw py::error_already_set();
+void EndWhereInterrupted(OutsideInterpreter& outside) {
+  outside.Inside([] {
+    if (PyErr_CheckSignals() != 0) throw py::error_already_set();
+  });
 }
 
 TableResult MakeWithoutInterpreter(const TableRequest& request) {
-  const py::gil_scoped_release released;
-  return MakeTable(request, EndWhereInterrupted);
+  OutsideInterpreter outside;
+  return MakeTable(request, [&outside] { EndWhereInterrupted(outside); });
 }
 
 std::vector<std::string> Paths(const std::vector<py::bytes>& files) {

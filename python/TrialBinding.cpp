@@ -19,6 +19,7 @@
 #include "python/Arrays.h"
 #include "python/FileNames.h"
 #include "python/OpenedTrial.h"
+#include "python/OutsideInterpreter.h"
 #include "python/Parameters.h"
 #include "python/TrialReading.h"
 
@@ -31,14 +32,14 @@ using modVantrel::SideName;
 
 namespace {
 
-using WithoutInterpreter = py::call_guard<py::gil_scoped_release>;
+using WithoutInterpreter = py::call_guard<OutsideInterpreter>;
 
 constexpr py::ssize_t kCoordinates = 3;
 
 // What `work` answers, read without the interpreter's lock.
 template <typename Work>
 auto Read(const OpenedTrial& trial, Work work) {
-  const py::gil_scoped_release released;
+  const OutsideInterpreter outside;
   return trial.Read(work);
 }
 
@@ -129,7 +130,7 @@ std::vector<GroupNames> ParameterNames(const OpenedTrial& trial, bool whole) {
 
 std::unique_ptr<OpenedTrial> Open(const py::bytes& file) {
   std::string path = file;
-  const py::gil_scoped_release released;
+  const OutsideInterpreter outside;
   return std::make_unique<OpenedTrial>(std::move(path));
 }
 

@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Threads read one trial and many."""
 import concurrent.futures
+import subprocess
 import sys
 import threading
 import time
@@ -105,3 +106,28 @@ def test_other_threads_run_while_a_trial_is_read(walk, no_forced_switches, read)
     finally:
         done.set()
         other.join()
+
+
+LEFT_BEHIND = """
+import sys, threading, time, vantrel
+trial = vantrel.open(sys.argv[1])
+
+def work():
+    while True:
+        {work}
+
+for _ in range(3):
+    threading.Thread(target=work, daemon=True).start()
+time.sleep(0.2)
+"""
+
+
+@pytest.mark.parametrize("work", ["trial.points['LTOE']", "trial.normalized('LKneeAngles')",
+                                  "trial.parameters['POINT']", "trial.findings()",
+                                  "vantrel.open(sys.argv[1])",
+                                  "vantrel.table('variability', [sys.argv[1]] * 50, jobs=2)"])
+def test_a_program_ends_while_its_threads_still_read(walk_file, work):
+    for _ in range(3):
+        done = subprocess.run([sys.executable, "-c", LEFT_BEHIND.format(work=work), walk_file],
+                              capture_output=True, text=True, timeout=60, check=False)
+        assert (done.returncode, done.stderr) == (0, "")
