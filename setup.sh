@@ -16,7 +16,7 @@ packages=(
 
 if [[ "${1:-}" = --windows* ]]; then
   packages+=(g++-mingw-w64-x86-64 googletest wine64)
-  [ "$1" = --windows ] || packages+=(icoutils nsis)
+  [ "$1" = --windows ] || packages+=(icoutils netpbm nsis)
 elif [ "${1:-}" = --checks ]; then
   packages+=(cppcheck gcovr mypy valgrind)
   # For the scripts of the manual.

@@ -25,11 +25,16 @@ files=$packages/vantrel-$version
 toolkit=${VANTREL_WINDOWS_TOOLKIT:-$(cmake/mingw/toolkit/build.sh --where)}
 "$here/collect.sh" "$build" "$toolkit" "$files"
 "$here/list_files.sh" "$files" >"$packages/files.nsh"
+# Beside the text of the last page stands the icon.
+rsvg-convert --width 128 --height 128 --background-color white packaging/desktop/vantrel.svg |
+  pngtopnm | pnmpad -white -left 18 -right 18 -top 40 -bottom 146 |
+  ppmtobmp -quiet -windows -bpp 24 >"$packages/side.bmp"
 kilobytes=$(find "$files" -type f -printf '%s\n' | awk '{ sum += $1 } END { print int(sum / 1024) }')
 
 makensis -V2 -INPUTCHARSET UTF8 -DVERSION="$version" -DFILES="$files" \
-  -DLIST="$packages/files.nsh" -DICON="$build/icon/vantrel.ico" -DKILOBYTES="$kilobytes" \
+  -DLIST="$packages/files.nsh" -DICON="$build/icon/vantrel.ico" -DPICTURE="$packages/side.bmp" \
+  -DKILOBYTES="$kilobytes" \
   -DOUTPUT="$packages/vantrel-$version-setup.exe" "$here/vantrel.nsi"
 "$here/make_zip.py" "$files" "$packages/vantrel-$version-windows.zip"
-rm -r "$files" "$packages/files.nsh"
+rm -r "$files" "$packages/files.nsh" "$packages/side.bmp"
 ls -l "$packages/vantrel-$version-setup.exe" "$packages/vantrel-$version-windows.zip"

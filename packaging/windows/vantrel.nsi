@@ -1,6 +1,7 @@
 ; SPDX-License-Identifier: GPL-3.0-or-later
 ; The installer of Vantrel for Windows, as build.sh has it made:
-;   makensis -DVERSION=... -DFILES=FOLDER -DLIST=FILE -DICON=FILE -DKILOBYTES=... -DOUTPUT=FILE vantrel.nsi
+;   makensis -DVERSION=... -DFILES=FOLDER -DLIST=FILE -DICON=FILE -DPICTURE=FILE -DKILOBYTES=... \
+;     -DOUTPUT=FILE vantrel.nsi
 ; FILES is the folder of what is installed and LIST names its files, see list_files.sh.
 ;
 ; What it promises: for one user it never asks for administrator rights; it replaces no file that an
@@ -55,6 +56,7 @@ VIAddVersionKey "ProductVersion" "${VERSION}"
 
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${PICTURE}"
 !define MUI_ABORTWARNING
 
 Page custom ShowUsers LeaveUsers
