@@ -314,7 +314,7 @@ check "puts a folder beside itself then" test -d \
 
 echo "Resources of the installer"
 # Texts there have two bytes a letter.
-says_version() { tr -d '\0' <"$setup" | grep -aq "ProductVersion$version"; }
+says_version() { tr -d '\0' <"$setup" | grep -a "ProductVersion$version" >/dev/null; }
 check "version of the installer" says_version
 
 echo "$((checked - failed)) of $checked checks passed"
