@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Sets up, builds and runs every test: the optimised build in the plain and in a comma locale, and
-# the core under the sanitizers, its threads included. Without arguments it does all of that; with the name of a preset
-# (release, debug, asan) only that build; with --windows the Windows build, under Wine, and its tool
-# against this system's; with --windows-window the Windows build with the window, whose toolkit is
-# built first where it is not there.
+# the core under the sanitizers, its threads included. Without arguments it does all of that; with
+# the name of a preset (release, debug, asan) only that build; with --windows the Windows build, under
+# Wine, and its tool against this system's; with --windows-window the Windows build with the window,
+# whose toolkit is built first where it is not there, its installer and its zip.
 set -euo pipefail
 cd "$(dirname "$0")"
 
@@ -39,9 +39,17 @@ test_windows() {
     build/release/sample-walk.c3d
 }
 
-if [ "${1:-}" = --windows-window ]; then
+test_windows_window() {
   ./setup.sh --windows-window
+  cmake --preset release
+  cmake --build --preset release --target vantrel-report sample-walk
   build_and_test windows-window
+  packaging/windows/build.sh --pack
+  packaging/windows/test.sh build/release/vantrel-report
+}
+
+if [ "${1:-}" = --windows-window ]; then
+  test_windows_window
   exit
 fi
 if [ "${1:-}" = --windows ]; then
