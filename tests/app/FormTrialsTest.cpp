@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The window against the tool, over recordings: VANTREL_TRIALS names a folder of them. The sample
+// walk is always one.
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <QDir>
+#include <QDirIterator>
+#include <QProcess>
+
+#include "c3d/OpenC3dFile.h"
+#include "gait/EventExtraction.h"
+#include "tests/app/FormFixture.h"
+
+namespace {
+
+using tests::FormTest;
+
+struct Command {
+  const char* Button;
+  QStringList ToolArguments;
+};
+
+// What the tool prints; nothing where it refuses or fails.
+std::optional<std::string> Printed(const QStringList& arguments) {
+  QProcess tool;
+  tool.start(QStringLiteral(VANTREL_REPORT), arguments);
+  EXPECT_TRUE(tool.waitForFinished());
+  if (tool.exitCode() != 0) return std::nullopt;
+  return tool.readAllStandardOutput().toStdString();
+}
+
+QStringList Recordings() {
+  QStringList files;
+  QDirIterator found(qEnvironmentVariable("VANTREL_TRIALS"), {QStringLiteral("*.c3d")}, QDir::Files,
+                     QDirIterator::Subdirectories);
+  while (!qEnvironmentVariableIsEmpty("VANTREL_TRIALS") && found.hasNext()) {
+    files.append(QDir::toNativeSeparators(found.next()));
+  }
+  return files;
+}
+
+class FormTrials : public FormTest {
+ protected:
+  // Whether the program takes the file; else there is nothing to compare.
+  static bool Opens(const std::string& file) {
+    modVantrel::FileState state;
+    bool opens = false;
+    modAllPurpose::IgnoringErrors([&] {
+      opens =
+          OpenC3dFile(state, file, modVantrel::FindGaitEvents) == modVantrel::OpenResult::Success;
+    });
+    return opens;
+  }
+
+  // The report commands for the labels that the form then holds.
+  std::vector<Command> Commands() {
+    const QString point = FirstOf(state_.PointLabels);
+    const QString analog = FirstOf(state_.AnalogLabels);
+    Type("txtPointLabel", point);
+    Type("txtAnalogLabel", analog);
+    const auto labelled = [](const char* report, const QString& label) {
+      return QStringList{QString::fromLatin1(report), QStringLiteral("--label"), label};
+    };
+    return {{"cmdShowHeaderInfo", {QStringLiteral("header")}},
+            {"cmdShowParameterHeader", {QStringLiteral("parameter-header")}},
+            {"cmdShowAllGroups", {QStringLiteral("groups")}},
+            {"cmdShowAllGroupsAndAllParams", {QStringLiteral("parameters")}},
+            {"cmdShowPointLabels", {QStringLiteral("labels")}},
+            {"cmdShowPointData", labelled("point", point)},
+            {"cmdShowPointDataWithEvents",
+             labelled("point", point) + QStringList(QStringLiteral("--events"))},
+            {"cmdShowAnalogData", labelled("analog", analog)},
+            {"cmdShowAnalogDataWithEvents",
+             labelled("analog", analog) + QStringList(QStringLiteral("--events"))},
+            {"cmdShowStrikeOffEvents", {QStringLiteral("events")}},
+            {"cmdShowSingleValueStrikeOffMeasures", {QStringLiteral("measures")}},
+            {"cmdShowNormalized", labelled("normalized", point)}};
+  }
+
+  static QString FirstOf(const modAllPurpose::OneBasedTable<std::string>& labels) {
+    return labels.Count() == 0 ? QString() : QString::fromStdString(labels[1]);
+  }
+
+  void CompareOpened(const QString& file) {
+    for (const Command& command : Commands()) {
+      const auto printed = Printed(command.ToolArguments + QStringList(file));
+      if (!printed) continue;
+      Click(command.Button);
+      ASSERT_TRUE(PaneText() == *printed) << file.toStdString() << ' ' << command.Button;
+      ++compared_;
+    }
+  }
+
+  int compared_ = 0;
+};
+
+TEST_F(FormTrials, PutIntoThePaneWhatTheToolPrints) {
+  const std::string walk = WriteSampleWalk();
+  Start(walk);
+  CompareOpened(QString::fromStdString(walk));
+  EXPECT_GE(compared_, 12);
+  for (const QString& file : Recordings()) {
+    if (!Opens(file.toStdString())) continue;
+    Drop(file.toStdString());
+    CompareOpened(file);
+  }
+  RecordProperty("compared", compared_);
+}
+
+}  // namespace
