@@ -22,6 +22,14 @@ std::FILE* Create(const std::string& path) {
 #endif
 }
 
+RuntimeError ErrorOfCreate(const std::string& path, int systemError) {
+  // A file that is to be made is missing its folder, not itself.
+  if (systemError == ENOENT) return RuntimeError(ErrorNumber::PathNotFound);
+  // Windows says of a folder in its place what it says of a file that nobody may write.
+  if (modAllPurpose::IsFolder(path)) return RuntimeError(ErrorNumber::PathFileAccessError);
+  return modAllPurpose::FileErrorFromErrno(systemError);
+}
+
 void Put(std::string_view text, std::FILE* file) {
   errno = 0;
   if (std::fwrite(text.data(), 1, text.size(), file) != text.size()) {
@@ -36,9 +44,7 @@ void DesktopCopy::Open(const std::string& path) {
   errno = 0;
   file_.reset(Create(path));
   if (file_ != nullptr) return;
-  // A file that is to be made is missing its folder, not itself.
-  if (errno == ENOENT) throw RuntimeError(ErrorNumber::PathNotFound);
-  throw modAllPurpose::FileErrorFromErrno(errno);
+  throw ErrorOfCreate(path, errno);
 }
 
 void DesktopCopy::Write(std::string_view text, bool continueLine) {

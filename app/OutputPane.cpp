@@ -250,10 +250,11 @@ void OutputPane::keyPressEvent(QKeyEvent* event) {
 }
 
 void OutputPane::mousePressEvent(QMouseEvent* event) {
-  // A block is drawn with Ctrl, which every desktop leaves to its programs, and with Alt.
-  const Qt::KeyboardModifiers keys = event->modifiers().testFlag(Qt::AltModifier)
-                                         ? Qt::KeyboardModifiers(Qt::ControlModifier)
-                                         : event->modifiers();
+  // A block is drawn with Ctrl, which every desktop leaves to its programs, and with Alt. The
+  // editor takes one of them, another one on each system.
+  const Qt::KeyboardModifiers ofBlocks = Qt::ControlModifier | Qt::AltModifier;
+  const bool isBlock = (event->modifiers() & ofBlocks) != 0;
+  const Qt::KeyboardModifiers keys = isBlock ? ofBlocks : event->modifiers();
   QMouseEvent press(event->type(), event->position(), event->scenePosition(),
                     event->globalPosition(), event->button(), event->buttons(), keys,
                     event->pointingDevice());

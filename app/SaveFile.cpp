@@ -4,6 +4,7 @@
 
 #include <optional>
 
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 
@@ -44,7 +45,7 @@ std::optional<ChosenName> AskForName(QWidget* owner, const QString& title, const
   for (const FileKind& kind : kinds) filters << FilterOf(kind);
   dialog.setNameFilters(filters);
   dialog.setDirectory(QFileInfo(proposed).path());
-  dialog.selectFile(proposed + QLatin1Char('.') + kinds.first().Ending);
+  dialog.selectFile(QDir::fromNativeSeparators(proposed) + QLatin1Char('.') + kinds.first().Ending);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
   QString name = dialog.selectedFiles().constFirst();
   QString ending = EndingOf(name, kinds);

@@ -13,7 +13,6 @@
 #include <QImage>
 #include <QLineEdit>
 #include <QPrinter>
-#include <QProcess>
 #include <QTest>
 
 #include "app/MainWindow.h"
@@ -102,7 +101,7 @@ TEST_F(CurvesFiles, AllPagesAreSavedAndThoseWithNothingToShowAreNot) {
 
 TEST_F(CurvesFiles, AnExistingFileIsReplacedOnlyAfterAsking) {
   StartWithThree();
-  const auto file = folder_ / "out/page.svg";
+  const auto file = folder_ / "out" / "page.svg";
   std::ofstream(file) << "mine";
   TypeName(file);
   boxes_.ExpectAndClick(QStringLiteral("Cancel"));
@@ -231,10 +230,8 @@ TEST_F(CurvesFiles, PagesArePrinted) {
   printer.setOutputFormat(QPrinter::PdfFormat);
   printer.setOutputFileName(QString::fromStdString(file.string()));
   window_->PrintPages(printer, {PageKind::Kinematics, PageKind::Kinetics});
-  QProcess info;
-  info.start(QStringLiteral("pdfinfo"), {QString::fromStdString(file.string())});
-  ASSERT_TRUE(info.waitForFinished());
-  EXPECT_TRUE(info.readAllStandardOutput().contains("Pages:           2"));
+  EXPECT_NE(ReadWholeFile(file).find("/Type /Pages\n"), std::string::npos);
+  EXPECT_NE(ReadWholeFile(file).find("\n/Count 2\n"), std::string::npos);
 }
 
 // The program's window with its menu.

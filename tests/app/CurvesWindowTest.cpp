@@ -20,6 +20,7 @@
 
 #include "sample/SampleWalk.h"
 #include "tests/app/CurvesFixture.h"
+#include "tests/app/UnusualNames.h"
 
 namespace {
 
@@ -173,15 +174,17 @@ TEST_F(Curves, WhatACheckupWarnsOfStandsInTheTooltipOfTheTrial) {
 
 TEST_F(Curves, TheNameOfAFileIsNoMarkupInATooltip) {
   Start();
-  DropAll({Write(tests::RisingKnees(0), "a<b>&amp;.c3d")});
-  window_->SavePages((folder_ / "c<b>&lt;.pdf").string(), {pages::PageKind::Kinematics});
+  DropAll({Write(tests::RisingKnees(0), tests::NameLikeMarkup() + ".c3d")});
+  const QString name = QString::fromStdString(tests::NameLikeMarkup());
+  window_->SavePages((folder_ / (tests::NameLikeMarkup() + ".pdf")).string(),
+                     {pages::PageKind::Kinematics});
   WaitUntilRead();
   auto* said = Part<QLabel>("lblPointed");
-  ASSERT_TRUE(said->text().contains(QStringLiteral("c<b>&lt;.pdf")));
+  ASSERT_TRUE(said->text().contains(name + QStringLiteral(".pdf")));
   EXPECT_EQ(QTextDocumentFragment::fromHtml(said->toolTip()).toPlainText(), said->text());
   EXPECT_TRUE(QTextDocumentFragment::fromHtml(Trial(0)->toolTip(0))
                   .toPlainText()
-                  .endsWith(QStringLiteral("a<b>&amp;.c3d")));
+                  .endsWith(name + QStringLiteral(".c3d")));
 }
 
 // Where the form is paged through a folder, nobody waits for the trials that it has passed.

@@ -9,6 +9,7 @@
 #include <QTest>
 
 #include "sample/TrialBuilder.h"
+#include "tests/app/UnusualNames.h"
 #include "tests/app/WindowFixture.h"
 
 namespace {
@@ -48,7 +49,7 @@ class WindowFile : public tests::WindowTest {
 TEST_F(WindowFile, NextAndPreviousTrialGoThroughTheFolderByNameAndStopAtItsEnds) {
   const std::string first = Write(SampleTrial(), "a 1.c3d");
   const std::string second = Write(SampleTrial(), "b 2.C3D");
-  const std::string third = Write(SampleTrial(), "not utf-8 \xFC.c3d");
+  const std::string third = Write(SampleTrial(), tests::OddestName());
   Start(first);
   Settle();
   EXPECT_FALSE(Entry("mnuPreviousTrial")->isEnabled());
@@ -151,7 +152,7 @@ TEST_F(WindowFile, RecentTrialsAreListedTheLastOneFirstAndTenAtMost) {
 }
 
 TEST_F(WindowFile, ARecentTrialIsOpenedByAClickWhateverItsName) {
-  const std::string odd = Write(SampleTrial(), "R&D \xFC.c3d");
+  const std::string odd = Write(SampleTrial(), "R&D " + tests::OddestName());
   Start(odd);
   Drop(WriteSampleWalk());
   ASSERT_EQ(RecentFiles().size(), 2);

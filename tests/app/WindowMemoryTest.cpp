@@ -144,7 +144,7 @@ TEST_F(WindowMemory, TheOpenDialogStartsInTheFolderOfTheLastRun) {
   Start();
   boxes_.Expect([this](QDialog& dialog) {
     EXPECT_EQ(dynamic_cast<QFileDialog&>(dialog).directory().path().toStdString(),
-              (folder_ / "visit 3").string());
+              (folder_ / "visit 3").generic_string());
     dialog.reject();
   });
   Choose("mnuOpen");

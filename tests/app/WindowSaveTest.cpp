@@ -1,17 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Reports and tables that are saved, printed and copied.
+// Reports and tables that are saved and copied.
 
 #include <fstream>
-#include <regex>
 
 #include <QApplication>
 #include <QClipboard>
 #include <QDialogButtonBox>
 #include <QFileDialog>
-#include <QPrintDialog>
-#include <QPrinter>
-#include <QProcess>
 #include <QTest>
 
 #include "tests/app/SaveDialog.h"
@@ -148,7 +144,7 @@ TEST_F(WindowSave, ATableOfATrialThatVanishedReplacesNothingAndNamesTheTrial) {
   for (const char* report : {"cmdShowHeaderInfo", "cmdShowStrikeOffEvents", "mnuCheckup"}) {
     std::ofstream(walk, std::ios::binary) << bytes;
     Entry(report)->trigger();
-    std::filesystem::remove(walk);
+    tests::TakeAway(walk);
     PutIntoFile(folder_ / "table.csv", "good");
     ExpectAndSave(folder_ / "table.csv");
     boxes_.ExpectAndClick(QStringLiteral("OK"));
@@ -211,44 +207,6 @@ TEST_F(WindowSave, CheckupStridesAndSummaryAreRefusedWithoutAnOpenFile) {
     EXPECT_EQ(boxes_.Seen().back().Text,
               QStringLiteral("A C3D file is not open.  You must open one first."));
   }
-}
-
-// The text of a PDF, blanks as they stand on the page.
-std::string TextOf(const std::filesystem::path& pdf) {
-  QProcess reader;
-  reader.start(
-      QStringLiteral("pdftotext"),
-      {QStringLiteral("-layout"), QString::fromStdString(pdf.string()), QStringLiteral("-")});
-  EXPECT_TRUE(reader.waitForFinished());
-  return reader.readAllStandardOutput().toStdString();
-}
-
-TEST_F(WindowSave, ThePanesTextIsPrintedWithTheTrialAndThePageAtItsFoot) {
-  const std::string walk = WriteSampleWalk();
-  Start(walk);
-  Click("cmdShowSingleValueStrikeOffMeasures");
-  const auto pdf = folder_ / "printed.pdf";
-  boxes_.Expect([&](QDialog& dialog) {
-    auto& print = dynamic_cast<QPrintDialog&>(dialog);
-    print.printer()->setOutputFormat(QPrinter::PdfFormat);
-    print.printer()->setOutputFileName(QString::fromStdString(pdf.string()));
-    print.QDialog::done(QDialog::Accepted);
-  });
-  Choose("mnuPrint");
-  const std::string text = TextOf(pdf);
-  EXPECT_NE(text.find("Left Side #1"), std::string::npos) << text;
-  EXPECT_NE(text.find("Right Side #3"), std::string::npos);
-  EXPECT_TRUE(std::regex_search(text, std::regex("OppositeFootStrikePct: +50"))) << text;
-  EXPECT_NE(text.find("walk.c3d"), std::string::npos);
-}
-
-TEST_F(WindowSave, ACancelledPrintDialogPrintsNothingAndGoesOn) {
-  Start(WriteSampleWalk());
-  boxes_.ExpectAndPress(Qt::Key_Escape);
-  PressKeysOf(Entry("mnuPrint"));
-  EXPECT_FALSE(form_.IsUnloaded());
-  boxes_.ExpectAndPress(Qt::Key_Escape);
-  ChooseByArrows(Entry("mnuPrint"));
 }
 
 class WindowCopy : public WindowSave {

@@ -113,7 +113,7 @@ TEST_F(WindowStatus, AFileThatCannotBeOpenedLeavesNone) {
 TEST_F(WindowStatus, AFileThatVanishesBeforeItIsCheckedIsAnError) {
   const std::string walk = WriteSampleWalk();
   Start(walk);
-  std::filesystem::remove(walk);
+  tests::TakeAway(walk);
   AwaitCheckup();
   EXPECT_TRUE(Said().contains(QStringLiteral("found 1 error,"))) << Said().toStdString();
 }

@@ -170,7 +170,7 @@ TEST_F(WindowSubject, NeedsAnOpenFile) {
 }
 
 TEST_F(WindowSubject, ShowsWhatIsKnownAndFromWhere) {
-  std::ofstream(SubjectFile()) << "DOB = 1980-02-29\nDate = soon\n";
+  std::ofstream(SubjectFile(), std::ios::binary) << "DOB = 1980-02-29\nDate = soon\n";
   const auto trial = sample::TrialBuilder().SetParam("SUBJECTS", Texts("SEX", {"f"})).Build();
   Start(trial);
   Enter(
