@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <array>
 
-#include "app/OpenAnew.h"
+#include "gait/OpenTrial.h"
 #include "reports/CheckReport.h"
 #include "reports/ReportList.h"
 #include "reports/SummaryReport.h"
@@ -72,7 +72,8 @@ TableWriting WriteTable(const ShownReport& report, const std::string& file, Tabl
     return {};
   }
   FileState state;
-  if (const std::string refusal = OpenAnew(file, state); !refusal.empty()) {
+  if (const std::string refusal = OpenTrial(file, modVantrel::Labels::All, state);
+      !refusal.empty()) {
     return {file + ": " + refusal, {}};
   }
   const auto rows = std::ranges::find(kRowsOfReports, report.Name, &Rows::Report);

@@ -6,27 +6,22 @@
 #include <functional>
 #include <iterator>
 #include <memory>
-#include <new>
 
 #include "c3d/FileState.h"
-#include "c3d/LabelTables.h"
-#include "c3d/OpenC3dFile.h"
-#include "gait/EventExtraction.h"
+#include "gait/OpenTrial.h"
 #include "pages/PageKinds.h"
 #include "reports/CsvTable.h"
 #include "reports/JsonTable.h"
 #include "reports/PooledReport.h"
 #include "reports/ReportList.h"
-#include "reports/SummaryReport.h"
-#include "reports/TrialTables.h"
+#include "reports/TrialTableList.h"
 #include "reports/VariabilityReport.h"
 #include "reports/VisitReport.h"
-#include "support/RuntimeError.h"
+#include "support/MessageOf.h"
 #include "support/Text.h"
 
 namespace app {
 
-using modAllPurpose::RuntimeError;
 using modVantrel::FileState;
 using reports::Complaints;
 using reports::TableOptions;
@@ -36,20 +31,12 @@ namespace {
 
 // Opens the trial with all its labels and works on it; the sentence that says what went wrong.
 std::string Opened(const std::string& path, const std::function<void(FileState&)>& work) {
-  try {
+  return modAllPurpose::MessageOf([&] {
     FileState state;
-    const auto result = modVantrel::OpenC3dFile(state, path, modVantrel::FindGaitEvents);
-    if (result != modVantrel::OpenResult::Success) {
-      return std::string(modVantrel::OpenFailureMessage(result));
-    }
-    modVantrel::AddFurtherLabels(state);
-    work(state);
-    return {};
-  } catch (const RuntimeError& error) {
-    return modAllPurpose::RuntimeErrorLine(error);
-  } catch (const std::bad_alloc&) {
-    return modAllPurpose::RuntimeErrorLine(RuntimeError(modAllPurpose::ErrorNumber::OutOfMemory));
-  }
+    std::string refusal = OpenTrial(path, modVantrel::Labels::All, state);
+    if (refusal.empty()) work(state);
+    return refusal;
+  });
 }
 
 pages::TrialReading EverythingAnd(const std::string& label) {
@@ -69,27 +56,13 @@ void LeaveOut(FileState& state, const std::set<StrideOfTrial>& strides) {
   events.ValidStrideCount = events.ValidStrides.Count();
 }
 
-Complaints SummaryOf(const FileState& state, std::string_view file, const TableOptions& /*options*/,
-                     TableOutput& table) {
-  reports::SummaryRows(state, file, table);
-  return {};
-}
-
-using RowsOf = Complaints (*)(const FileState&, std::string_view, const TableOptions&,
-                              TableOutput&);
-
-RowsOf RowsOfTrial(std::string_view report) {
-  if (report == "summary") return SummaryOf;
-  return report == "measures" ? reports::MeasureRows : reports::NormalizedRows;
-}
-
 void ComplainOf(const std::string& path, const std::string& failure, MadeTable& made) {
   if (!failure.empty()) made.Complaints.push_back(path + ": " + failure);
 }
 
 // Rows of each trial, one trial after the other.
-void WriteEach(RowsOf rows, const TableOptions& options, const std::vector<TrialToRead>& trials,
-               TableOutput& table, MadeTable& made) {
+void WriteEach(reports::RowsFunction rows, const TableOptions& options,
+               const std::vector<TrialToRead>& trials, TableOutput& table, MadeTable& made) {
   for (const TrialToRead& trial : trials) {
     const std::string failure = Opened(trial.Path, [&](FileState& state) {
       LeaveOut(state, trial.LeftOut);
@@ -158,7 +131,7 @@ MadeTable TableOfVisit(std::string_view report, TableForm form,
   } else if (report == "variability") {
     WritePooled(reports::MakeVariabilityReport(options), trials, *table, made);
   } else {
-    WriteEach(RowsOfTrial(report), options, trials, *table, made);
+    WriteEach(reports::FindTrialTable(report).Rows, options, trials, *table, made);
   }
   table->End();
   made.Text = output.Text();

@@ -9,13 +9,13 @@
 #include "app/CaptionButton.h"
 #include "app/CursorOverride.h"
 #include "app/MessageBoxes.h"
-#include "app/OpenAnew.h"
 #include "app/OutputPane.h"
 #include "app/OverwritePrompt.h"
 #include "app/QtText.h"
 #include "app/TextBox.h"
 #include "app/frmVantrel.h"
 #include "gait/GcdCommand.h"
+#include "gait/OpenTrial.h"
 #include "reports/CheckReport.h"
 #include "reports/HeaderReport.h"
 #include "reports/ListingReport.h"
@@ -174,7 +174,8 @@ void frmVantrel::ShowStrides() { ShowPlainReport("strides", reports::ShowStrides
 void frmVantrel::ShowSummary() {
   ShowReport({"summary", {}}, [&](ReportOutput& output) {
     FileState trial;
-    if (std::string refusal = OpenAnew(DialogFileSpec_, trial); !refusal.empty()) {
+    if (std::string refusal = OpenTrial(DialogFileSpec_, modVantrel::Labels::All, trial);
+        !refusal.empty()) {
       return ReportResult::Rejected(std::move(refusal));
     }
     reports::ShowSummary(trial, output);

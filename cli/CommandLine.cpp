@@ -80,6 +80,23 @@ const Choices<OutputFormat> kFormats = {
 const Choices<modVantrel::GcdAxes> kAxes = {{"walk", modVantrel::GcdAxes::Walk},
                                             {"anatomical", modVantrel::GcdAxes::Anatomical}};
 
+// What concerns GCD files alone.
+void AddGcdOptions(CLI::App& app, GcdRequest& request) {
+  app.add_option("--output-dir", request.Options.OutputFolder,
+                 "Folder for GCD files, instead of the trial's own")
+      ->check(NotEmpty("the name of the folder is empty"));
+  AddChoice(app, "--axes", kAxes, request.Options.Axes,
+            "Whether sagittal and coronal curves of GCD files follow the walk");
+  app.add_flag("--overwrite", request.Overwrite, "Let gcd replace existing files");
+  app.add_option("--gender", request.Options.Subject.Gender, "Gender in the header of GCD files");
+  app.add_option("--date-of-birth", request.Options.Subject.DateOfBirth,
+                 "Date of birth (YYYY-MM-DD) for the age in GCD files")
+      ->check(Date());
+  app.add_option("--visit-date", request.Options.Subject.VisitDate,
+                 "Date of the visit (YYYY-MM-DD) for the age in GCD files")
+      ->check(Date());
+}
+
 void AddOptions(CLI::App& app, Request& request) {
   app.add_option("--label", request.Options.Labels,
                  "Point or analog label, in any case; several times for a table of several")
@@ -94,20 +111,7 @@ void AddOptions(CLI::App& app, Request& request) {
   app.add_option("--normal", request.NormalFile,
                  "File of normal values: the csv of norms, or a GCD file of means and deviations");
   app.add_flag("--events", request.Events, "Name the stride events in a point or analog listing");
-  app.add_option("--output-dir", request.Gcd.Options.OutputFolder,
-                 "Folder for GCD files, instead of the trial's own")
-      ->check(NotEmpty("the name of the folder is empty"));
-  AddChoice(app, "--axes", kAxes, request.Gcd.Options.Axes,
-            "Whether sagittal and coronal curves of GCD files follow the walk");
-  app.add_flag("--overwrite", request.Gcd.Overwrite, "Let gcd replace existing files");
-  app.add_option("--gender", request.Gcd.Options.Subject.Gender,
-                 "Gender in the header of GCD files");
-  app.add_option("--date-of-birth", request.Gcd.Options.Subject.DateOfBirth,
-                 "Date of birth (YYYY-MM-DD) for the age in GCD files")
-      ->check(Date());
-  app.add_option("--visit-date", request.Gcd.Options.Subject.VisitDate,
-                 "Date of the visit (YYYY-MM-DD) for the age in GCD files")
-      ->check(Date());
+  AddGcdOptions(app, request.Gcd);
   app.add_flag_callback(
       "--recursive", [&request] { request.Folders = console::Folders::Searched; },
       "Take folders: every .c3d file below, links to folders not followed");

@@ -2,23 +2,18 @@
 
 #include <algorithm>
 #include <array>
-#include <atomic>
 #include <csignal>
 #include <ctime>
 #include <unistd.h>
 
 #include "support/Interruption.h"
+#include "support/WorksUnderWay.h"
 
 namespace modAllPurpose {
 
 namespace {
 
 constexpr std::array kInterruptions = {SIGINT, SIGTERM, SIGHUP, SIGQUIT};
-
-// Both are all that the signal handler touches.
-std::atomic<int> worksUnderWay = 0;
-std::atomic<bool> ending = false;
-static_assert(std::atomic<int>::is_always_lock_free && std::atomic<bool>::is_always_lock_free);
 
 // The work of one thread.
 struct Work {
@@ -43,36 +38,23 @@ sigset_t InterruptionsNotIgnored() {
   return set;
 }
 
-// The program is about to end in another thread.
-[[noreturn]] void AwaitTheEnd() {
-  for (;;) ::pause();
-}
-
 // Sent again with the signal's own effect, the program ends with the status of the signal. This
 // thread is in no UnbrokenWork, which would have kept the signal off.
 extern "C" void EndBetweenWorks(int signal) {
-  ending = true;
+  worksUnderWay::ending = true;
   constexpr timespec kMoment{0, 1'000'000};
-  while (worksUnderWay > 0) ::nanosleep(&kMoment, nullptr);
+  while (worksUnderWay::count > 0) ::nanosleep(&kMoment, nullptr);
   struct sigaction action {};
   action.sa_handler = SIG_DFL;
   ::sigaction(signal, &action, nullptr);
   ::raise(signal);
 }
 
-void BeginWork() {
-  ++worksUnderWay;
-  if (!ending) return;
-  --worksUnderWay;
-  AwaitTheEnd();
-}
-
-void EndWork() {
-  --worksUnderWay;
-  if (ending) AwaitTheEnd();
-}
-
 }  // namespace
+
+void worksUnderWay::AwaitTheEnd() {
+  for (;;) ::pause();
+}
 
 void LetInterruptionsWait() {
   struct sigaction action {};
@@ -90,29 +72,29 @@ UnbrokenWork::UnbrokenWork() {
   for (const int signal : kInterruptions) {
     if (::sigismember(&own.MaskBefore, signal) == 1) ::sigdelset(&own.HeldOff, signal);
   }
-  BeginWork();
+  worksUnderWay::Begin();
 }
 
 UnbrokenWork::~UnbrokenWork() {
   if (--own.Depth > 0) return;
-  EndWork();
+  worksUnderWay::End();
   ::pthread_sigmask(SIG_SETMASK, &own.MaskBefore, nullptr);
 }
 
 InterruptibleWait::InterruptibleWait() {
   if (own.Depth == 0) return;
-  EndWork();
+  worksUnderWay::End();
   ::pthread_sigmask(SIG_SETMASK, &own.MaskBefore, nullptr);
 }
 
 InterruptibleWait::~InterruptibleWait() {
   if (own.Depth == 0) return;
   ::pthread_sigmask(SIG_BLOCK, &own.HeldOff, nullptr);
-  BeginWork();
+  worksUnderWay::Begin();
 }
 
 bool UnbrokenWork::IsInterrupted() {
-  if (ending) return true;
+  if (worksUnderWay::ending) return true;
   sigset_t waiting;
   ::sigpending(&waiting);
   return std::ranges::any_of(kInterruptions, [&](int signal) {

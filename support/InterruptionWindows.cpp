@@ -1,62 +1,48 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include <atomic>
 #include <windows.h>
 
 #include "support/Interruption.h"
+#include "support/WorksUnderWay.h"
 
 namespace modAllPurpose {
 
 namespace {
 
-std::atomic<int> worksUnderWay = 0;
-std::atomic<bool> ending = false;
 thread_local int depth = 0;
-
-[[noreturn]] void AwaitTheEnd() {
-  for (;;) ::Sleep(INFINITE);
-}
 
 // The system runs this in a thread of its own, beside the work.
 BOOL WINAPI EndBetweenWorks(DWORD /*event*/) {
-  ending = true;
-  while (worksUnderWay > 0) ::Sleep(1);
+  worksUnderWay::ending = true;
+  while (worksUnderWay::count > 0) ::Sleep(1);
   constexpr BOOL kGoOnEnding = FALSE;
   return kGoOnEnding;
 }
 
-void BeginWork() {
-  ++worksUnderWay;
-  if (!ending) return;
-  --worksUnderWay;
-  AwaitTheEnd();
-}
-
-void EndWork() {
-  --worksUnderWay;
-  if (ending) AwaitTheEnd();
-}
-
 }  // namespace
+
+void worksUnderWay::AwaitTheEnd() {
+  for (;;) ::Sleep(INFINITE);
+}
 
 void LetInterruptionsWait() { ::SetConsoleCtrlHandler(EndBetweenWorks, TRUE); }
 
 UnbrokenWork::UnbrokenWork() {
-  if (depth++ == 0) BeginWork();
+  if (depth++ == 0) worksUnderWay::Begin();
 }
 
 UnbrokenWork::~UnbrokenWork() {
-  if (--depth == 0) EndWork();
+  if (--depth == 0) worksUnderWay::End();
 }
 
 InterruptibleWait::InterruptibleWait() {
-  if (depth > 0) EndWork();
+  if (depth > 0) worksUnderWay::End();
 }
 
 InterruptibleWait::~InterruptibleWait() {
-  if (depth > 0) BeginWork();
+  if (depth > 0) worksUnderWay::Begin();
 }
 
-bool UnbrokenWork::IsInterrupted() { return ending; }
+bool UnbrokenWork::IsInterrupted() { return worksUnderWay::ending; }
 
 }  // namespace modAllPurpose

@@ -50,6 +50,44 @@ TEST(CsvTable, BeginsWithTheNamesOfItsColumns) {
   EXPECT_EQ(Written<CsvTable>([](TableOutput&) {}), "name,value\n");
 }
 
+// The table whose rows are made in two parts, between which one has none; each part handed over in
+// pieces of three characters.
+template <typename Table>
+std::string WrittenInParts() {
+  modAllPurpose::TextReport whole;
+  Table table(whole);
+  table.Begin(kColumns);
+  for (const std::vector<std::string>& names : {std::vector<std::string>{"a", "b"}, {}, {"c"}}) {
+    modAllPurpose::TextReport text;
+    Table part(text);
+    part.BeginPart(kColumns);
+    for (const std::string& name : names) {
+      part.Text(name);
+      part.Missing();
+      part.EndRow();
+    }
+    for (std::size_t i = 0; i < text.Text().size(); i += 3) table.AddPart(text.Text().substr(i, 3));
+  }
+  table.End();
+  return whole.Text();
+}
+
+template <typename Table>
+std::string WrittenAtOnce() {
+  return Written<Table>([](TableOutput& table) {
+    for (const char* name : {"a", "b", "c"}) {
+      table.Text(name);
+      table.Missing();
+      table.EndRow();
+    }
+  });
+}
+
+TEST(TextTables, InPartsAreTheTextsOfThoseAtOnce) {
+  EXPECT_EQ(WrittenInParts<CsvTable>(), WrittenAtOnce<CsvTable>());
+  EXPECT_EQ(WrittenInParts<JsonTable>(), WrittenAtOnce<JsonTable>());
+}
+
 TEST(CsvTable, QuotesATextOnlyWhereItNeedsIt) {
   const auto field = [](std::string_view text) {
     const std::string written = Written<CsvTable>([text](TableOutput& table) {
