@@ -16,3 +16,12 @@ endif()
 # The tools that run here, of the same version.
 set(QT_HOST_PATH /usr)
 include(${CMAKE_CURRENT_LIST_DIR}/Toolchain.cmake)
+
+# A build folder that was made with another toolkit finds all of this one.
+get_cmake_property(found CACHE_VARIABLES)
+foreach(name IN LISTS found)
+  if("$CACHE{${name}}" MATCHES "/vantrel/windows-toolkit-" AND
+      NOT "$CACHE{${name}}" MATCHES "^${VANTREL_TOOLKIT}/")
+    unset(${name} CACHE)
+  endif()
+endforeach()

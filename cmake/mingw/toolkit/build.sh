@@ -13,7 +13,7 @@ toolchain=$here/../Toolchain.cmake
 sum_of_what_decides() {
   {
     cd "$here"
-    sha256sum sources.sha256 Options.cmake CMakeLists.txt ../Toolchain.cmake
+    sha256sum sources.sha256 ./*.patch Options.cmake CMakeLists.txt ../Toolchain.cmake
     x86_64-w64-mingw32-g++-posix --version
   } | sha256sum | cut -c 1-16
 }
@@ -60,6 +60,7 @@ END
   dpkg-source --no-check -x sources/qt6-base_*.dsc qtbase
   dpkg-source --no-check -x sources/qscintilla2_*.dsc qscintilla
   dpkg-source --no-check -x sources/qtsvg-opensource-src_*.dsc qtsvg
+  patch --directory=qtbase --strip=1 <"$here/no-graphics-card.patch"
 }
 
 # configure SOURCE BUILD OPTION...: the paths of this machine do not get into the libraries.
