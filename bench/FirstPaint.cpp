@@ -18,7 +18,8 @@ class UntilPainted : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() == QEvent::Paint && watched->objectName() == QStringLiteral("frmVantrel")) {
       // The controls come first, and closing a window may take longer than showing it.
-      QMetaObject::invokeMethod(qApp, [] { std::_Exit(0); }, Qt::QueuedConnection);
+      QMetaObject::invokeMethod(
+          qApp, [] { std::_Exit(0); }, Qt::QueuedConnection);
     }
     return false;
   }

@@ -21,7 +21,6 @@
 #include <unistd.h>
 
 #include <QApplication>
-#include <QEvent>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
@@ -29,7 +28,6 @@
 #include "app/FormLayout.h"
 #include "app/MainWindow.h"
 #include "app/OutputPane.h"
-#include "app/Startup.h"
 #include "app/frmVantrel.h"
 #include "bench/Budget.h"
 #include "bench/MemoryPeak.h"
@@ -53,28 +51,10 @@ constexpr std::int16_t kSamplesPerFrame = 20;
 constexpr int kLines = kFrames * kSamplesPerFrame;
 constexpr int kHeadingLines = 3;  // two above, an empty one below
 
-constexpr const char* kFirstPaint = "first-paint";
-constexpr const char* kListing = "listing";
 constexpr int kOverBound = 1;
 
 double SecondsSince(Clock::time_point start) {
   return std::chrono::duration<double>(Clock::now() - start).count();
-}
-
-// Ends the program as soon as the pane, the last of the window's controls, was painted.
-class UntilPainted : public QObject {
- protected:
-  bool eventFilter(QObject* watched, QEvent* event) override {
-    if (event->type() == QEvent::Paint && watched->objectName() == QStringLiteral("frmVantrel")) {
-      QMetaObject::invokeMethod(qApp, "quit", Qt::QueuedConnection);  // the controls come first
-    }
-    return false;
-  }
-};
-
-void WatchFirstPaint() {
-  if (qEnvironmentVariable("VANTREL_BENCH") != QLatin1String(kFirstPaint)) return;
-  qApp->installEventFilter(new UntilPainted);
 }
 
 // Has every event that is due served, paints included.
@@ -108,11 +88,12 @@ double SecondsToShow(const std::string& text) {
   return SecondsSince(start);
 }
 
+// Takes the name of the trial with the long listing from the command line.
 int MeasureListing(int argc, char** argv) {
   QApplication application(argc, argv);
   modVantrel::FileState state;
   app::MainWindow window(state);
-  window.Load(argv[2]);
+  window.Load(argv[1]);
   const app::frmVantrel& form = window.Form();
   window.show();
   window.resize(window.size() + app::kDesignSize - form.size());  // whatever screen there is
@@ -138,17 +119,12 @@ int MeasureListing(int argc, char** argv) {
   return holds ? 0 : kOverBound;
 }
 
-// Runs this program again for one measurement; its exit status.
-int RunSelf(const char* mode, const std::string& file) {
+// Runs `program` with `file` for one measurement; its exit status.
+int Run(const char* program, const std::string& file) {
   std::cout.flush();
   const pid_t child = fork();
   if (child == 0) {
-    setenv("VANTREL_BENCH", mode, 1);
-    if (std::string(mode) == kFirstPaint) {
-      execl("/proc/self/exe", "window_bench", file.c_str(), nullptr);
-    } else {
-      execl("/proc/self/exe", "window_bench", mode, file.c_str(), nullptr);
-    }
+    execl(program, program, file.c_str(), nullptr);
     std::_Exit(kOverBound);
   }
   int status = 0;
@@ -162,7 +138,7 @@ bool FirstPaintHolds(const std::string& file) {
   double worst = 0;
   for (int i = 0; i < kRuns; ++i) {
     const Clock::time_point start = Clock::now();
-    if (RunSelf(kFirstPaint, file) != 0) return false;
+    if (Run(VANTREL_FIRST_PAINT, file) != 0) return false;
     best = std::min(best, SecondsSince(start));
     worst = std::max(worst, SecondsSince(start));
   }
@@ -185,7 +161,7 @@ int MeasureAll() {
       .Build()
       .WriteTo(folder / "long.c3d");
   bool holds = FirstPaintHolds((folder / "walk.c3d").string());
-  holds &= RunSelf(kListing, (folder / "long.c3d").string()) == 0;
+  holds &= Run("/proc/self/exe", (folder / "long.c3d").string()) == 0;
   std::error_code ignored;
   fs::remove_all(folder, ignored);
   return holds ? 0 : kOverBound;
@@ -193,11 +169,4 @@ int MeasureAll() {
 
 }  // namespace
 
-Q_COREAPP_STARTUP_FUNCTION(WatchFirstPaint)
-
-int main(int argc, char** argv) {
-  const QString mode = qEnvironmentVariable("VANTREL_BENCH");
-  if (mode == QLatin1String(kFirstPaint)) return app::RunVantrel(argc, argv);
-  if (mode == QLatin1String(kListing)) return MeasureListing(argc, argv);
-  return MeasureAll();
-}
+int main(int argc, char** argv) { return argc > 1 ? MeasureListing(argc, argv) : MeasureAll(); }

@@ -28,14 +28,14 @@ add_custom_command(
   VERBATIM)
 add_custom_target(vantrel_icon DEPENDS ${VANTREL_ICON})
 
-# vantrel_windows_program(NAME DESCRIPTION): the program NAME carries them, and is the same byte for
-# byte whenever it is linked.
+# vantrel_windows_program(NAME DESCRIPTION): the program NAME carries them, is the same byte for byte
+# whenever it is linked, and lies in its file as in memory, so that a start reads what it needs.
 function(vantrel_windows_program name description)
   set(manifest ${PROJECT_SOURCE_DIR}/cmake/mingw/Program.manifest)
   set(resources ${CMAKE_CURRENT_BINARY_DIR}/${name}.rc)
   configure_file(${PROJECT_SOURCE_DIR}/cmake/mingw/Program.rc.in ${resources} @ONLY)
   set_property(SOURCE ${resources} PROPERTY OBJECT_DEPENDS ${manifest} ${VANTREL_ICON})
   target_sources(${name} PRIVATE ${resources})
-  target_link_options(${name} PRIVATE -s -Wl,--no-insert-timestamp)
+  target_link_options(${name} PRIVATE -s -Wl,--no-insert-timestamp,--file-alignment=4096)
   add_dependencies(${name} vantrel_icon)
 endfunction()
