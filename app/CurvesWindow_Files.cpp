@@ -18,6 +18,7 @@
 
 #include "app/CurvesWindow.h"
 #include "app/MessageBoxes.h"
+#include "app/PrinterChoice.h"
 #include "app/QtText.h"
 #include "app/modMsgBoxPlus.h"
 #include "c3d/FileKey.h"
@@ -159,7 +160,7 @@ void CurvesWindow::Print() {
   QPrintDialog dialog(&printer, this);
   dialog.setOption(QAbstractPrintDialog::PrintCurrentPage);
   dialog.setOption(QAbstractPrintDialog::PrintPageRange);
-  if (dialog.exec() != QDialog::Accepted) return;
+  if (!ChoosePrinter(dialog)) return;
   const bool isThisPage = dialog.printRange() == QAbstractPrintDialog::CurrentPage;
   PrintPages(printer, isThisPage ? std::vector{Kind()} : AllKinds());
 }

@@ -6,9 +6,13 @@
 
 namespace app {
 
-void OutlineInTheDark(QPainter& painter, const QRect& box, const QPalette& colours) {
+bool AreDark(const QPalette& colours) {
   constexpr int kDarkBelow = 128;
-  if (colours.color(QPalette::Window).lightness() >= kDarkBelow) return;
+  return colours.color(QPalette::Window).lightness() < kDarkBelow;
+}
+
+void OutlineInTheDark(QPainter& painter, const QRect& box, const QPalette& colours) {
+  if (!AreDark(colours)) return;
   constexpr int kHalfSeen = 128;
   QColor line = colours.color(QPalette::WindowText);
   line.setAlpha(kHalfSeen);

@@ -17,6 +17,7 @@
 #include "app/MainWindow.h"
 #include "app/MessageBoxes.h"
 #include "app/OutputPane.h"
+#include "app/PrinterChoice.h"
 #include "app/QtText.h"
 #include "app/ReportPrinter.h"
 #include "app/SaveFile.h"
@@ -145,7 +146,7 @@ void MainWindow::PrintReport() {
   ReportPrinter printer(windowTitle());
   QPrintDialog dialog(&printer, this);
   dialog.setWindowTitle(tr("Print"));
-  if (dialog.exec() == QDialog::Accepted) printer.Print(form_->Pane());
+  if (ChoosePrinter(dialog)) printer.Print(form_->Pane());
 }
 
 void MainWindow::ChooseNormals() {

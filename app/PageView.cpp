@@ -10,6 +10,7 @@
 #include <QPainter>
 #include <QToolTip>
 
+#include "app/DarkOutline.h"
 #include "app/PointedText.h"
 #include "app/QtText.h"
 #include "app/ToolTip.h"
@@ -70,7 +71,7 @@ void PageView::SetStyle(plot::Shown curves, bool isMonochrome) {
 }
 
 void PageView::LayOut() {
-  style_.IsDark = palette().color(QPalette::Window).lightness() < 128;
+  style_.IsDark = AreDark(palette());
   picture_ = {};
   update();
   if (!HasPage()) return;

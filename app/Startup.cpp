@@ -9,6 +9,7 @@
 #include <QString>
 
 #include "app/CommandLine.h"
+#include "app/DesktopColours.h"
 #include "app/MainWindow.h"
 #include "app/MessageBoxes.h"
 #include "app/frmVantrel.h"
@@ -41,10 +42,12 @@ bool DeployThisProgram(const deploy::MessageShower& showMessage) {
 
 int RunVantrel(int argc, char** argv, const Deployment& deployment) {
   StartWords words(argc, argv);
+  AskForDarkColours();
   QApplication application(words.Count(), words.Words());
   QApplication::setApplicationName(QStringLiteral("vantrel"));
   QApplication::setDesktopFileName(QStringLiteral("vantrel"));
   QApplication::setWindowIcon(ProgramIcon());
+  FollowDesktopColours();
   // The toolkit has taken its own options off the command line; the rest is the path of a file.
   const StartLine start = ReadStartLine(words.Count(), words.Words());
   if (!Form_Initialize(deployment)) return 0;

@@ -6,6 +6,7 @@
 
 #include <QProcess>
 #include <QProcessEnvironment>
+#include <QSettings>
 #include <gtest/gtest.h>
 
 #include "sample/SampleWalk.h"
@@ -78,6 +79,20 @@ TEST_F(Program, ShowsTheCurvesOfTheFileWhereTheyAreAskedFor) {
   EXPECT_EQ(Start({QStringLiteral("--curves"), QString::fromStdString(walk)}).Output,
             "pane: \ncaption: " + walk + "\ncurves: shown\n");
 }
+
+#ifdef _WIN32
+TEST_F(Program, TakesTheColoursOfADarkDesktop) {
+  QSettings desktop(QStringLiteral("HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\"
+                                   "CurrentVersion\\Themes\\Personalize"),
+                    QSettings::NativeFormat);
+  desktop.setValue(QStringLiteral("AppsUseLightTheme"), 0);
+  desktop.sync();
+  const Outcome run = Start(QStringList());
+  desktop.remove(QStringLiteral("AppsUseLightTheme"));
+  desktop.sync();
+  EXPECT_EQ(run.Output, "pane: \ncaption: Vantrel\ncolours: dark\n");
+}
+#endif
 
 TEST_F(Program, TakesSeveralArgumentsForOnePathWithBlanks) {
   const std::string walk = Write(sample::SampleWalk().Build(), "left foot walk.c3d");

@@ -17,6 +17,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include "app/DarkOutline.h"
 #include "app/OutputPane.h"
 #include "app/Startup.h"
 #include "tests/ToolkitVariables.h"
@@ -59,6 +60,7 @@ void ActAsUser() {
   if (clicks.isEmpty()) {
     Report("pane", QString::fromStdString(pane->Text()));
     Report("caption", pane->window()->windowTitle());
+    if (app::AreDark(pane->palette())) Report("colours", QStringLiteral("dark"));
     for (const QWidget* window : QApplication::topLevelWidgets()) {
       const bool areCurves = window->objectName() == QStringLiteral("CurvesWindow");
       if (areCurves && window->isVisible()) Report("curves", QStringLiteral("shown"));
