@@ -6,7 +6,7 @@
 set -euo pipefail
 
 packages=(
-  appstream clang-14 clang-format clang-tidy cmake desktop-file-utils dpkg-dev fonts-dejavu-core
+  appstream ccache clang-14 clang-format clang-tidy cmake desktop-file-utils dpkg-dev fonts-dejavu-core
   fonts-liberation g++ git libbenchmark-dev libclang-rt-14-dev libcli11-dev libfmt-dev
   libgmock-dev libgtest-dev libqscintilla2-qt6-dev librsvg2-bin lintian locales man-db
   ninja-build openbox parallel poppler-utils pybind11-dev python3 python3-dev python3-numpy
@@ -14,14 +14,19 @@ packages=(
   x11-utils xauth xvfb
 )
 
-if [[ "${1:-}" = --windows* ]]; then
-  packages+=(g++-mingw-w64-x86-64 googletest wine64)
-  [ "$1" = --windows ] || packages+=(icoutils netpbm nsis)
-elif [ "${1:-}" = --checks ]; then
-  packages+=(cppcheck gcovr mypy valgrind)
-  # For the scripts of the manual.
-  packages+=(python3-matplotlib python3-pandas r-base-core r-cran-readr)
-fi
+case "${1:-}" in
+  '') ;;
+  --windows) packages+=(g++-mingw-w64-x86-64 googletest icoutils wine64) ;;
+  --windows-window)
+    packages+=(g++-mingw-w64-x86-64 googletest icoutils netpbm nsis wine64) ;;
+  --checks)
+    packages+=(cppcheck gcovr mypy valgrind)
+    # For the scripts of the manual.
+    packages+=(python3-matplotlib python3-pandas r-base-core r-cran-readr) ;;
+  *)
+    echo "setup.sh: $1 is none of --windows, --windows-window, --checks" >&2
+    exit 2 ;;
+esac
 
 missing=()
 for package in "${packages[@]}"; do

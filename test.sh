@@ -8,6 +8,12 @@
 set -euo pipefail
 cd "$(dirname "$0")"
 
+# What was compiled before is not compiled again, in whatever copy of the sources.
+if command -v ccache >/dev/null; then
+  export CMAKE_CXX_COMPILER_LAUNCHER=ccache CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
+  export CCACHE_SLOPPINESS=pch_defines,time_macros
+fi
+
 build_and_test() {
   cmake --preset "$1"
   cmake --build --preset "$1"
@@ -19,7 +25,8 @@ test_under_comma_locale() {
   local folder=$PWD/build/locales
   mkdir -p "$folder"
   [ -d "$folder/de_DE.UTF-8" ] || localedef -i de_DE -f UTF-8 "$folder/de_DE.UTF-8"
-  LOCPATH=$folder LC_ALL=de_DE.UTF-8 ctest --preset release --parallel 2
+  LOCPATH=$folder LC_ALL=de_DE.UTF-8 ctest --test-dir build/release --output-on-failure \
+    --label-exclude '^one_by_one$' --parallel 2
 }
 
 # What works in several threads, under the sanitizer of threads.
@@ -30,32 +37,26 @@ test_threads() {
   build/tsan/jobs_tests --gtest_brief=1
 }
 
+# The Windows build of the preset $1, set up with --$1.
 test_windows() {
-  ./setup.sh --windows
+  ./setup.sh "--$1"
   cmake --preset release
   cmake --build --preset release --target vantrel-report sample-walk
-  build_and_test windows
-  tests/compare_tools.sh build/release/vantrel-report tests/wine_report.sh \
-    build/release/sample-walk.c3d
+  build_and_test "$1"
+  VANTREL_WINDOWS_PRESET=$1 tests/compare_tools.sh build/release/vantrel-report \
+    tests/wine_report.sh build/release/sample-walk.c3d
 }
 
-test_windows_window() {
-  ./setup.sh --windows-window
-  cmake --preset release
-  cmake --build --preset release --target vantrel-report sample-walk
-  build_and_test windows-window
-  packaging/windows/build.sh --pack
-  packaging/windows/test.sh build/release/vantrel-report
-}
-
-if [ "${1:-}" = --windows-window ]; then
-  test_windows_window
-  exit
-fi
-if [ "${1:-}" = --windows ]; then
-  test_windows
-  exit
-fi
+case "${1:-}" in
+  --windows)
+    test_windows windows
+    exit ;;
+  --windows-window)
+    test_windows windows-window
+    packaging/windows/build.sh --pack
+    packaging/windows/test.sh build/release/vantrel-report
+    exit ;;
+esac
 ./setup.sh
 if [ $# -gt 0 ]; then
   build_and_test "$1"

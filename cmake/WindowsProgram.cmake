@@ -1,8 +1,10 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 
 # What a program of Windows carries besides its code: the icon in every size, its version, and the
-# manifest.
+# manifest. Elsewhere there is nothing to add.
 if(NOT WIN32)
+  function(vantrel_windows_program)
+  endfunction()
   return()
 endif()
 

@@ -7,6 +7,7 @@
 #include <fcntl.h>
 #include <io.h>
 #include <memory>
+#include <shlwapi.h>
 #include <windows.h>
 
 #include "console/Start.h"
@@ -34,6 +35,11 @@ BOOL WINAPI RestoreWhenInterrupted(DWORD /*event*/) {
   RestoreCodePage();
   constexpr BOOL kGoOnEnding = FALSE;
   return kGoOnEnding;
+}
+
+// The system also finds files whose short names fit: "a.c3d_old" for "*.c3d".
+bool Fits(const wchar_t* name, const std::wstring& pattern) {
+  return ::PathMatchSpecExW(name, pattern.c_str(), PMSF_NORMAL | PMSF_DONT_STRIP_SPACES) == S_OK;
 }
 
 bool IsConsole(DWORD output) {
@@ -65,8 +71,10 @@ std::vector<std::string> WithoutWildcards(const std::string& file) {
     throw modAllPurpose::LastFileError();
   }
   std::vector<std::string> files;
+  const std::wstring pattern = modAllPurpose::NativePath(file.substr(nameStart)).wstring();
   do {
     if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) continue;
+    if (!Fits(&found.cFileName[0], pattern)) continue;
     files.push_back(file.substr(0, nameStart) + modAllPurpose::Utf8Text(&found.cFileName[0]));
   } while (::FindNextFileW(search.get(), &found) != 0);
   if (::GetLastError() != ERROR_NO_MORE_FILES) throw modAllPurpose::LastFileError();

@@ -153,7 +153,7 @@ WalkStrides SortStrides(const CheckedTrial& trial, const Toes& toes,
     const float x = toe.AlongX(stride.StartStrikeTime, stride.StopStrikeTime);
     const float y = toe.AlongY(stride.StartStrikeTime, stride.StopStrikeTime);
     (AxisOfStride(x, y) == WalkAxis::X ? walk.AlongX : walk.AlongY).push_back(stride);
-    const double metres = std::hypot(double{x}, double{y}) * metresPerUnit;
+    const double metres = modAllPurposeNumbers::Hypotenuse(x, y) * metresPerUnit;
     if (!IsInPlace(metres)) continue;
     walk.ShortestInPlace = walk.InPlace.empty() ? metres : std::min(walk.ShortestInPlace, metres);
     walk.InPlace.push_back(stride);

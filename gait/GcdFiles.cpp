@@ -22,11 +22,11 @@ using modAllPurpose::WholeFile;
 
 namespace {
 
-// `folder` with a separator behind it. Windows takes two; the folder goes on with the one that it
-// is written with.
+// `folder` with a separator behind it, which a drive alone does not need: "C:" is the current
+// folder of the drive. Windows takes two; the folder goes on with the one that it is written with.
 std::string WithSeparator(const std::string& folder) {
   constexpr char kSeparator = std::filesystem::path::preferred_separator;
-  if (folder.back() == '/' || folder.back() == kSeparator) return folder;
+  if (modAllPurpose::OwnName(folder).empty()) return folder;
   return folder + (folder.find(kSeparator) == std::string::npos ? '/' : kSeparator);
 }
 

@@ -2,6 +2,7 @@
 
 #include "support/Arithmetic.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -27,6 +28,20 @@ std::int16_t ToInteger(std::int32_t value) {
 double Divide(double dividend, double divisor) {
   if (divisor == 0.0) throw RuntimeError(ErrorNumber::DivisionByZero);
   return dividend / divisor;
+}
+
+double Hypotenuse(double x, double y) {
+  const double a = std::max(std::fabs(x), std::fabs(y));
+  const double b = std::min(std::fabs(x), std::fabs(y));
+  const double squares = a * a + b * b;
+  if (!std::isnormal(squares)) return std::hypot(x, y);  // 0, or at the ends of the numbers
+  const double root = std::sqrt(squares);
+  // Half the excess of root^2 over a^2 + b^2, without the rounding of the squares.
+  const bool isSteep = root <= 2 * b;
+  const double rest = root - (isSteep ? b : a);
+  const double excess = isSteep ? a * (2 * rest - a) + (rest - 2 * (a - b)) * rest
+                                : 2 * rest * (a - 2 * b) + ((4 * rest - b) * b + rest * rest);
+  return root - excess / (2 * root);
 }
 
 std::int16_t SubtractIntegers(std::int16_t left, std::int16_t right) {

@@ -24,6 +24,8 @@ if ! cmp --quiet "$fonts" "$WINEPREFIX/fonts.reg"; then
 fi
 # As on every desktop; without them Wine looks for a file of them at each choice of a font.
 xprop -root -f RESOURCE_MANAGER 8s -set RESOURCE_MANAGER 'Xft.antialias: 1'
+# Without a window manager Wine waits for seconds until a window is gone.
+openbox &
 [[ $1 != *.exe ]] || set -- "$WINE" "$@"
 status=0
 "$@" || status=$?

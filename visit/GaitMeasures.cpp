@@ -49,7 +49,7 @@ struct FloorVector {
   double X = 0;
   double Y = 0;
 
-  double Length() const { return std::hypot(X, Y); }
+  double Length() const { return modAllPurposeNumbers::Hypotenuse(X, Y); }
 };
 
 FloorVector FromTo(const FloorVector& from, const FloorVector& to) {

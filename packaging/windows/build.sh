@@ -13,7 +13,7 @@ packages=$PWD/build/packages
 version=$(sed -n 's/^project(Vantrel VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
 # The day of the version; a clock does not count.
 day=$(sed -n "s/^## $version — \([0-9-]*\)$/\1/p" CHANGELOG.md)
-export SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(date -u -d "$day" +%s)} LC_ALL=C.UTF-8 TZ=UTC
+export SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(date -u -d "${day:?CHANGELOG.md has no day for $version}" +%s)} LC_ALL=C.UTF-8 TZ=UTC
 
 if [ "${1:-}" != --pack ]; then
   ./setup.sh --windows-window

@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The window against the tool, over recordings: VANTREL_TRIALS names a folder of them. The sample
-// walk is always one.
+// walk is always one. VANTREL_SHARE names a folder, of another machine maybe, for the trials whose
+// GCD files are written.
 
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include <QDir>
 #include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 
 #include "c3d/OpenC3dFile.h"
@@ -95,7 +99,42 @@ class FormTrials : public FormTest {
     }
   }
 
+  // A copy of the recording in a folder of its own, on the share where there is one.
+  QString OnTheShare(const QString& file) {
+    const QString share =
+        qEnvironmentVariable("VANTREL_SHARE", QString::fromStdString(folder_.Path().string()));
+    const QString folder = QStringLiteral("%1/G\u00e4nge %2").arg(share).arg(++copies_);
+    QDir(folder).removeRecursively();
+    EXPECT_TRUE(QDir().mkpath(folder));
+    const QString copy = folder + u'/' + QFileInfo(file).fileName();
+    EXPECT_TRUE(QFile::copy(file, copy));
+    return QDir::toNativeSeparators(copy);
+  }
+
+  static std::map<QString, QByteArray> GcdFilesIn(const QString& folder) {
+    std::map<QString, QByteArray> contents;
+    for (const QString& name : QDir(folder).entryList({QStringLiteral("*.gcd")}, QDir::Files)) {
+      QFile file(folder + u'/' + name);
+      EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+      contents[name] = file.readAll();
+    }
+    return contents;
+  }
+
+  void CompareGcdFiles(const QString& file) {
+    const QString copy = OnTheShare(file);
+    const QString tools = QFileInfo(copy).path() + QStringLiteral("/by the tool");
+    ASSERT_TRUE(QDir().mkpath(tools));
+    if (!Printed({QStringLiteral("gcd"), QStringLiteral("--output-dir"), tools, copy})) return;
+    Drop(copy.toStdString());
+    Click("cmdWriteGcdFiles");
+    ASSERT_TRUE(PaneText().ends_with("Done.\n")) << file.toStdString() << '\n' << PaneText();
+    EXPECT_TRUE(GcdFilesIn(QFileInfo(copy).path()) == GcdFilesIn(tools)) << file.toStdString();
+    compared_ += static_cast<int>(GcdFilesIn(tools).size());
+  }
+
   int compared_ = 0;
+  int copies_ = 0;
 };
 
 TEST_F(FormTrials, PutIntoThePaneWhatTheToolPrints) {
@@ -107,6 +146,17 @@ TEST_F(FormTrials, PutIntoThePaneWhatTheToolPrints) {
     if (!Opens(file.toStdString())) continue;
     Drop(file.toStdString());
     CompareOpened(file);
+  }
+  RecordProperty("compared", compared_);
+}
+
+TEST_F(FormTrials, WriteTheGcdFilesThatTheToolWrites) {
+  const std::string walk = WriteSampleWalk();
+  Start();
+  CompareGcdFiles(QString::fromStdString(walk));
+  EXPECT_EQ(compared_, 6);
+  for (const QString& file : Recordings()) {
+    if (Opens(file.toStdString())) CompareGcdFiles(file);
   }
   RecordProperty("compared", compared_);
 }

@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include "console/Start.h"
+#include "gait/GcdFiles.h"
 #include "sample/TrialBuilder.h"
 #include "support/FileSystem.h"
 #include "tests/TestTrials.h"
@@ -49,6 +50,17 @@ TEST_F(ToolOnWindows, TakesAWildcardForTheFilesWhoseNamesFitInOrder) {
               ElementsAre("==> Walk 1.C3D <==", "==> walk 10.c3d <==", "==> walk 2.c3d <=="));
   EXPECT_THAT(FilesOf({"WALK ?.c3d"}), ElementsAre("==> Walk 1.C3D <==", "==> walk 2.c3d <=="));
   EXPECT_THAT(FilesOf({"*"}), testing::SizeIs(4));
+}
+
+TEST_F(ToolOnWindows, TakesNoFileForAWildcardThatOnlyItsShortNameFits) {
+  for (const char* name : {"walk 1.c3d", "walk 1.c3d_old", "walk 1.c3dx"}) Write(name);
+  EXPECT_THAT(FilesOf({"*.c3d", "walk 1.c3dx"}),
+              ElementsAre("==> walk 1.c3d <==", "==> walk 1.c3dx <=="));
+}
+
+TEST_F(ToolOnWindows, WritesGcdFilesIntoTheCurrentFolderOfADrive) {
+  EXPECT_EQ(modVantrel::GcdFileName("walk.c3d", {modVantrel::GaitSide::Left, 1}, "C:"),
+            "C:walk-L1.gcd");
 }
 
 TEST_F(ToolOnWindows, TakesWildcardsOfTheLastNameOnly) {

@@ -16,6 +16,33 @@ using tests::ErrorNumberOf;
 using tests::kDivisionByZero;
 using tests::kOverflow;
 
+TEST(Hypotenuse, IsExactWhereItCanBe) {
+  EXPECT_EQ(Hypotenuse(3, -4), 5);
+  EXPECT_EQ(Hypotenuse(-0.5, 0), 0.5);
+  EXPECT_EQ(Hypotenuse(0, 0), 0);
+}
+
+TEST(Hypotenuse, IsHardlyFurtherOffThanTheNearestNumber) {
+  constexpr long double kMost = 0.6L;  // of the distance between numbers; a bare root is off by 1
+  double x = 0.001;
+  for (int i = 0; i < 10000; ++i) {
+    x = std::fmod(x * 1.37 + 0.011, 3.0);
+    const double y = std::fmod(x * 7.13, 1.7);
+    const auto exact = std::sqrt(static_cast<long double>(x) * x + static_cast<long double>(y) * y);
+    const double length = Hypotenuse(x, y);
+    const double next = std::nextafter(length, 10.0) - length;
+    ASSERT_LE(std::fabs(length - exact), kMost * next) << x << ' ' << y;
+  }
+}
+
+TEST(Hypotenuse, HoldsAtTheEndsOfTheNumbers) {
+  const double infinity = std::numeric_limits<double>::infinity();
+  EXPECT_EQ(Hypotenuse(-infinity, std::nan("")), infinity);
+  EXPECT_TRUE(std::isnan(Hypotenuse(std::nan(""), 1)));
+  EXPECT_DOUBLE_EQ(Hypotenuse(3e300, 4e300), 5e300);
+  EXPECT_DOUBLE_EQ(Hypotenuse(3e-160, 4e-160), 5e-160);
+}
+
 TEST(ToSingle, RoundsToTheNearestFloat) {
   EXPECT_EQ(ToSingle(0.1), 0.1F);
   EXPECT_EQ(ToSingle(1.0 / 3.0), 1.0F / 3.0F);

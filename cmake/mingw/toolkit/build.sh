@@ -5,7 +5,8 @@
 #   cmake/mingw/toolkit/build.sh           builds it unless it is there
 #   cmake/mingw/toolkit/build.sh --where   prints the name of that folder and does nothing else
 # The name holds a sum over everything that decides what is built, so a change builds anew beside
-# what is there. Of several at once one builds and the others wait for it.
+# what is there, which other copies of the sources may still use; what none uses can be deleted. Of
+# several at once one builds and the others wait for it.
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 toolchain=$here/../Toolchain.cmake
@@ -13,8 +14,9 @@ toolchain=$here/../Toolchain.cmake
 sum_of_what_decides() {
   {
     cd "$here"
-    sha256sum sources.sha256 ./*.patch Options.cmake CMakeLists.txt ../Toolchain.cmake
+    sha256sum sources.sha256 ./*.patch Options.cmake CMakeLists.txt build.sh ../Toolchain.cmake
     x86_64-w64-mingw32-g++-posix --version
+    dpkg-query -W mingw-w64-x86-64-dev qt6-base-dev-tools
   } | sha256sum | cut -c 1-16
 }
 folder=${XDG_CACHE_HOME:-$HOME/.cache}/vantrel/windows-toolkit-$(sum_of_what_decides)
@@ -54,7 +56,10 @@ END
   while read -r _ description; do
     [[ $description = *.dsc ]] || continue
     source=${description%.dsc}
-    (cd sources && apt-get source --download-only "${source/_/=}")
+    if ! (cd sources && apt-get source --download-only "${source/_/=}"); then
+      echo "Debian does not offer ${source/_/ } here; sources.sha256 says what is fetched."
+      exit 1
+    fi
   done <"$here/sources.sha256"
   (cd sources && sha256sum --check "$here/sources.sha256")
   dpkg-source --no-check -x sources/qt6-base_*.dsc qtbase
