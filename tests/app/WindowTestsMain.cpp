@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <gtest/gtest.h>
 
+#include "app/DesktopColours.h"
 #include "tests/ToolkitVariables.h"
 
 int main(int argc, char* argv[]) {
@@ -12,5 +13,6 @@ int main(int argc, char* argv[]) {
   QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
+  app::FollowDesktopColours();
   return RUN_ALL_TESTS();
 }
