@@ -16,10 +16,16 @@ cp "$build/vantrel.exe" "$build/vantrel-curves.exe" "$build/vantrel-report.exe" 
 echo "This file keeps vantrel.exe from putting others beside itself." >"$folder/vantrel.exe.manifest1"
 
 cp "$source/CHANGELOG.md" "$folder"
-cp "$source/docs/manual.md" "$source/docs/archive.md" "$folder/docs"
-# The pictures that they show.
-grep -ho '](\([^)#:]*\.png\))' "$folder"/docs/*.md | tr -d ']()' | sort -u |
-  while IFS= read -r picture; do cp "$source/docs/$picture" "$folder/docs"; done
+# take_page PAGE: with all that it leads to.
+take_page() {
+  local link
+  [ ! -e "$folder/docs/$1" ] || return 0
+  cp "$source/docs/$1" "$folder/docs"
+  [[ $1 = *.md ]] || return 0
+  while IFS= read -r link; do take_page "$link"; done < <(
+    grep -oE '\]\([^):#]+[)#]' "$source/docs/$1" | sed 's/^](//; s/.$//' | sort -u)
+}
+take_page manual.md
 
 {
   cat "$source/LICENSE"
@@ -29,8 +35,9 @@ grep -ho '](\([^)#:]*\.png\))' "$folder"/docs/*.md | tr -d ']()' | sort -u |
 
 # Of all that is part of the programs.
 cp "$toolkit"/licences/* "$folder/licences"
-for package in fonts-dejavu-core libcli11-dev libfmt-dev mingw-w64-common rapidjson-dev \
-  gcc-mingw-w64-x86-64-posix-runtime; do
+packages=(fonts-dejavu-core libcli11-dev libfmt-dev mingw-w64-common rapidjson-dev
+  gcc-mingw-w64-x86-64-posix-runtime)
+for package in "${packages[@]}"; do
   cp -L "/usr/share/doc/$package/copyright" "$folder/licences/$package"
 done
 # The full texts that these speak of.
@@ -39,6 +46,8 @@ grep -rhoE '/usr/share/common-licenses/[A-Za-z0-9]+(-[0-9.]*[0-9])?' "$folder/li
     cp -L "$text" "$folder/licences"
   done
 for text in "$folder"/licences/*; do mv "$text" "$text.txt"; done
+"$source/packaging/windows/list_sources.sh" "${packages[@]}" >"$folder/licences/SOURCES.txt"
+cp "$source/cmake/mingw/toolkit/no-graphics-card.patch" "$folder/licences"
 
 # Every file alike, whatever the rights here.
 find "$folder" -type d -exec chmod 755 {} +

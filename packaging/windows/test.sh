@@ -98,6 +98,31 @@ remember
 check "refuses a folder with a file of its names" ends_with 2 "$setup" /S '/D=C:\papers'
 check "touches nothing there" as_remembered
 
+echo "Documents"
+# linked_files FOLDER: fails where a link of a page leads nowhere.
+linked_files() {
+  local page link links=0 dead=0
+  for page in "$1"/*.md "$1"/docs/*.md; do
+    while IFS= read -r link; do
+      links=$((links + 1))
+      [ -f "$(dirname "$page")/$link" ] || { echo "$page leads to $link"; dead=1; }
+    done < <(grep -oE '\]\([^):#]+[)#]' "$page" | sed 's/^](//; s/.$//')
+  done
+  [ "$links" -gt 5 ] && [ "$dead" = 0 ]
+}
+check "links of the documents" linked_files "$unpacked"
+# names_sources FILE: names every source of the toolkit as sources.sha256 does, and no address.
+names_sources() {
+  local source
+  while read -r source; do
+    grep -qF "$source" "$1" || { echo "does not name $source"; return 1; }
+  done < <(sed -n 's/.* \(.*\)_\(.*\)\.dsc$/\1 \2/p' "$root/cmake/mingw/toolkit/sources.sha256")
+  ! grep -n '://' "$1"
+}
+check "sources are named" names_sources "$unpacked/licences/SOURCES.txt"
+check "changes of sources" cmp "$root/cmake/mingw/toolkit/no-graphics-card.patch" \
+  "$unpacked/licences/no-graphics-card.patch"
+
 echo "Running from the zip"
 mkdir "$WINEPREFIX/drive_c/stick ä"
 cp -r "$unpacked" "$WINEPREFIX/drive_c/stick ä"
