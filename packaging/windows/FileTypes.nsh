@@ -32,16 +32,20 @@ Function OfferFileTypes
 FunctionEnd
 
 ; Keys that others may share go only where nothing is left in them.
-Function un.TakeBackFileTypes
-  DeleteRegKey SHCTX "${PROGRAM_KEY}"
-  DeleteRegKey /ifempty SHCTX "${CLASSES}\Applications"
-  DeleteRegKey SHCTX "${TYPE_KEY}"
-  DeleteRegValue SHCTX "${CLASSES}\.c3d\OpenWithProgids" "Vantrel.Trial"
-  DeleteRegKey /ifempty SHCTX "${CLASSES}\.c3d\OpenWithProgids"
-  DeleteRegKey /ifempty SHCTX "${CLASSES}\.c3d"
-  DeleteRegKey SHCTX "${MENU_KEY}\Vantrel"
-  DeleteRegKey /ifempty SHCTX "${MENU_KEY}"
-  DeleteRegKey /ifempty SHCTX "${CLASSES}\SystemFileAssociations\.c3d"
-  DeleteRegKey /ifempty SHCTX "${CLASSES}\SystemFileAssociations"
-  !insertmacro TellDesktop
-FunctionEnd
+!macro TakeBackFileTypes un
+  Function ${un}TakeBackFileTypes
+    DeleteRegKey SHCTX "${PROGRAM_KEY}"
+    DeleteRegKey /ifempty SHCTX "${CLASSES}\Applications"
+    DeleteRegKey SHCTX "${TYPE_KEY}"
+    DeleteRegValue SHCTX "${CLASSES}\.c3d\OpenWithProgids" "Vantrel.Trial"
+    DeleteRegKey /ifempty SHCTX "${CLASSES}\.c3d\OpenWithProgids"
+    DeleteRegKey /ifempty SHCTX "${CLASSES}\.c3d"
+    DeleteRegKey SHCTX "${MENU_KEY}\Vantrel"
+    DeleteRegKey /ifempty SHCTX "${MENU_KEY}"
+    DeleteRegKey /ifempty SHCTX "${CLASSES}\SystemFileAssociations\.c3d"
+    DeleteRegKey /ifempty SHCTX "${CLASSES}\SystemFileAssociations"
+    !insertmacro TellDesktop
+  FunctionEnd
+!macroend
+!insertmacro TakeBackFileTypes ""
+!insertmacro TakeBackFileTypes "un."

@@ -2,20 +2,49 @@
 ; The folder of the program: what stands in it that is not Vantrel's, older versions, and the files
 ; that are installed and removed, each by its name, so that no other file is ever touched.
 
-; Waits until the program `name` in the folder $0 has ended, which Windows keeps from being written
-; till then. A user who does not wait, and a silent run, end the installer.
+!define GENERIC_WRITE 0x40000000
+!define SHARE_ALL 7
+!define CREATE_NEW 1
+!define OPEN_EXISTING 3
+!define DELETE_ON_CLOSE 0x04000000
+!define ERROR_SHARING_VIOLATION 32
+!define UNWRITABLE "Nothing can be written into this folder:$\r$\n$\r$\n$INSTDIR"
+
+; The full name of the folder $1, in its long form where there is one, without a backslash at its end:
+; one folder has one name in the registry.
+!macro FullFolder un
+  Function ${un}FullFolder
+    System::Call 'kernel32::GetFullPathNameW(w r1, i ${NSIS_MAX_STRLEN}, w .r1, p 0)'
+    System::Call 'kernel32::GetLongPathNameW(w r1, w .r2, i ${NSIS_MAX_STRLEN}) i .r3'
+    ${If} $3 > 0
+    ${AndIf} $3 < ${NSIS_MAX_STRLEN}
+      StrCpy $1 $2
+    ${EndIf}
+    StrCpy $2 $1 1 -1
+    ${If} $2 == "\"
+      StrCpy $1 $1 -1
+    ${EndIf}
+  FunctionEnd
+!macroend
+!insertmacro FullFolder ""
+!insertmacro FullFolder "un."
+
+; Waits until the program `name` in the folder $0 has ended: till then Windows shares it with nobody who
+; writes. A user who does not wait, and a silent run, end the installer.
 !macro WaitForProgram name
   ${Do}
-    ${IfNot} ${FileExists} "$0\${name}"
+    StrCpy $1 "$0\${name}"
+    System::Call 'kernel32::CreateFileW(w r1, i ${GENERIC_WRITE}, i ${SHARE_ALL}, p 0, i ${OPEN_EXISTING}, i 0, p 0) p .r2 ?e'
+    Pop $3
+    ${If} $2 != -1
+      System::Call 'kernel32::CloseHandle(p r2)'
       ${Break}
     ${EndIf}
-    ClearErrors
-    FileOpen $1 "$0\${name}" a
-    ${IfNot} ${Errors}
-      FileClose $1
+    ; Not there, or without the right to write: it does not run.
+    ${If} $3 != ${ERROR_SHARING_VIOLATION}
       ${Break}
     ${EndIf}
-    ${If} ${Cmd} `MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "Vantrel is running:$\r$\n$\r$\n$0\${name}$\r$\n$\r$\nPlease close it, then choose Retry." /SD IDCANCEL IDCANCEL`
+    ${If} ${Cmd} `MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "Vantrel is running:$\r$\n$\r$\n$1$\r$\n$\r$\nPlease close it, then choose Retry." /SD IDCANCEL IDCANCEL`
       SetErrorLevel ${REFUSED}
       Quit
     ${EndIf}
@@ -24,6 +53,9 @@
 
 !macro WaitUntilClosed un
   Function ${un}WaitUntilClosed
+    ${If} $0 == ""
+      Return
+    ${EndIf}
     !insertmacro WaitForProgram "vantrel.exe"
     !insertmacro WaitForProgram "vantrel-curves.exe"
     !insertmacro WaitForProgram "vantrel-report.exe"
@@ -32,9 +64,51 @@
 !insertmacro WaitUntilClosed ""
 !insertmacro WaitUntilClosed "un."
 
+; $1: 1 where a file can be made and deleted in $INSTDIR, else 0. It is gone once it is closed, and
+; replaces none.
+!macro TryFile un
+  Function ${un}TryFile
+    StrCpy $1 "$INSTDIR\vantrel-setup.tmp"
+    System::Call 'kernel32::CreateFileW(w r1, i ${GENERIC_WRITE}, i 0, p 0, i ${CREATE_NEW}, i ${DELETE_ON_CLOSE}, p 0) p .r2'
+    StrCpy $1 0
+    ${If} $2 != -1
+      StrCpy $1 1
+      System::Call 'kernel32::CloseHandle(p r2)'
+    ${EndIf}
+  FunctionEnd
+!macroend
+!insertmacro TryFile ""
+!insertmacro TryFile "un."
+
+; $1: 1 where $INSTDIR can be made and written, else 0. Leaves nothing that was not there.
+Function TryFolder
+  StrCpy $0 $INSTDIR
+  ${DoUntil} ${FileExists} "$0\*.*"
+    ${GetParent} $0 $0
+    ${If} $0 == ""
+      ${Break}
+    ${EndIf}
+  ${Loop}
+  CreateDirectory $INSTDIR
+  Call TryFile
+  StrCpy $2 $INSTDIR
+  ${While} $2 != $0
+    RMDir $2
+    ${GetParent} $2 $2
+  ${EndWhile}
+FunctionEnd
+
 !macro NoteTaken folder name
   ${If} ${FileExists} "$INSTDIR${folder}\${name}"
     StrCpy $0 "$INSTDIR${folder}\${name}"
+  ${EndIf}
+!macroend
+
+; The folders `docs` and the like, where a file has their name.
+!macro NoteNoFolder folder
+  ${If} ${FileExists} "$INSTDIR${folder}"
+  ${AndIfNot} ${FileExists} "$INSTDIR${folder}\*.*"
+    StrCpy $0 "$INSTDIR${folder}"
   ${EndIf}
 !macroend
 
@@ -46,11 +120,26 @@ Function FindTakenFile
     Return
   ${EndIf}
   !insertmacro EachFile NoteTaken
+  !insertmacro EachFolder NoteNoFolder
   !insertmacro NoteTaken "" "uninstall.exe"
 FunctionEnd
 
-Function RefuseTakenFolder
+; $0: a text on what keeps Vantrel from standing in $INSTDIR, or nothing.
+Function FindObstacle
   Call FindTakenFile
+  ${If} $0 != ""
+    StrCpy $0 "The folder has a file of this name that is not Vantrel's:$\r$\n$\r$\n$0"
+    Return
+  ${EndIf}
+  Call TryFolder
+  StrCpy $0 ""
+  ${If} $1 == 0
+    StrCpy $0 "${UNWRITABLE}"
+  ${EndIf}
+FunctionEnd
+
+Function RefuseObstacle
+  Call FindObstacle
   ${If} $0 != ""
     SetErrorLevel ${REFUSED}
     Quit
@@ -60,29 +149,41 @@ FunctionEnd
 ; Removes the version in the folder $0, by its own uninstaller, which knows its files. It runs in its
 ; place, so that it is waited for, and stays itself.
 Function RemoveVersion
-  ${IfNot} ${FileExists} "$0\uninstall.exe"
+  ${If} $0 == ""
+  ${OrIfNot} ${FileExists} "$0\uninstall.exe"
     Return
   ${EndIf}
-  Call WaitUntilClosed
   ClearErrors
   ExecWait '"$0\uninstall.exe" /S _?=$0' $1
   ${If} ${Errors}
   ${OrIf} $1 != 0
-    MessageBox MB_ICONSTOP "The version of Vantrel in this folder could not be removed:$\r$\n$\r$\n$0" /SD IDOK
-    SetErrorLevel ${REFUSED}
-    Quit
+    !insertmacro Refuse "The version of Vantrel in this folder could not be removed:$\r$\n$\r$\n$0"
   ${EndIf}
   Delete "$0\uninstall.exe"
   RMDir "$0"
 FunctionEnd
 
-Function RemoveOlderVersions
-  ${If} $RegisteredFolder != ""
-    StrCpy $0 $RegisteredFolder
-    Call RemoveVersion
-  ${EndIf}
+; Calls `do` with each folder in $0 that may hold a version which the newer one takes the place of.
+!macro WithOlderVersions do
+  StrCpy $0 $OwnFolder
+  Call ${do}
+  StrCpy $0 $RegisteredFolder
+  Call ${do}
   StrCpy $0 $INSTDIR
-  Call RemoveVersion
+  Call ${do}
+!macroend
+
+; None is removed before all are closed. What this user has registered goes also where its folder does
+; not exist: it would hide what is installed for all.
+Function RemoveOlderVersions
+  !insertmacro WithOlderVersions WaitUntilClosed
+  !insertmacro WithOlderVersions RemoveVersion
+  ${If} $OwnFolder != ""
+    SetShellVarContext current
+    Call TakeBackEntries
+    RMDir "$LOCALAPPDATA\Programs"
+    SetShellVarContext all
+  ${EndIf}
 FunctionEnd
 
 !macro InstallFile folder name

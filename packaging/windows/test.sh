@@ -98,6 +98,116 @@ remember
 check "refuses a folder with a file of its names" ends_with 2 "$setup" /S '/D=C:\papers'
 check "touches nothing there" as_remembered
 
+echo "Refusing a folder"
+# refuses WHAT WORD...: an installer with these words ends with 2 and changes nothing.
+refuses() {
+  local what=$1
+  shift
+  check "refuses $what" ends_with 2 "$setup" /S "$@"
+  check "changes nothing for $what" as_remembered
+}
+# As Windows hands words on, which wine quotes otherwise.
+printf '%s\r\n' "\"$(wine winepath -w "$setup")\" /S /D=\"C:\\Quo ted\"" 'exit /b %errorlevel%' \
+  >"$WINEPREFIX/drive_c/quoted.bat"
+ln -s /proc "$WINEPREFIX/drive_c/locked"
+check "installs the older version" ends_with 0 "$work/older-setup.exe" /S
+remember
+check "refuses a folder in quotation marks" ends_with 2 cmd /c 'C:\quoted.bat'
+check "changes nothing for it" as_remembered
+refuses "a word in quotation marks" '/D=C:\Quo ted'
+refuses "slashes" /D=C:/Tools/Vantrel
+refuses "one slash" '/D=C:\Tools/Vantrel'
+refuses "no drive" '/D=Tools\Vantrel'
+refuses "letters that no folder has" '/D=C:\Tools\Van*trel'
+refuses "a small letter" '/d=C:\Tools\Vantrel'
+refuses "a folder that cannot be made" '/D=Z:\proc\Tools\Vantrel'
+refuses "a folder that cannot be written" '/D=C:\locked'
+refuses "a folder below a file" '/D=C:\papers\LICENSE.txt\Vantrel'
+mkdir "$WINEPREFIX/drive_c/other"
+echo mine >"$WINEPREFIX/drive_c/other/docs"
+remember
+refuses "a folder with a file where one of its own comes" '/D=C:\other'
+rm -r "$WINEPREFIX/drive_c/other" "$WINEPREFIX/drive_c/locked" "$WINEPREFIX/drive_c/quoted.bat"
+wine "$alone\\uninstall.exe" /S
+check "leaves nothing of the older version" eventually test ! -e "$(here_of "$alone")/uninstall.exe"
+remember
+check "installs into a folder by another name" ends_with 0 "$setup" /S \
+  '/D=C:\papers\..\Tools\.\Vantrel\'
+is_listed HKCU 'C:\Tools\Vantrel' "$version"
+wine 'C:\Tools\Vantrel\uninstall.exe' /S
+check "leaves nothing of its folder" eventually test ! -e "$WINEPREFIX/drive_c/Tools/Vantrel"
+rmdir "$WINEPREFIX/drive_c/Tools"
+check "leaves nothing there" eventually as_remembered
+
+echo "Waiting for an uninstaller"
+check "installs" ends_with 0 "$setup" /S
+check "opens a trial" opens_trial "$alone\\vantrel.exe"
+check "says that Vantrel runs" ends_with 2 "$alone\\uninstall.exe" /S "_?=$alone"
+closes
+check "is done at its end" ends_with 0 "$alone\\uninstall.exe" /S "_?=$alone"
+check "leaves itself" test "$(ls "$(here_of "$alone")")" = uninstall.exe
+rm -r "$(dirname "$(here_of "$alone")")"
+check "leaves nothing else" as_remembered
+
+everyone='C:\Program Files\Vantrel'
+# knows_nothing HIVE: of Vantrel.
+knows_nothing() {
+  wine reg export "$1\\Software" "$work/exported.reg" /y >/dev/null 2>&1
+  ! iconv -f UTF-16 -t UTF-8 "$work/exported.reg" | grep -i vantrel
+}
+
+echo "Removing what was moved"
+for words in "/CurrentUser HKCU $alone" "/AllUsers HKLM $everyone"; do
+  read -r word hive folder <<<"$words"
+  remember
+  check "installs" ends_with 0 "$setup" /S "$word"
+  cp -r "$(here_of "$folder")" "$WINEPREFIX/drive_c/copied"
+  wine 'C:\copied\uninstall.exe' /S
+  check "removes a copy" eventually test ! -e "$WINEPREFIX/drive_c/copied"
+  check "leaves what was copied" holds_vantrel "$folder"
+  is_listed "$hive" "$folder" "$version"
+  mv "$(here_of "$folder")" "$WINEPREFIX/drive_c/moved"
+  wine 'C:\moved\uninstall.exe' /S
+  check "leaves nothing of what was moved" eventually as_remembered
+done
+
+echo "Installing for all beside one user"
+remember
+check "installs the older version for one" ends_with 0 "$work/older-setup.exe" /S
+check "installs for all" ends_with 0 "$setup" /S /AllUsers
+check "files for all" holds_vantrel "$everyone"
+check "files of one are gone" test ! -e "$(dirname "$(here_of "$alone")")"
+check "nothing is known of one" knows_nothing HKCU
+check "start menu of one is gone" test ! -e "$(here_of "$user_menu")/Vantrel.lnk"
+is_listed HKLM "$everyone" "$version"
+wine "$everyone\\uninstall.exe" /S
+check "leaves nothing" eventually as_remembered
+check "installs the older version for one" ends_with 0 "$work/older-setup.exe" /S
+rm -r "$(dirname "$(here_of "$alone")")"
+check "installs for all where that was deleted" ends_with 0 "$setup" /S /AllUsers
+check "nothing is known of what was deleted" knows_nothing HKCU
+wine "$everyone\\uninstall.exe" /S
+check "leaves nothing of both" eventually as_remembered
+
+echo "Upgrading for all"
+check "installs the older version for all" ends_with 0 "$work/older-setup.exe" /S /AllUsers
+check "upgrades without a word" ends_with 0 "$setup" /S
+check "files for all" holds_vantrel "$everyone"
+is_listed HKLM "$everyone" "$version"
+check "nothing is known of one" knows_nothing HKCU
+check "installs for one by a word" ends_with 0 "$setup" /S /CurrentUser
+check "files of one" holds_vantrel "$alone"
+check "files of all stay" holds_vantrel "$everyone"
+check "opens a trial" opens_trial "$alone\\vantrel.exe"
+check "no installing for all while that of one runs" ends_with 2 "$setup" /S /AllUsers
+check "files of all stay still" holds_vantrel "$everyone"
+closes
+wine "$alone\\uninstall.exe" /S
+check "one is gone" eventually test ! -e "$(dirname "$(here_of "$alone")")"
+is_listed HKLM "$everyone" "$version"
+wine "$everyone\\uninstall.exe" /S
+check "leaves nothing of all" eventually as_remembered
+
 echo "Documents"
 # linked_files FOLDER: fails where a link of a page leads nowhere.
 linked_files() {

@@ -5,10 +5,11 @@
 ; FILES is the folder of what is installed and LIST names its files, see list_files.sh.
 ;
 ; What it promises: for one user it never asks for administrator rights; it replaces no file that an
-; installer of Vantrel did not put there, and takes no file type from another program; a silent run
-; shows nothing and waits for nobody. Exit statuses: 0 all well, 1 cancelled, 2 refused (a program of
-; Vantrel runs, a file is in the way, this Windows is too old), 740 the rights of an administrator
-; are missing in a silent run.
+; installer of Vantrel did not put there, and takes no file type from another program; an older version
+; goes only once the newer one can be written. A silent run shows and asks nothing: where it would have
+; to, it ends. Exit statuses: 0 all well, 1 cancelled, 2 refused or broken off (a program of Vantrel
+; runs, a file is in the way, the folder cannot be written or /D= names none, an older version cannot be
+; removed, this Windows is too old), 740 the rights of an administrator are missing in a silent run.
 Target amd64-unicode
 SetCompressor /SOLID lzma
 SetDateSave off
@@ -28,8 +29,8 @@ AllowSkipFiles off
 !define REFUSED 2
 !define UNINSTALL_KEYS "Software\Microsoft\Windows\CurrentVersion\Uninstall"
 !define UNINSTALL_KEY "${UNINSTALL_KEYS}\Vantrel"
-; Stands for "no folder was given": a folder that /D= names is absolute. Its last part is what a
-; folder chosen on the page is completed by.
+; Stands for "no folder was given", or none that NSIS takes for one, see ReadFolder: what it takes is
+; absolute. Its last part is what a folder chosen on the page is completed by.
 !define NO_FOLDER "unset\Vantrel"
 
 Name "Vantrel"
@@ -49,6 +50,12 @@ VIAddVersionKey "LegalCopyright" "Copyright the Vantrel maintainers. GPL-3.0-or-
 VIAddVersionKey "OriginalFilename" "vantrel-${VERSION}-setup.exe"
 VIAddVersionKey "ProductName" "Vantrel"
 VIAddVersionKey "ProductVersion" "${VERSION}"
+
+!macro Refuse text
+  MessageBox MB_ICONSTOP "${text}" /SD IDOK
+  SetErrorLevel ${REFUSED}
+  Quit
+!macroend
 
 !include Users.nsh
 !include FileTypes.nsh
@@ -81,20 +88,22 @@ FunctionEnd
 
 Function .onInit
   ${IfNot} ${AtLeastWin10}
-    MessageBox MB_ICONSTOP "Vantrel needs Windows 10 or later." /SD IDOK
-    SetErrorLevel ${REFUSED}
-    Quit
+    !insertmacro Refuse "Vantrel needs Windows 10 or later."
   ${EndIf}
+  Call ReadFolder
   Call ReadUsers
   ${If} ${Silent}
-    Call RefuseTakenFolder
+    Call RefuseObstacle
   ${EndIf}
 FunctionEnd
 
 Function LeaveFolder
-  Call FindTakenFile
+  StrCpy $1 $INSTDIR
+  Call FullFolder
+  StrCpy $INSTDIR $1
+  Call FindObstacle
   ${If} $0 != ""
-    MessageBox MB_ICONEXCLAMATION "The folder has a file of this name that is not Vantrel's:$\r$\n$\r$\n$0$\r$\n$\r$\nPlease choose another folder."
+    MessageBox MB_ICONEXCLAMATION "$0$\r$\n$\r$\nPlease choose another folder."
     Abort
   ${EndIf}
 FunctionEnd
@@ -102,8 +111,15 @@ FunctionEnd
 ; The uninstaller and its entry come first, so that what is broken off can be removed.
 Section
   Call RemoveOlderVersions
+  ClearErrors
   SetOutPath "$INSTDIR"
   WriteUninstaller "$INSTDIR\uninstall.exe"
+  ${If} ${Errors}
+    !insertmacro Refuse "${UNWRITABLE}"
+  ${EndIf}
+  StrCpy $1 $INSTDIR
+  Call FullFolder
+  StrCpy $INSTDIR $1
   WriteRegStr SHCTX "${UNINSTALL_KEY}" "DisplayName" "Vantrel"
   WriteRegStr SHCTX "${UNINSTALL_KEY}" "DisplayVersion" "${VERSION}"
   WriteRegStr SHCTX "${UNINSTALL_KEY}" "DisplayIcon" "$INSTDIR\vantrel.exe,0"
@@ -120,20 +136,35 @@ Section
   Call OfferFileTypes
 SectionEnd
 
-Function un.onInit
-  Call un.ReadUsers
-  StrCpy $0 "$INSTDIR"
-  Call un.WaitUntilClosed
-FunctionEnd
-
-; What tells of another folder, where Vantrel is installed anew, stays.
-Section un.
-  ReadRegStr $0 SHCTX "${UNINSTALL_KEY}" "InstallLocation"
-  ${If} $0 == $INSTDIR
-    Call un.TakeBackFileTypes
+; What Windows is told of an installation, in the registry and the Start menu.
+!macro TakeBackEntries un
+  Function ${un}TakeBackEntries
+    Call ${un}TakeBackFileTypes
     Delete "$SMPROGRAMS\Vantrel.lnk"
     DeleteRegKey SHCTX "${UNINSTALL_KEY}"
     DeleteRegKey /ifempty SHCTX "${UNINSTALL_KEYS}"
+  FunctionEnd
+!macroend
+!insertmacro TakeBackEntries ""
+!insertmacro TakeBackEntries "un."
+
+Function un.onInit
+  StrCpy $1 $INSTDIR
+  Call un.FullFolder
+  StrCpy $INSTDIR $1
+  Call un.ReadUsers
+  StrCpy $0 "$INSTDIR"
+  Call un.WaitUntilClosed
+  Call un.TryFile
+  ${If} $1 == 0
+    !insertmacro Refuse "${UNWRITABLE}"
+  ${EndIf}
+FunctionEnd
+
+; What tells of another folder, where Vantrel stands, stays.
+Section un.
+  ${If} $IsRegistered > 0
+    Call un.TakeBackEntries
   ${EndIf}
   Call un.RemoveFiles
 SectionEnd
