@@ -81,7 +81,9 @@ TEST_F(Program, ShowsTheCurvesOfTheFileWhereTheyAreAskedFor) {
 }
 
 #ifdef _WIN32
-TEST_F(Program, TakesTheColoursOfADarkDesktop) {
+using ProgramOnADesktop = Program;
+
+TEST_F(ProgramOnADesktop, TakesItsColoursWhereTheyAreDark) {
   QSettings desktop(QStringLiteral("HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\"
                                    "CurrentVersion\\Themes\\Personalize"),
                     QSettings::NativeFormat);
