@@ -3,9 +3,7 @@
 // What the window does with files: the trials of a folder, those opened last, reports and tables
 // that are saved or printed, and the file of normals.
 
-#include <filesystem>
 #include <optional>
-#include <system_error>
 
 #include <QAction>
 #include <QEvent>
@@ -32,16 +30,7 @@
 
 namespace app {
 
-namespace fs = std::filesystem;
-
 namespace {
-
-// `path` as it leads to the file from any folder.
-std::string WholePath(const std::string& path) {
-  std::error_code failed;
-  const fs::path whole = fs::absolute(modAllPurpose::NativePath(path), failed);
-  return failed ? path : modAllPurpose::Utf8Path(whole);
-}
 
 // A path as a menu shows it, where "&" marks a letter.
 QString Caption(const std::string& path) {
@@ -67,7 +56,7 @@ std::optional<std::string> TableText(const ShownReport& report, const std::strin
 
 void MainWindow::FileWasOpened() {
   const std::string path = form_->OpenFileSpec();
-  if (!path.empty()) remembered_.AddRecentFile(WholePath(path));
+  if (!path.empty()) remembered_.AddRecentFile(modAllPurpose::WholePath(path));
   neighbours_ = {};
   status_->FileChanged(path);
   EnableActions();

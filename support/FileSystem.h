@@ -40,6 +40,11 @@ bool IsRegularFile(const std::string& path);
 // True when both paths lead to one file, be it under two names of its own.
 bool IsSameFile(const std::string& path, const std::string& other);
 
+// `path` as it leads to the file from any folder, also from a share or to a drive's own current
+// folder. What stands in it is not looked up, so that a POSIX system keeps its ".." and links.
+// Where the system cannot tell, `path` itself.
+std::string WholePath(const std::string& path);
+
 // One spelling for each file, whatever way its path is written, whether the file exists or not:
 // whole, without "." and "..", with links followed on a POSIX system and in one case on Windows.
 // Where the system cannot tell, `path` itself.

@@ -37,6 +37,12 @@ bool IsRegularFile(const std::string& path) {
   return fs::is_regular_file(path, failure);
 }
 
+std::string WholePath(const std::string& path) {
+  std::error_code failure;
+  const fs::path whole = fs::absolute(path, failure);
+  return failure ? path : whole.string();
+}
+
 std::string OneSpelling(const std::string& path) {
   std::error_code failure;
   const fs::path whole = fs::weakly_canonical(path, failure);

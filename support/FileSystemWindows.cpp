@@ -31,6 +31,15 @@ Text Converted(bool isEmpty, Convert&& convert) {
   return text;
 }
 
+// `path` as it leads to the file from any folder; empty where the system cannot tell.
+std::wstring Whole(const std::wstring& path) {
+  std::wstring whole(::GetFullPathNameW(path.c_str(), 0, nullptr, nullptr), L'\0');
+  const DWORD length =
+      ::GetFullPathNameW(path.c_str(), static_cast<DWORD>(whole.size()), whole.data(), nullptr);
+  whole.resize(length < whole.size() ? length : 0);
+  return whole;
+}
+
 // INVALID_FILE_ATTRIBUTES where there is nothing of that name or asking fails.
 DWORD AttributesOf(const std::string& path) {
   DWORD attributes = INVALID_FILE_ATTRIBUTES;
@@ -76,14 +85,15 @@ bool IsRegularFile(const std::string& path) {
   return FileExists(path) && IgnoringErrors([&] { file.Open(path); });
 }
 
+std::string WholePath(const std::string& path) {
+  const std::wstring whole = Whole(NativePath(path));
+  return whole.empty() ? path : Utf8Path(whole);
+}
+
 std::string OneSpelling(const std::string& path) {
-  const fs::path native = NativePath(path);
-  std::wstring whole(::GetFullPathNameW(native.c_str(), 0, nullptr, nullptr), L'\0');
-  const DWORD length =
-      ::GetFullPathNameW(native.c_str(), static_cast<DWORD>(whole.size()), whole.data(), nullptr);
-  if (length == 0 || length >= whole.size()) return path;
-  whole.resize(length);
-  ::CharUpperBuffW(whole.data(), length);
+  std::wstring whole = Whole(NativePath(path));
+  if (whole.empty()) return path;
+  ::CharUpperBuffW(whole.data(), static_cast<DWORD>(whole.size()));
   return Utf8Path(whole);
 }
 

@@ -138,6 +138,18 @@ TEST_F(WindowMemory, ATrialOfARelativePathIsRecentFromAnyFolder) {
   EXPECT_EQ(app::Remembered().RecentFiles()[0], (folder_ / "walk.c3d").string());
 }
 
+#ifdef _WIN32
+TEST_F(WindowMemory, ATrialOfAPathThatTheLibraryDoesNotKnowIsRecentAsItWasOpened) {
+  const std::string walk =
+      R"(\\?\)" + std::filesystem::path(WriteSampleWalk()).make_preferred().string();
+  Start(walk);
+  ASSERT_EQ(form_.OpenFileSpec(), walk);
+  ASSERT_EQ(app::Remembered().RecentFiles().size(), 1U);
+  EXPECT_EQ(app::Remembered().RecentFiles()[0], walk);
+  EXPECT_EQ(app::Remembered().LastFolder(), walk.substr(0, walk.size() - 8));
+}
+#endif
+
 TEST_F(WindowMemory, TheOpenDialogStartsInTheFolderOfTheLastRun) {
   std::filesystem::create_directory(folder_ / "visit 3");
   app::Remembered().AddRecentFile((folder_ / "visit 3/walk.c3d").string());

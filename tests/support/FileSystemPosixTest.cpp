@@ -61,6 +61,18 @@ TEST(RemoveFile, TakesALinkAwayAndLeavesItsFolder) {
   EXPECT_TRUE(fs::is_directory(folder / "folder"));
 }
 
+TEST(WholePath, StandsBehindTheCurrentFolderWithItsLinksAsTheyAreWritten) {
+  const tests::TemporaryFolder folder;
+  const fs::path before = fs::current_path();
+  fs::current_path(folder.Path());
+  const std::string here = fs::current_path().string();
+  EXPECT_EQ(modAllPurpose::WholePath("a.c3d"), here + "/a.c3d");
+  EXPECT_EQ(modAllPurpose::WholePath("link/../a.c3d"), here + "/link/../a.c3d");
+  EXPECT_EQ(modAllPurpose::WholePath("/data/m\xFCller.c3d"), "/data/m\xFCller.c3d");
+  EXPECT_EQ(modAllPurpose::WholePath(""), "");
+  fs::current_path(before);
+}
+
 TEST(OneSpelling, IsThatOfTheFileALinkLeadsTo) {
   const tests::TemporaryFolder folder;
   modAllPurpose::WriteNewFile((folder / "file").string(), {});

@@ -108,6 +108,28 @@ TEST(WindowsPaths, ThatAreNoUnicodeAreAnAccessError) {
   EXPECT_FALSE(FileExists("C:\\\xFF.c3d"));
 }
 
+TEST(WindowsPaths, ThatAreWholeStayAsTheyAre) {
+  for (const std::string path :
+       {"\\\\server\\share\\a.c3d", "\\\\server\\share\\M\xC3\xBCller\\walk.c3d",
+        "\\\\?\\C:\\x\\a.c3d", "\\\\?\\UNC\\server\\share\\a.c3d", "C:\\x\\a.c3d"}) {
+    EXPECT_EQ(modAllPurpose::WholePath(path), path);
+  }
+}
+
+TEST(WindowsPaths, BecomeWholeByTheCurrentFolderOfTheirDrive) {
+  const tests::TemporaryFolder folder;
+  const std::string path = Utf8Path(fs::path(folder.Path()).make_preferred());
+  const std::string drive = path.substr(0, 2);
+  const fs::path before = fs::current_path();
+  fs::current_path(folder.Path());
+  EXPECT_EQ(modAllPurpose::WholePath("a.c3d"), path + "\\a.c3d");
+  EXPECT_EQ(modAllPurpose::WholePath("x/../a.c3d"), path + "\\a.c3d");
+  EXPECT_EQ(modAllPurpose::WholePath(drive + "a.c3d"), path + "\\a.c3d");
+  EXPECT_EQ(modAllPurpose::WholePath("\\a.c3d"), drive + "\\a.c3d");
+  EXPECT_EQ(modAllPurpose::WholePath(""), "");
+  fs::current_path(before);
+}
+
 TEST(WindowsPaths, HaveTheirOwnNameBehindEitherSeparatorOrTheDrive) {
   EXPECT_EQ(modAllPurpose::OwnName(R"(D:\gait/trials\walk.c3d)"), "walk.c3d");
   EXPECT_EQ(modAllPurpose::OwnName("D:walk.c3d"), "walk.c3d");
