@@ -2,8 +2,6 @@
 
 // The status of the open trial, and what its menu chooses.
 
-#include <filesystem>
-
 #include <QAction>
 
 #include "app/MainWindow.h"
@@ -16,7 +14,7 @@
 #include "app/modMsgBoxPlus.h"
 #include "c3d/ParamCatalog.h"
 #include "gait/SubjectFile.h"
-#include "support/FileSystem.h"
+#include "support/RuntimeError.h"
 
 namespace app {
 
@@ -69,14 +67,12 @@ void MainWindow::EditSubject() {
 
 void MainWindow::OfferToKeep(const std::vector<modVantrel::SubjectEntry>& entries) {
   const std::string trial = form_->OpenFileSpec();
-  const std::string file = modAllPurpose::Utf8Path(modAllPurpose::NativePath(trial).parent_path() /
-                                                   modVantrel::kSubjectFileName);
   const QString keep = tr("Keep");
   const QString answer = modMsgBoxPlus::MsgBoxPlus(
       this, modMsgBoxPlus::kOkCancel, QStringLiteral("Vantrel"),
       tr("What was entered holds for this trial until the program ends.  Keep it in '%1', for all "
          "trials of the folder that do not say it themselves?  What else that file holds stays.")
-          .arg(ToQString(file)),
+          .arg(ToQString(modVantrel::SubjectFileOf(trial))),
       modMsgBoxPlus::kQuestionIcon, keep, tr("Do Not Keep"), {}, 0);
   if (answer != keep) return;
   try {

@@ -2,16 +2,17 @@
 
 #include "app/TrialFolder.h"
 
-#include <filesystem>
-#include <system_error>
+#include <string_view>
 
 #include "c3d/TrialFiles.h"
 #include "support/FileSystem.h"
+#include "support/FolderEntries.h"
 #include "support/RuntimeError.h"
 
 namespace app {
 
-namespace fs = std::filesystem;
+using modAllPurpose::EntryKind;
+using modAllPurpose::FolderEntry;
 
 namespace {
 
@@ -21,18 +22,23 @@ void Consider(const std::string& name, std::string_view own, Neighbours& names) 
   if (name > own && (names.Next.empty() || name < names.Next)) names.Next = name;
 }
 
+bool IsFile(const FolderEntry& entry, const std::string& folderPart) {
+  const EntryKind kind = entry.Kind == EntryKind::Link
+                             ? modAllPurpose::KindBehindLinks(folderPart + entry.Name)
+                             : entry.Kind;
+  return kind == EntryKind::File;
+}
+
 Neighbours NamesBeside(const std::string& path) {
   Neighbours names;
   const std::string_view own = modAllPurpose::OwnName(path);
-  const fs::path folder = modAllPurpose::NativePath(std::string(modAllPurpose::FolderOf(path)));
-  std::error_code failed;
-  for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end;
-       entry.increment(failed)) {
-    const std::string name = modAllPurpose::Utf8Path(entry->path().filename());
-    std::error_code ignored;
-    if (modVantrel::IsTrialName(name) && entry->is_regular_file(ignored))
-      Consider(name, own, names);
-  }
+  const std::string part(modAllPurpose::FolderPart(path));
+  const std::string folder(modAllPurpose::FolderOf(path));
+  modAllPurpose::ForEachEntry(folder, [&](const FolderEntry& entry) {
+    if (modVantrel::IsTrialName(entry.Name) && IsFile(entry, part)) {
+      Consider(entry.Name, own, names);
+    }
+  });
   return names;
 }
 

@@ -3,17 +3,16 @@
 #include "c3d/TrialFiles.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <map>
-#include <system_error>
 #include <utility>
 
 #include "support/FileSystem.h"
+#include "support/FolderEntries.h"
 
 namespace modVantrel {
 
-namespace fs = std::filesystem;
-
+using modAllPurpose::EntryKind;
+using modAllPurpose::FolderEntry;
 using modAllPurpose::RuntimeError;
 
 namespace {
@@ -21,21 +20,19 @@ namespace {
 // Whether an entry of a folder is a folder, a trial, or nothing that matters.
 enum class Kind { Folder, Trial, Other };
 
-// By what the folder itself says of it, where it says that: what lies in it may be out of reach.
-Kind KindOf(const fs::directory_entry& entry, const std::string& name) {
-  std::error_code ignored;
-  if (!entry.is_symlink(ignored) && entry.is_directory(ignored)) return Kind::Folder;
-  if (!IsTrialName(name)) return Kind::Other;
-  if (entry.is_regular_file(ignored)) return Kind::Trial;
-  const fs::file_type type = entry.status(ignored).type();
-  const bool canBeOpened = type == fs::file_type::regular || type == fs::file_type::not_found ||
-                           type == fs::file_type::unknown || type == fs::file_type::none;
-  return canBeOpened ? Kind::Trial : Kind::Other;
-}
-
 std::string Below(const std::string& folder, const std::string& name) {
   return folder.size() == modAllPurpose::FolderPart(folder).size() ? folder + name
                                                                    : folder + '/' + name;
+}
+
+Kind KindOf(const FolderEntry& entry, const std::string& folder) {
+  if (entry.Kind == EntryKind::Folder) return Kind::Folder;
+  if (!IsTrialName(entry.Name)) return Kind::Other;
+  const EntryKind kind = entry.Kind == EntryKind::Link
+                             ? modAllPurpose::KindBehindLinks(Below(folder, entry.Name))
+                             : entry.Kind;
+  const bool canBeOpened = kind == EntryKind::File || kind == EntryKind::Unknown;
+  return canBeOpened ? Kind::Trial : Kind::Other;
 }
 
 class Search {
@@ -70,14 +67,10 @@ class Search {
   }
 
   static void ReadNames(const std::string& folder, Names& names) {
-    std::error_code failed;
-    for (fs::directory_iterator entry(modAllPurpose::NativePath(folder), failed), end;
-         !failed && entry != end; entry.increment(failed)) {
-      const std::string name = modAllPurpose::Utf8Path(entry->path().filename());
-      const Kind kind = KindOf(*entry, name);
-      if (kind != Kind::Other) names.emplace(name, kind);
-    }
-    if (failed) throw modAllPurpose::FileErrorFromCode(failed);
+    modAllPurpose::ForEachEntry(folder, [&](const FolderEntry& entry) {
+      const Kind kind = KindOf(entry, folder);
+      if (kind != Kind::Other) names.emplace(entry.Name, kind);
+    });
   }
 
   const UnreadFolder& tell_;

@@ -6,7 +6,6 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <io.h>
-#include <memory>
 #include <shlwapi.h>
 #include <windows.h>
 
@@ -14,17 +13,12 @@
 #include "support/FileSystem.h"
 #include "support/Interruption.h"
 #include "support/WindowsError.h"
+#include "support/WindowsHandle.h"
 #include "support/WindowsText.h"
 
 namespace console {
 
 namespace {
-
-// A search for names; closing one that the system refused does nothing.
-struct CloseSearch {
-  void operator()(HANDLE search) const { ::FindClose(search); }
-};
-using Search = std::unique_ptr<void, CloseSearch>;
 
 // The user's console, whose code page is put back when the tool ends, by itself or by its user.
 UINT codePageBefore = 0;
@@ -64,7 +58,8 @@ std::vector<std::string> WithoutWildcards(const std::string& file) {
   const auto nameStart = file.find_last_of("/\\:") + 1;
   if (file.find_first_of("*?", nameStart) == std::string::npos) return {file};
   WIN32_FIND_DATAW found{};
-  const Search search(::FindFirstFileW(modAllPurpose::NativePath(file).c_str(), &found));
+  const modAllPurpose::OpenSearch search(
+      ::FindFirstFileW(modAllPurpose::NativePath(file).c_str(), &found));
   if (search.get() == INVALID_HANDLE_VALUE) {
     const DWORD failure = ::GetLastError();
     if (failure == ERROR_FILE_NOT_FOUND || failure == ERROR_PATH_NOT_FOUND) return {file};

@@ -5,6 +5,7 @@
 #include "deploy/FileTimes.h"
 #include "support/FileSystem.h"
 #include "support/WindowsError.h"
+#include "support/WindowsHandle.h"
 
 namespace modWindowsFileInfo {
 
@@ -14,23 +15,19 @@ namespace {
 constexpr Tick kCalendarStart =
     std::chrono::local_days(std::chrono::year(1601) / 1 / 1).time_since_epoch();
 
-// The handle of a file that is open for its times alone.
+// A file that is open for its times alone.
 class FileForTimes {
  public:
   FileForTimes(const std::string& path, DWORD access)
-      : handle_(::CreateFileW(modAllPurpose::NativePath(path).c_str(), access,
-                              FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                              OPEN_EXISTING, 0, nullptr)) {
-    if (handle_ == INVALID_HANDLE_VALUE) throw modAllPurpose::LastFileError();
+      : file_(::CreateFileW(modAllPurpose::NativePath(path).c_str(), access,
+                            modAllPurpose::kShareAll, nullptr, OPEN_EXISTING, 0, nullptr)) {
+    if (!file_.IsOpen()) throw modAllPurpose::LastFileError();
   }
-  FileForTimes(const FileForTimes&) = delete;
-  FileForTimes& operator=(const FileForTimes&) = delete;
-  ~FileForTimes() { ::CloseHandle(handle_); }
 
-  HANDLE Handle() const { return handle_; }
+  HANDLE Handle() const { return file_.Get(); }
 
  private:
-  HANDLE handle_;
+  modAllPurpose::OpenHandle file_;
 };
 
 LocalTime FromSystem(const FILETIME& universal) {

@@ -8,10 +8,12 @@
 
 #include "support/FileSystem.h"
 #include "support/WindowsError.h"
+#include "support/WindowsText.h"
 
 namespace deploy {
 
 using modAllPurpose::NativePath;
+using modAllPurpose::Utf16Text;
 
 namespace {
 
@@ -42,14 +44,14 @@ WindowsHost::WindowsHost(MessageShower showMessage)
     : SystemHost(PathOfThisProgram(), std::move(showMessage)) {}
 
 std::string WindowsHost::LowerCase(const std::string& text) const {
-  std::wstring lower = NativePath(text).native();
+  std::wstring lower = Utf16Text(text);
   ::CharLowerBuffW(lower.data(), static_cast<DWORD>(lower.size()));
-  return modAllPurpose::Utf8Path(lower);
+  return modAllPurpose::Utf8Text(lower);
 }
 
 std::span<const std::byte> WindowsHost::Resource(const std::string& type,
                                                  const std::string& name) const {
-  const HRSRC found = ::FindResourceW(nullptr, NativePath(name).c_str(), NativePath(type).c_str());
+  const HRSRC found = ::FindResourceW(nullptr, Utf16Text(name).c_str(), Utf16Text(type).c_str());
   const HGLOBAL loaded = found == nullptr ? nullptr : ::LoadResource(nullptr, found);
   if (loaded == nullptr) {
     throw modAllPurpose::RuntimeError(modAllPurpose::ErrorNumber::FileNotFound);

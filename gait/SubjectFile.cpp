@@ -60,12 +60,15 @@ std::string Decoded(std::string_view bytes) {
 
 }  // namespace
 
+std::string SubjectFileOf(const std::string& trial) {
+  return std::string(modAllPurpose::FolderPart(trial)).append(kSubjectFileName);
+}
+
 std::string ReadSubjectFile(const std::string& trial) {
   std::string text;
   modAllPurpose::IgnoringErrors([&] {
-    const auto folder = modAllPurpose::NativePath(trial).parent_path();
     modAllPurpose::RandomAccessFile file;
-    file.Open(modAllPurpose::Utf8Path(folder / kSubjectFileName));
+    file.Open(SubjectFileOf(trial));
     std::string bytes(kLargestSubjectFile + 1, '\0');
     bytes.resize(file.ReadAt(0, std::as_writable_bytes(std::span(bytes))));
     text = SubjectFileText(bytes);

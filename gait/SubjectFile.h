@@ -13,6 +13,9 @@ inline constexpr std::string_view kSubjectFileName = "subject.ini";
 // How much of a subject file is read.
 inline constexpr std::size_t kLargestSubjectFile = std::size_t{64} * 1024;
 
+// The path of that file for the trial at the path `trial`, written as that is.
+std::string SubjectFileOf(const std::string& trial);
+
 // The text of the file "subject.ini" in the folder of `trial`; empty where it cannot be read.
 std::string ReadSubjectFile(const std::string& trial);
 

@@ -3,7 +3,6 @@
 #include "gait/SubjectFileEdit.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <span>
 
 #include "gait/SubjectFile.h"
@@ -159,8 +158,7 @@ std::string WithSubjectEntries(std::string_view bytes, const std::vector<Subject
 }
 
 void KeepInSubjectFile(const std::string& trial, const std::vector<SubjectEntry>& entries) {
-  const auto folder = modAllPurpose::NativePath(trial).parent_path();
-  const std::string file = modAllPurpose::Utf8Path(folder / kSubjectFileName);
+  const std::string file = SubjectFileOf(trial);
   std::string text;
   try {
     text = WithSubjectEntries(BytesOf(file), entries);

@@ -6,10 +6,8 @@
 #include <chrono>
 #include <cmath>
 #include <ctime>
-#include <filesystem>
 #include <set>
 #include <string_view>
-#include <system_error>
 #include <utility>
 
 #include <fmt/chrono.h>
@@ -35,12 +33,9 @@ namespace {
 
 // The day on which the file was last written, in the time of this computer.
 std::string DateOfFile(const std::string& name) {
-  std::error_code error;
-  const auto written = std::filesystem::last_write_time(modAllPurpose::NativePath(name), error);
-  if (error) return {};
-  const auto time = std::chrono::file_clock::to_sys(written);
-  const std::time_t seconds = std::chrono::system_clock::to_time_t(
-      std::chrono::time_point_cast<std::chrono::system_clock::duration>(time));
+  const auto written = modAllPurpose::LastWritten(name);
+  if (!written) return {};
+  const std::time_t seconds = std::chrono::system_clock::to_time_t(*written);
   try {
     return fmt::format("{:%Y-%m-%d}", fmt::localtime(seconds));
   } catch (const fmt::format_error&) {

@@ -11,6 +11,7 @@
 #include "support/RuntimeError.h"
 #include "support/WindowsError.h"
 #include "support/WindowsHandle.h"
+#include "support/WindowsPath.h"
 
 namespace modAllPurpose {
 
@@ -24,22 +25,6 @@ struct FileRights {
 namespace {
 
 constexpr int kAttempts = 100;
-constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-
-class OpenHandle {
- public:
-  explicit OpenHandle(HANDLE handle) : handle_(handle) {}
-  OpenHandle(const OpenHandle&) = delete;
-  OpenHandle& operator=(const OpenHandle&) = delete;
-  ~OpenHandle() {
-    if (IsOpen()) ::CloseHandle(handle_);
-  }
-  bool IsOpen() const { return handle_ != INVALID_HANDLE_VALUE; }
-  HANDLE Get() const { return handle_; }
-
- private:
-  HANDLE handle_;
-};
 
 RuntimeError Refusal(const fs::path& name, const char* reason) {
   return {ErrorNumber::PathFileAccessError, Utf8Path(name) + reason};
@@ -144,7 +129,7 @@ FileInWaiting::FileInWaiting(const fs::path& folder, std::string_view text,
 
 void FileInWaiting::MakeNamed(const fs::path& folder, const FileToReplace* old) {
   for (int i = 0; i < kAttempts; ++i) {
-    name_ = NameInWaiting(folder);
+    name_ = OfAnyLength(NameInWaiting(folder));
     const HANDLE file = Create(name_, old);
     handle_ = reinterpret_cast<std::intptr_t>(file);
     if (file != INVALID_HANDLE_VALUE) return;

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <filesystem>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -49,6 +51,9 @@ std::string WholePath(const std::string& path);
 // whole, without "." and "..", with links followed on a POSIX system and in one case on Windows.
 // Where the system cannot tell, `path` itself.
 std::string OneSpelling(const std::string& path);
+
+// When the file that `path` leads to was last written; nothing where there is none or asking fails.
+std::optional<std::chrono::system_clock::time_point> LastWritten(const std::string& path);
 
 // Deletes the file at `path`; Windows keeps no file because it is read-only. Error 53 where there
 // is none, 70 or 75 where it cannot be deleted or is a folder.

@@ -49,6 +49,14 @@ std::string OneSpelling(const std::string& path) {
   return failure ? path : whole.string();
 }
 
+std::optional<std::chrono::system_clock::time_point> LastWritten(const std::string& path) {
+  std::error_code failure;
+  const auto written = fs::last_write_time(path, failure);
+  if (failure) return std::nullopt;
+  return std::chrono::time_point_cast<std::chrono::system_clock::duration>(
+      std::chrono::file_clock::to_sys(written));
+}
+
 void RemoveFile(const std::string& path) {
   if (::unlink(path.c_str()) != 0) throw FileErrorFromErrno(errno);
 }

@@ -11,6 +11,9 @@
 #include "support/RandomAccessFile.h"
 #include "support/SystemFiles.h"
 #include "support/WindowsError.h"
+#include "support/WindowsHandle.h"
+#include "support/WindowsPath.h"
+#include "support/WindowsText.h"
 
 // The system itself is asked here rather than the library, which does not know the paths that begin
 // "\\server" or "\\?".
@@ -19,26 +22,6 @@ namespace modAllPurpose {
 namespace fs = std::filesystem;
 
 namespace {
-
-// What a conversion of the system makes: the characters in whatever place it is told to fill. The
-// first call only counts them.
-template <typename Text, typename Convert>
-Text Converted(bool isEmpty, Convert&& convert) {
-  if (isEmpty) return {};
-  Text text(static_cast<std::size_t>(convert(nullptr, 0)), '\0');
-  if (text.empty()) throw RuntimeError(ErrorNumber::PathFileAccessError);
-  convert(text.data(), static_cast<int>(text.size()));
-  return text;
-}
-
-// `path` as it leads to the file from any folder; empty where the system cannot tell.
-std::wstring Whole(const std::wstring& path) {
-  std::wstring whole(::GetFullPathNameW(path.c_str(), 0, nullptr, nullptr), L'\0');
-  const DWORD length =
-      ::GetFullPathNameW(path.c_str(), static_cast<DWORD>(whole.size()), whole.data(), nullptr);
-  whole.resize(length < whole.size() ? length : 0);
-  return whole;
-}
 
 // INVALID_FILE_ATTRIBUTES where there is nothing of that name or asking fails.
 DWORD AttributesOf(const std::string& path) {
@@ -53,19 +36,10 @@ RuntimeError LastFileError() {
   return FileErrorFromCode({static_cast<int>(::GetLastError()), std::system_category()});
 }
 
-fs::path NativePath(const std::string& utf8Path) {
-  return Converted<std::wstring>(utf8Path.empty(), [&](wchar_t* into, int size) {
-    return ::MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, utf8Path.data(),
-                                 static_cast<int>(utf8Path.size()), into, size);
-  });
-}
+fs::path NativePath(const std::string& utf8Path) { return OfAnyLength(Utf16Text(utf8Path)); }
 
 std::string Utf8Path(const fs::path& nativePath) {
-  const std::wstring& native = nativePath.native();
-  return Converted<std::string>(native.empty(), [&](char* into, int size) {
-    return ::WideCharToMultiByte(CP_UTF8, WC_ERR_INVALID_CHARS, native.data(),
-                                 static_cast<int>(native.size()), into, size, nullptr, nullptr);
-  });
+  return Utf8Text(nativePath.native(), HalfCharacters::Refused);
 }
 
 bool FileExists(const std::string& path) {
@@ -86,15 +60,32 @@ bool IsRegularFile(const std::string& path) {
 }
 
 std::string WholePath(const std::string& path) {
-  const std::wstring whole = Whole(NativePath(path));
+  const std::wstring whole = WholeWindowsPath(Utf16Text(path));
   return whole.empty() ? path : Utf8Path(whole);
 }
 
 std::string OneSpelling(const std::string& path) {
-  std::wstring whole = Whole(NativePath(path));
+  std::wstring whole = WholeWindowsPath(Utf16Text(path));
   if (whole.empty()) return path;
   ::CharUpperBuffW(whole.data(), static_cast<DWORD>(whole.size()));
   return Utf8Path(whole);
+}
+
+std::optional<std::chrono::system_clock::time_point> LastWritten(const std::string& path) {
+  std::wstring native;
+  if (!IgnoringErrors([&] { native = NativePath(path); })) return std::nullopt;
+  const OpenHandle file(::CreateFileW(native.c_str(), FILE_READ_ATTRIBUTES, kShareAll, nullptr,
+                                      OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+  FILETIME written{};
+  if (!file.IsOpen() || ::GetFileTime(file.Get(), nullptr, nullptr, &written) == 0) {
+    return std::nullopt;
+  }
+  // Counted in tenths of a microsecond from the first day of the system's calendar.
+  using Tick = std::chrono::duration<std::int64_t, std::ratio<1, 10'000'000>>;
+  constexpr std::chrono::sys_days kStart = std::chrono::year(1601) / 1 / 1;
+  const auto high = static_cast<std::int64_t>(written.dwHighDateTime);
+  const Tick ticks((high << 32) + static_cast<std::int64_t>(written.dwLowDateTime));
+  return std::chrono::time_point_cast<std::chrono::system_clock::duration>(kStart + ticks);
 }
 
 void RemoveFile(const std::string& path) {

@@ -27,9 +27,8 @@ void RandomAccessFile::Open(const std::string& path) {
   if (path.empty()) throw RuntimeError(ErrorNumber::FileNotFound);
   // Others may go on writing to the file, or delete it. Only with the backup flag is a folder
   // opened at all, and then refused as one.
-  const HANDLE handle = ::CreateFileW(NativePath(path).c_str(), GENERIC_READ,
-                                      FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                                      nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+  const HANDLE handle = ::CreateFileW(NativePath(path).c_str(), GENERIC_READ, kShareAll, nullptr,
+                                      OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
   if (handle == INVALID_HANDLE_VALUE) throw LastFileError();
   handle_ = reinterpret_cast<std::intptr_t>(handle);
   if (!IsRegularFile(handle)) {

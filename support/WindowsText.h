@@ -2,11 +2,17 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
+// Texts of the system, which are UTF-16, and of the program, which are UTF-8. On Windows only.
 namespace modAllPurpose {
 
-// `text` of the system, ended by a NUL, in UTF-8, with a mark in place of what is no UTF-16. On
-// Windows only.
-std::string Utf8Text(const wchar_t* text);
+// What becomes of half a character: a mark in its place, or error 75 for the text.
+enum class HalfCharacters { Marked, Refused };
+
+std::string Utf8Text(std::wstring_view text, HalfCharacters halves = HalfCharacters::Marked);
+
+// Error 75 where `utf8` is no UTF-8.
+std::wstring Utf16Text(std::string_view utf8);
 
 }  // namespace modAllPurpose

@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include "support/FileSystem.h"
+#include "support/WindowsText.h"
 #include "tests/TestTrials.h"
 #include "tests/cli/ToolRun.h"
 
@@ -45,7 +46,7 @@ HANDLE PipeWithoutReader() {
 std::wstring Quoted(const std::string& word) {
   std::wstring quoted = L"\"";
   std::size_t backslashes = 0;
-  for (const wchar_t letter : std::wstring(modAllPurpose::NativePath(word))) {
+  for (const wchar_t letter : modAllPurpose::Utf16Text(word)) {
     if (letter == L'"') quoted.append(backslashes + 1, L'\\');
     backslashes = letter == L'\\' ? backslashes + 1 : 0;
     quoted += letter;

@@ -13,8 +13,10 @@
 
 #include "console/Start.h"
 #include "gait/GcdFiles.h"
+#include "sample/SampleWalk.h"
 #include "sample/TrialBuilder.h"
 #include "support/FileSystem.h"
+#include "tests/DeepFolder.h"
 #include "tests/TestTrials.h"
 #include "tests/cli/ToolRun.h"
 
@@ -32,12 +34,16 @@ class ToolOnWindows : public testing::Test {
     sample::TrialBuilder().Build().WriteTo(folder_ / name);
   }
 
+  static std::vector<std::string> HeadingsOf(const std::string& output) {
+    std::vector<std::string> headings = tests::LinesOf(output);
+    std::erase_if(headings, [](const auto& line) { return !line.starts_with("==> "); });
+    return headings;
+  }
+
   // The heading of each file that a run on `patterns` reported on.
   std::vector<std::string> FilesOf(std::vector<std::string> patterns) const {
     patterns.insert(patterns.begin(), "groups");
-    std::vector<std::string> headings = tests::LinesOf(RunTool(patterns, {}, folder_.Path()).Out);
-    std::erase_if(headings, [](const auto& line) { return !line.starts_with("==> "); });
-    return headings;
+    return HeadingsOf(RunTool(patterns, {}, folder_.Path()).Out);
   }
 
   tests::TemporaryFolder folder_;
@@ -109,14 +115,21 @@ TEST_F(ToolOnWindows, IsReadyForLongPaths) {
   ::FreeLibrary(tool);
 }
 
-TEST_F(ToolOnWindows, ReadsAFileBehindALongPathWhereTheSystemLetsOneBeMade) {
-  fs::path folder = folder_.Path();
-  for (int k = 0; k < 6; ++k) folder /= std::string(60, 'x');
-  std::error_code failure;
-  fs::create_directories(folder, failure);
-  if (failure) GTEST_SKIP() << "no long paths for this program";
-  sample::TrialBuilder().Build().WriteTo(folder / "walk.c3d");
-  EXPECT_EQ(RunTool({"groups", (folder / "walk.c3d").string()}).Status, 0);
+TEST_F(ToolOnWindows, FindsReadsAndWritesBehindALongPathWithoutASettingOfTheSystem) {
+  const tests::DeepFolder deep;
+  tests::MakeFolder(deep / "visit");
+  const std::vector<std::string> trials = {deep.Path() + "/a.c3d", deep.Path() + "/visit/b.c3d"};
+  for (const std::string& trial : trials) {
+    sample::SampleWalk().Build().WriteTo(modAllPurpose::NativePath(trial));
+  }
+  const ToolResult found = RunTool({"measures", "--recursive", deep.Path()}, {}, folder_.Path());
+  EXPECT_EQ(found.Status, 0) << found.Err;
+  EXPECT_THAT(HeadingsOf(found.Out),
+              ElementsAre("==> " + trials[0] + " <==", "==> " + trials[1] + " <=="));
+  EXPECT_EQ(RunTool({"gcd", trials[0]}).Status, 0);
+  EXPECT_TRUE(modAllPurpose::FileExists(deep / "a-L1.gcd"));
+  EXPECT_EQ(RunTool({"gcd", "--overwrite", trials[0]}).Status, 0);
+  EXPECT_THAT(HeadingsOf(RunTool({"groups", deep / "*.c3d", trials[1]}).Out), testing::SizeIs(2));
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <chrono>
 #include <cstddef>
 #include <filesystem>
 #include <fstream>
@@ -143,6 +144,16 @@ TEST_F(WritingFiles, AFileIsTheSameUnderASecondName) {
   EXPECT_TRUE(modAllPurpose::IsSameFile(Path("file"), Path("second")));
   EXPECT_FALSE(modAllPurpose::IsSameFile(Path("file"), Path("other")));
   EXPECT_FALSE(modAllPurpose::IsSameFile(Path("missing"), Path("missing")));
+}
+
+TEST_F(WritingFiles, AFileKnowsWhenItWasLastWritten) {
+  Write("file", "text");
+  const std::chrono::sys_seconds day = std::chrono::sys_days(std::chrono::year(2026) / 2 / 28);
+  fs::last_write_time(folder_ / "file", std::chrono::file_clock::from_sys(day));
+  const auto written = modAllPurpose::LastWritten(Path("file"));
+  ASSERT_TRUE(written);
+  EXPECT_EQ(*written, day);
+  EXPECT_FALSE(modAllPurpose::LastWritten(Path("missing")));
 }
 
 TEST(FolderOf, IsThePathInFrontOfTheOwnName) {

@@ -11,6 +11,8 @@
 
 #include "support/FileSystem.h"
 #include "support/WholeFiles.h"
+#include "support/WindowsText.h"
+#include "tests/DeepFolder.h"
 #include "tests/TestTrials.h"
 
 namespace {
@@ -18,6 +20,7 @@ namespace {
 namespace fs = std::filesystem;
 using modAllPurpose::FileExists;
 using modAllPurpose::NativePath;
+using modAllPurpose::Utf16Text;
 using modAllPurpose::Utf8Path;
 using modAllPurpose::WriteFileInOneStep;
 using modAllPurpose::WriteNewFile;
@@ -128,6 +131,43 @@ TEST(WindowsPaths, BecomeWholeByTheCurrentFolderOfTheirDrive) {
   EXPECT_EQ(modAllPurpose::WholePath("\\a.c3d"), drive + "\\a.c3d");
   EXPECT_EQ(modAllPurpose::WholePath(""), "");
   fs::current_path(before);
+}
+
+TEST(WindowsPaths, ThatAreLongReachTheSystemWholeAndAsTheyStand) {
+  const std::string deep = "C:\\" + std::string(130, 'x') + '\\' + std::string(130, 'y');
+  EXPECT_EQ(NativePath(deep), Utf16Text(R"(\\?\)" + deep));
+  EXPECT_EQ(NativePath(R"(\\?\)" + deep), Utf16Text(R"(\\?\)" + deep));
+  EXPECT_EQ(NativePath(deep + "/x/../a.c3d"), Utf16Text(R"(\\?\)" + deep + R"(\a.c3d)"));
+  EXPECT_EQ(NativePath(R"(\\server\)" + deep.substr(3)),
+            Utf16Text(R"(\\?\UNC\server\)" + deep.substr(3)));
+  const std::string name(250, 'z');
+  EXPECT_EQ(NativePath(name),
+            Utf16Text(R"(\\?\)" + Utf8Path(fs::current_path().make_preferred()) + '\\' + name));
+}
+
+TEST(WindowsPaths, ThatAreShortReachTheSystemAsTheyAreWritten) {
+  for (const std::string path : {"", "a.c3d", "x/../a.c3d", "C:a.c3d", "C:\\x/a.c3d",
+                                 "\\\\server\\share\\a.c3d", "NUL", "\\\\?\\C:\\x\\a.c3d"}) {
+    EXPECT_EQ(NativePath(path), Utf16Text(path));
+  }
+  EXPECT_EQ(NativePath("\\\\?\\C:\\x/a.c3d"), L"\\\\?\\C:\\x\\a.c3d");
+}
+
+TEST_F(WindowsFiles, AreWrittenReplacedAndRemovedBehindALongPath) {
+  const tests::DeepFolder deep;
+  const std::string path = deep / "file";
+  WriteNewFile(path, kContents);
+  EXPECT_TRUE(FileExists(path));
+  EXPECT_TRUE(modAllPurpose::IsFolder(deep.Path()));
+  EXPECT_TRUE(modAllPurpose::LastWritten(path));
+  WriteFileInOneStep(path, "second");
+  EXPECT_EQ(ReadWholeFile(NativePath(path)), "second");
+  EXPECT_TRUE(modAllPurpose::WriteFileWhereFree(deep / "new", "text"));
+  EXPECT_FALSE(modAllPurpose::WriteFileWhereFree(deep / "new", "other"));
+  EXPECT_TRUE(modAllPurpose::IsSameFile(path, deep / "FILE"));
+  EXPECT_EQ(modAllPurpose::OneSpelling(path), modAllPurpose::OneSpelling(deep / "FILE"));
+  modAllPurpose::RemoveFile(path);
+  EXPECT_FALSE(FileExists(path));
 }
 
 TEST(WindowsPaths, HaveTheirOwnNameBehindEitherSeparatorOrTheDrive) {
