@@ -12,6 +12,7 @@
 #include "app/CaptionButton.h"
 #include "app/CurvesWindow.h"
 #include "app/ManualWindow.h"
+#include "app/NeighbourSearch.h"
 #include "app/OutputPane.h"
 #include "app/QtText.h"
 #include "app/StatusLine.h"
@@ -33,6 +34,7 @@ MainWindow::MainWindow(modVantrel::FileState& state)
     : state_(state),
       form_(new frmVantrel(state)),
       recent_(new QMenu(this)),
+      search_(new NeighbourSearch(NeighboursOf, this)),
       status_(new TrialStatus(form_->Status(), state, reports::CheckFile, this)) {
   setObjectName(QStringLiteral("MainWindow"));
   setCentralWidget(form_);
@@ -43,6 +45,7 @@ MainWindow::MainWindow(modVantrel::FileState& state)
   connect(this, &MainWindow::CurvesAsked, this, &MainWindow::ShowCurves);
   connect(this, &MainWindow::NormalsChanged, this, &MainWindow::CompareCurves);
   connect(form_, &frmVantrel::ReportChanged, this, &MainWindow::EnableActions);
+  connect(search_, &NeighbourSearch::Found, this, &MainWindow::TakeNeighbours);
   // A file that is dropped on the menu bar is for the form too.
   setAcceptDrops(true);
   installEventFilter(form_);

@@ -23,6 +23,7 @@ namespace app {
 class CurvesWindow;
 class frmVantrel;
 class ManualWindow;
+class NeighbourSearch;
 class TrialStatus;
 
 // The program's window: the form as its client area, and the menus above it. Its title is the
@@ -43,6 +44,8 @@ class MainWindow : public QMainWindow {
   frmVantrel& Form() { return *form_; }
   // Whether the checkup of the open trial is still to come.
   bool IsChecking() const;
+  // Whether the trials beside the open one are still looked for.
+  bool IsLookingAround() const;
 
   // The window of curves; null as long as nobody has asked for a page.
   CurvesWindow* Curves() { return curves_.get(); }
@@ -97,7 +100,11 @@ class MainWindow : public QMainWindow {
 
   void FillRecentFiles();
   void FileWasOpened();
+  // Looks for the trials beside the one that was asked for, beside the window.
   void LookAround();
+  void TakeNeighbours(const Neighbours& neighbours);
+  // The same at once, for who waits for one of them anyway.
+  Neighbours NeighboursNow();
   void RememberState();
   // A path without an ending for what is saved of the open trial.
   QString ProposedName(std::string_view what) const;
@@ -108,6 +115,7 @@ class MainWindow : public QMainWindow {
   std::unique_ptr<CurvesWindow> curves_;
   QMenu* recent_;
   Neighbours neighbours_;
+  NeighbourSearch* search_;
   TrialStatus* status_;
   std::unique_ptr<ManualWindow> manual_;  // once it was asked for
 };

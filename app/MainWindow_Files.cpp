@@ -14,6 +14,7 @@
 
 #include "app/MainWindow.h"
 #include "app/MessageBoxes.h"
+#include "app/NeighbourSearch.h"
 #include "app/OutputPane.h"
 #include "app/PrinterChoice.h"
 #include "app/QtText.h"
@@ -67,9 +68,21 @@ void MainWindow::FileWasOpened() {
 void MainWindow::LookAround() {
   // A damaged trial is no end of the folder.
   const std::string& path = form_->AskedFileSpec();
-  neighbours_ = path.empty() ? Neighbours() : NeighboursOf(path);
+  if (path.empty()) TakeNeighbours({});
+  search_->Start(path);
+}
+
+void MainWindow::TakeNeighbours(const Neighbours& neighbours) {
+  neighbours_ = neighbours;
   EnableActions();
 }
+
+Neighbours MainWindow::NeighboursNow() {
+  TakeNeighbours(NeighboursOf(form_->AskedFileSpec()));
+  return neighbours_;
+}
+
+bool MainWindow::IsLookingAround() const { return search_->IsBusy(); }
 
 void MainWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
@@ -93,13 +106,13 @@ void MainWindow::FillRecentFiles() {
 }
 
 void MainWindow::OpenNextTrial() {
-  LookAround();
-  if (!neighbours_.Next.empty()) form_->OpenFile(neighbours_.Next);
+  const std::string next = NeighboursNow().Next;
+  if (!next.empty()) form_->OpenFile(next);
 }
 
 void MainWindow::OpenPreviousTrial() {
-  LookAround();
-  if (!neighbours_.Previous.empty()) form_->OpenFile(neighbours_.Previous);
+  const std::string previous = NeighboursNow().Previous;
+  if (!previous.empty()) form_->OpenFile(previous);
 }
 
 QString MainWindow::ProposedName(std::string_view what) const {
