@@ -2,9 +2,22 @@
 
 #include "app/CommandLine.h"
 
+#include <algorithm>
+#include <utility>
+
+#include "support/FileSystem.h"
 #include "support/ProgramArguments.h"
 
 namespace app {
+
+namespace {
+
+bool AreSeveralFiles(const std::vector<std::string>& arguments, const std::string& joined) {
+  return arguments.size() > 1 && !modAllPurpose::FileExists(FileNameOnCommandLine(joined)) &&
+         std::ranges::all_of(arguments, modAllPurpose::FileExists);
+}
+
+}  // namespace
 
 StartWords::StartWords(int argc, char** argv)
     : words_(modAllPurpose::ProgramArguments(argc, argv)) {
@@ -26,7 +39,10 @@ std::string JoinedArguments(int argc, const char* const* argv) {
 StartLine ReadStartLine(int argc, const char* const* argv) {
   const bool showsCurves = argc > 1 && std::string_view(argv[1]) == "--curves";
   const int taken = showsCurves ? 1 : 0;
-  return {showsCurves, JoinedArguments(argc - taken, argv + taken)};
+  const std::string joined = JoinedArguments(argc - taken, argv + taken);
+  std::vector<std::string> files(argv + std::min(argc, taken + 1), argv + argc);
+  if (AreSeveralFiles(files, joined)) return {showsCurves, {}, std::move(files)};
+  return {showsCurves, joined, {}};
 }
 
 std::string FileNameOnCommandLine(std::string_view commandLine) {

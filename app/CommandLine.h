@@ -34,8 +34,12 @@ std::string JoinedArguments(int argc, const char* const* argv);
 struct StartLine {
   bool ShowsCurves = false;  // "--curves" came first
   std::string File;          // the JoinedArguments behind it
+  // In place of File several files, as a desktop names those that are dropped on the program.
+  std::vector<std::string> Files;
 };
 
+// Several arguments are several files only where each of them names one that is there and all of
+// them joined do not, so that a path with blanks stays whole.
 StartLine ReadStartLine(int argc, const char* const* argv);
 
 // The file that a command line names: without the double quote it starts with and the one it ends

@@ -48,7 +48,7 @@ int RunVantrel(int argc, char** argv, const Deployment& deployment) {
   QApplication::setDesktopFileName(QStringLiteral("vantrel"));
   QApplication::setWindowIcon(ProgramIcon());
   FollowDesktopColours();
-  // The toolkit has taken its own options off the command line; the rest is the path of a file.
+  // The toolkit has taken its own options off the command line; the rest names files.
   const StartLine start = ReadStartLine(words.Count(), words.Words());
   if (!Form_Initialize(deployment)) return 0;
 
@@ -58,6 +58,7 @@ int RunVantrel(int argc, char** argv, const Deployment& deployment) {
   if (window.Form().IsUnloaded()) return window.Form().ExitStatus();
   QObject::connect(&window.Form(), &frmVantrel::Unloaded, &QApplication::exit);
   window.show();
+  if (!start.Files.empty()) emit window.Form().FilesDropped(start.Files);
   if (start.ShowsCurves) emit window.CurvesAsked(pages::PageKind::Kinematics);
   return QApplication::exec();
 }

@@ -102,6 +102,17 @@ TEST_F(Program, TakesSeveralArgumentsForOnePathWithBlanks) {
             "pane: \ncaption: " + walk + "\n");
 }
 
+TEST_F(Program, TakesSeveralFilesAsIfTheyWereDroppedOnItsWindow) {
+  const std::string first = Write(sample::SampleWalk().Build(), "walk 1.c3d");
+  const std::string second = Write(sample::SampleWalk().Build(), "walk 2.c3d");
+  EXPECT_EQ(Start({QString::fromStdString(first), QString::fromStdString(second)}).Output,
+            "pane: \nwindow: shown\ntitle: Vantrel\n"
+            "text: One file can be open at a time.  Of the 2 files that were dropped the first was "
+            "taken, the others were left.\n"
+            "pane: \ncaption: " +
+                first + "\n");
+}
+
 TEST_F(Program, DropsTheQuotesOfAPathThatStillHasThem) {
   const std::string walk = Write(sample::SampleWalk().Build(),
                                  "gr\xC3\xBC\xC3\x9F"

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <filesystem>
+#include <fstream>
 
 #include <QFontDatabase>
 #include <QFontMetrics>
@@ -31,6 +32,32 @@ TEST(CommandLine, SeveralArgumentsAreOnePathJoinedByBlanks) {
 TEST(CommandLine, WithoutArgumentsIsEmpty) {
   const std::array argv = {"vantrel"};
   EXPECT_EQ(app::JoinedArguments(1, argv.data()), "");
+}
+
+TEST(CommandLine, SeveralArgumentsAreSeveralFilesWhereEachIsOneAndTheJoinedPathIsNone) {
+  const TemporaryFolder folder;
+  const std::string left = (folder / "left").string();
+  const std::string walk = (folder / "walk.c3d").string();
+  std::ofstream(left).put('x');
+  std::ofstream(walk).put('x');
+  const std::array argv = {"vantrel", "--curves", left.c_str(), walk.c_str()};
+  EXPECT_EQ(app::ReadStartLine(4, argv.data()).Files, std::vector({left, walk}));
+  EXPECT_EQ(app::ReadStartLine(4, argv.data()).File, "");
+  EXPECT_TRUE(app::ReadStartLine(4, argv.data()).ShowsCurves);
+  EXPECT_TRUE(app::ReadStartLine(3, argv.data()).Files.empty()) << "one file is no several";
+  EXPECT_EQ(app::ReadStartLine(3, argv.data()).File, left);
+}
+
+TEST(CommandLine, APathWithBlanksStaysWholeThoughItsPartsAreFilesToo) {
+  const TemporaryFolder folder;
+  const auto before = std::filesystem::current_path();
+  std::filesystem::current_path(folder.Path());
+  for (const char* name : {"left", "walk.c3d", "left walk.c3d"}) std::ofstream(name).put('x');
+  const std::array argv = {"vantrel", "left", "walk.c3d", "gone.c3d"};
+  EXPECT_EQ(app::ReadStartLine(3, argv.data()).File, "left walk.c3d");
+  EXPECT_EQ(app::ReadStartLine(4, argv.data()).File, "left walk.c3d gone.c3d");
+  EXPECT_TRUE(app::ReadStartLine(4, argv.data()).Files.empty());
+  std::filesystem::current_path(before);
 }
 
 TEST(CommandLine, CurvesAreAskedForInFrontOfThePathOnly) {
