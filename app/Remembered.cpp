@@ -89,7 +89,8 @@ std::vector<std::string> Remembered::RecentFiles() const {
 
 void Remembered::AddRecentFile(const std::string& path) {
   QStringList files = settings_.value(kRecent).toStringList();
-  files.removeAll(Encoded(path));
+  files.removeIf(
+      [&](const QString& known) { return modAllPurpose::IsSameSpelling(Decoded(known), path); });
   files.prepend(Encoded(path));
   settings_.setValue(kRecent, files.mid(0, kMostRecent));
   SetPath(kFolder, std::string(modAllPurpose::FolderPart(path)));

@@ -35,7 +35,8 @@ class Remembered {
   // The folder of the trial that was opened last; empty for none.
   std::string LastFolder() const;
 
-  // The trials opened last, the last one first, ten at most. Opening one sets the last folder too.
+  // The trials opened last, the last one first, ten at most and each of them once, however
+  // it was written (see IsSameSpelling). Opening one sets the last folder too.
   std::vector<std::string> RecentFiles() const;
   void AddRecentFile(const std::string& path);
   void ClearRecentFiles();

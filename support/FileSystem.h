@@ -52,6 +52,10 @@ std::string WholePath(const std::string& path);
 // Where the system cannot tell, `path` itself.
 std::string OneSpelling(const std::string& path);
 
+// True when both paths are written for one file, which nothing is looked up for: in any case and
+// with either separator on Windows, byte for byte on a POSIX system.
+bool IsSameSpelling(const std::string& path, const std::string& other);
+
 // When the file that `path` leads to was last written; nothing where there is none or asking fails.
 std::optional<std::chrono::system_clock::time_point> LastWritten(const std::string& path);
 

@@ -49,6 +49,8 @@ std::string OneSpelling(const std::string& path) {
   return failure ? path : whole.string();
 }
 
+bool IsSameSpelling(const std::string& path, const std::string& other) { return path == other; }
+
 std::optional<std::chrono::system_clock::time_point> LastWritten(const std::string& path) {
   std::error_code failure;
   const auto written = fs::last_write_time(path, failure);

@@ -71,6 +71,12 @@ std::string OneSpelling(const std::string& path) {
   return Utf8Path(whole);
 }
 
+bool IsSameSpelling(const std::string& path, const std::string& other) {
+  bool isSame = path == other;
+  IgnoringErrors([&] { isSame = isSame || OneSpelling(path) == OneSpelling(other); });
+  return isSame;
+}
+
 std::optional<std::chrono::system_clock::time_point> LastWritten(const std::string& path) {
   std::wstring native;
   if (!IgnoringErrors([&] { native = NativePath(path); })) return std::nullopt;

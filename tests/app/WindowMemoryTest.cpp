@@ -128,6 +128,19 @@ TEST_F(WindowMemory, PathsAreKeptByteForByte) {
   EXPECT_EQ(remembered.LastFolder(), "/data/R&D, 50% \xFC/");
 }
 
+TEST_F(WindowMemory, ATrialIsRecentOnceUnderItsLastSpelling) {
+  app::Remembered().AddRecentFile("C:\\gait\\M\xC3\xBCller\\A.c3d");
+  app::Remembered().AddRecentFile("C:\\gait\\b.c3d");
+  app::Remembered().AddRecentFile("c:/gait/m\xC3\x9Cller/a.C3D");
+  app::Remembered().AddRecentFile("c:/gait/m\xC3\x9Cller/a.C3D");
+  const std::vector<std::string> files = app::Remembered().RecentFiles();
+#ifdef _WIN32
+  EXPECT_EQ(files, std::vector<std::string>({"c:/gait/m\xC3\x9Cller/a.C3D", "C:\\gait\\b.c3d"}));
+#else
+  EXPECT_EQ(files.size(), 3U) << "other names are other files here";
+#endif
+}
+
 TEST_F(WindowMemory, ATrialOfARelativePathIsRecentFromAnyFolder) {
   WriteSampleWalk();
   const auto before = std::filesystem::current_path();

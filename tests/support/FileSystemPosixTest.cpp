@@ -81,6 +81,16 @@ TEST(OneSpelling, IsThatOfTheFileALinkLeadsTo) {
             modAllPurpose::OneSpelling((folder / "file").string()));
 }
 
+TEST(IsSameSpelling, LooksNoLinkUpAndTellsCasesApart) {
+  const tests::TemporaryFolder folder;
+  modAllPurpose::WriteNewFile((folder / "file").string(), {});
+  fs::create_symlink("file", folder / "link");
+  const std::string file = (folder / "file").string();
+  EXPECT_TRUE(modAllPurpose::IsSameSpelling(file, file));
+  EXPECT_FALSE(modAllPurpose::IsSameSpelling(file, (folder / "link").string()));
+  EXPECT_FALSE(modAllPurpose::IsSameSpelling("/data/a.c3d", "/data/A.c3d"));
+}
+
 TEST(OneSpelling, IsThePathItselfWhereTheSystemCannotTell) {
   const tests::TemporaryFolder folder;
   fs::create_symlink("loop", folder / "loop");

@@ -66,6 +66,14 @@ TEST_F(WindowsFiles, HaveOneSpellingWhateverTheirCaseAndSeparators) {
   EXPECT_NE(modAllPurpose::OneSpelling(path + "/gr.gcd"), one);
 }
 
+TEST_F(WindowsFiles, AreWrittenForOneWhateverTheirCaseAndSeparators) {
+  EXPECT_TRUE(modAllPurpose::IsSameSpelling("C:\\A.c3d", "c:/a.C3D"));
+  EXPECT_TRUE(modAllPurpose::IsSameSpelling(R"(\\server\share\a.c3d)", R"(\\SERVER\share\A.c3d)"));
+  EXPECT_FALSE(modAllPurpose::IsSameSpelling("C:\\a.c3d", "C:\\b.c3d"));
+  EXPECT_TRUE(modAllPurpose::IsSameSpelling("C:\\\xFF.c3d", "C:\\\xFF.c3d"));
+  EXPECT_FALSE(modAllPurpose::IsSameSpelling("C:\\\xFF.c3d", "C:\\\xFE.c3d"));
+}
+
 TEST_F(WindowsFiles, OnAShareHaveASpellingEach) {
   EXPECT_NE(modAllPurpose::OneSpelling(R"(\\server\share\a.gcd)"),
             modAllPurpose::OneSpelling(R"(\\server\share\b.gcd)"));
