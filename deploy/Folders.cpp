@@ -13,9 +13,7 @@ std::string WithSeparator(const deploy::Host& host, std::string folder) {
 
 bool FolderExists(const deploy::Host& host, std::string path) {
   if (path.ends_with(host.FolderSeparator())) path.pop_back();
-  bool isFolder = false;
-  modAllPurpose::IgnoringErrors([&] { isFolder = host.IsFolder(path); });
-  return isFolder;
+  return host.IsFolder(path);
 }
 
 void DeleteIgnoringErrors(deploy::Host& host, const std::string& path) {

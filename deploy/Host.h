@@ -41,7 +41,7 @@ class Host {
 
   // True when `path` exists and is not a folder; never fails.
   virtual bool FileExists(const std::string& path) const = 0;
-  // True when `path`, which exists, is a folder.
+  // True when `path` is a folder; never fails.
   virtual bool IsFolder(const std::string& path) const = 0;
   // Makes the last folder of `path`.
   virtual void MakeFolder(const std::string& path) = 0;

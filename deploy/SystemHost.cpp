@@ -33,12 +33,7 @@ bool SystemHost::FileExists(const std::string& path) const {
   return modAllPurpose::FileExists(path);
 }
 
-bool SystemHost::IsFolder(const std::string& path) const {
-  std::error_code failure;
-  const bool isFolder = std::filesystem::is_directory(NativePath(path), failure);
-  ThrowIf(failure);
-  return isFolder;
-}
+bool SystemHost::IsFolder(const std::string& path) const { return modAllPurpose::IsFolder(path); }
 
 void SystemHost::MakeFolder(const std::string& path) {
   std::error_code failure;

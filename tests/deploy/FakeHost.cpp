@@ -71,9 +71,7 @@ bool FakeHost::FileExists(const std::string& path) const {
 
 bool FakeHost::IsFolder(const std::string& path) const {
   Looks.push_back(path);
-  if (Folders.contains(path)) return true;
-  if (!Files.contains(path)) throw RuntimeError(ErrorNumber::FileNotFound);
-  return false;
+  return Folders.contains(path);
 }
 
 void FakeHost::MakeFolder(const std::string& path) {

@@ -108,8 +108,8 @@ TEST(FolderExists, IsTrueForAFolderWithOrWithoutItsSeparator) {
   EXPECT_TRUE(modAllPurposeFolders::FolderExists(host, R"(C:\Gait)"));
   EXPECT_TRUE(modAllPurposeFolders::FolderExists(host, R"(C:\Gait\)"));
   EXPECT_FALSE(modAllPurposeFolders::FolderExists(host, R"(C:\Gait\file)")) << "a file";
-  EXPECT_FALSE(modAllPurposeFolders::FolderExists(host, R"(C:\Nowhere)")) << "asking fails";
-  EXPECT_FALSE(modAllPurposeFolders::FolderExists(host, "")) << "asking fails";
+  EXPECT_FALSE(modAllPurposeFolders::FolderExists(host, R"(C:\Nowhere)"));
+  EXPECT_FALSE(modAllPurposeFolders::FolderExists(host, ""));
 }
 
 TEST(DeleteIgnoringErrors, DeletesAFileAndPassesOverOneThatIsNotThere) {
