@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 
 #include "app/TrialFolder.h"
+#include "support/FileSystem.h"
+#include "tests/DeepFolder.h"
 #include "tests/TestTrials.h"
 #include "tests/app/UnusualNames.h"
 
@@ -54,6 +56,14 @@ TEST_F(TrialFolder, NamesMayBeAnyThatFilesHave) {
   const std::string second = Make("b" + tests::OddestName());
   EXPECT_EQ(app::NeighboursOf(first).Next, second);
   EXPECT_EQ(app::NeighboursOf(second).Previous, first);
+}
+
+TEST(TrialFolderOfALongPath, HasItsOwnTrialsForNeighbours) {
+  const tests::DeepFolder deep;
+  for (const char* name : {"a.c3d", "b.c3d"}) modAllPurpose::WriteNewFile(deep / name, {});
+  EXPECT_EQ(app::NeighboursOf(deep / "a.c3d").Next, deep / "b.c3d");
+  EXPECT_EQ(app::NeighboursOf(deep / "b.c3d").Previous, deep / "a.c3d");
+  EXPECT_EQ(app::NeighboursOf(deep / "b.c3d").Next, "");
 }
 
 TEST_F(TrialFolder, AFolderThatIsGoneHasNoNeighbours) {
