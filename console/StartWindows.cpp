@@ -66,7 +66,7 @@ std::vector<std::string> WithoutWildcards(const std::string& file) {
     throw modAllPurpose::LastFileError();
   }
   std::vector<std::string> files;
-  const std::wstring pattern = modAllPurpose::NativePath(file.substr(nameStart)).wstring();
+  const std::wstring pattern = modAllPurpose::Utf16Text(file.substr(nameStart));
   do {
     if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) continue;
     if (!Fits(&found.cFileName[0], pattern)) continue;
