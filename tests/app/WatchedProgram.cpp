@@ -5,6 +5,7 @@
 // standard output, and closes the window at last.
 
 #include <iostream>
+#include <utility>
 #ifdef _WIN32
 #include <cstdio>
 #include <fcntl.h>
@@ -57,6 +58,9 @@ void ActAsUser() {
   if (pressed != nullptr && pressed->isDown()) return;
   app::OutputPane* pane = Pane();
   if (pane == nullptr || !pane->window()->isVisible()) return;
+  // A person sees the window before acting: what was posted as it came up is served by then.
+  static bool isSeen = false;
+  if (!std::exchange(isSeen, true)) return;
   if (clicks.isEmpty()) {
     Report("pane", QString::fromStdString(pane->Text()));
     Report("caption", pane->window()->windowTitle());
