@@ -8,6 +8,7 @@
 !define OPEN_EXISTING 3
 !define DELETE_ON_CLOSE 0x04000000
 !define ERROR_SHARING_VIOLATION 32
+!define ANOTHER_FOLDER "$\r$\n$\r$\nPlease choose another folder."
 !define UNWRITABLE "Nothing can be written into this folder:$\r$\n$\r$\n$INSTDIR"
 
 ; The full name of the folder $1, in its long form where there is one, without a backslash at its end:
@@ -28,6 +29,54 @@
 !macroend
 !insertmacro FullFolder ""
 !insertmacro FullFolder "un."
+
+; Replaces the folder on the stack by 1 where it has an uninstaller of Vantrel, else by 0. What an
+; uninstaller is of stands in its version; other programs give theirs the same name.
+!macro IsOurs un
+  Function ${un}IsOurs
+    Exch $R0
+    Push $R1
+    Push $R2
+    Push $R3
+    StrCpy $R3 ""
+    ${If} $R0 != ""
+      StrCpy $R0 "$R0\uninstall.exe"
+    ${EndIf}
+    System::Call 'version::GetFileVersionInfoSizeW(w R0, p 0) i .R1'
+    ${If} $R1 > 0
+      System::Alloc $R1
+      Pop $R2
+      System::Call 'version::GetFileVersionInfoW(w R0, i 0, i R1, p R2) i .R1'
+      ${If} $R1 != 0
+        System::Call 'version::VerQueryValueW(p R2, w "\StringFileInfo\040904b0\InternalName", *p .R0, p 0) i .R1'
+      ${EndIf}
+      ${If} $R1 != 0
+        System::Call 'kernel32::lstrcpynW(w .R3, p R0, i ${NSIS_MAX_STRLEN})'
+      ${EndIf}
+      System::Free $R2
+    ${EndIf}
+    StrCpy $R0 0
+    ${If} $R3 == "${INTERNAL_NAME}"
+      StrCpy $R0 1
+    ${EndIf}
+    Pop $R3
+    Pop $R2
+    Pop $R1
+    Exch $R0
+  FunctionEnd
+!macroend
+!insertmacro IsOurs ""
+!insertmacro IsOurs "un."
+
+; Calls `do` with each folder in $0 that may hold a version which the newer one takes the place of.
+!macro WithOlderVersions do
+  StrCpy $0 $OwnFolder
+  Call ${do}
+  StrCpy $0 $RegisteredFolder
+  Call ${do}
+  StrCpy $0 $INSTDIR
+  Call ${do}
+!macroend
 
 ; Waits until the program `name` in the folder $0 has ended: till then Windows shares it with nobody who
 ; writes. A user who does not wait, and a silent run, end the installer.
@@ -115,7 +164,10 @@ FunctionEnd
 ; $0: a file that would be replaced though no installer of Vantrel put it there, or nothing.
 Function FindTakenFile
   StrCpy $0 ""
-  ${If} ${FileExists} "$INSTDIR\uninstall.exe"
+  Push $INSTDIR
+  Call IsOurs
+  Pop $1
+  ${If} $1 == 1
   ${AndIf} ${FileExists} "$INSTDIR\vantrel.exe.manifest1"
     Return
   ${EndIf}
@@ -124,17 +176,37 @@ Function FindTakenFile
   !insertmacro NoteTaken "" "uninstall.exe"
 FunctionEnd
 
+; $1: the folder $0 where it holds a Vantrel that only the uninstaller of another program could remove,
+; else as it was.
+Function NoteForeign
+  Push $0
+  Call IsOurs
+  Pop $2
+  ${If} $2 == 0
+  ${AndIf} $0 != ""
+  ${AndIf} ${FileExists} "$0\uninstall.exe"
+  ${AndIf} ${FileExists} "$0\vantrel.exe"
+    StrCpy $1 $0
+  ${EndIf}
+FunctionEnd
+
 ; $0: a text on what keeps Vantrel from standing in $INSTDIR, or nothing.
 Function FindObstacle
   Call FindTakenFile
   ${If} $0 != ""
-    StrCpy $0 "The folder has a file of this name that is not Vantrel's:$\r$\n$\r$\n$0"
+    StrCpy $0 "The folder has a file of this name that is not Vantrel's:$\r$\n$\r$\n$0${ANOTHER_FOLDER}"
+    Return
+  ${EndIf}
+  StrCpy $1 ""
+  !insertmacro WithOlderVersions NoteForeign
+  ${If} $1 != ""
+    StrCpy $0 "Vantrel stands in this folder, but its uninstall.exe there is of another program:$\r$\n$\r$\n$1$\r$\n$\r$\nPlease delete the files of Vantrel there, then install again."
     Return
   ${EndIf}
   Call TryFolder
   StrCpy $0 ""
   ${If} $1 == 0
-    StrCpy $0 "${UNWRITABLE}"
+    StrCpy $0 "${UNWRITABLE}${ANOTHER_FOLDER}"
   ${EndIf}
 FunctionEnd
 
@@ -147,10 +219,12 @@ Function RefuseObstacle
 FunctionEnd
 
 ; Removes the version in the folder $0, by its own uninstaller, which knows its files. It runs in its
-; place, so that it is waited for, and stays itself.
+; place, so that it is waited for, and stays itself. A program that is not Vantrel's is never run.
 Function RemoveVersion
-  ${If} $0 == ""
-  ${OrIfNot} ${FileExists} "$0\uninstall.exe"
+  Push $0
+  Call IsOurs
+  Pop $1
+  ${If} $1 == 0
     Return
   ${EndIf}
   ClearErrors
@@ -162,16 +236,6 @@ Function RemoveVersion
   Delete "$0\uninstall.exe"
   RMDir "$0"
 FunctionEnd
-
-; Calls `do` with each folder in $0 that may hold a version which the newer one takes the place of.
-!macro WithOlderVersions do
-  StrCpy $0 $OwnFolder
-  Call ${do}
-  StrCpy $0 $RegisteredFolder
-  Call ${do}
-  StrCpy $0 $INSTDIR
-  Call ${do}
-!macroend
 
 ; None is removed before all are closed. What this user has registered goes also where its folder does
 ; not exist: it would hide what is installed for all.

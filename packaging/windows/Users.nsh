@@ -25,11 +25,18 @@ Var ButtonForAll
   MessageBox MB_ICONEXCLAMATION "What is installed for all users needs the rights of an administrator."
 !macroend
 
-; `folder`: where the version that `hive` tells of stands, or nothing.
+; `folder`: where the version that `hive` tells of stands, or nothing. One whose uninstaller another
+; program has replaced is still one, see NoteForeign.
 !macro FindVersion hive folder
   ReadRegStr ${folder} ${hive} "${UNINSTALL_KEY}" "InstallLocation"
-  ${IfNot} ${FileExists} "${folder}\uninstall.exe"
-    StrCpy ${folder} ""
+  Push ${folder}
+  Call IsOurs
+  Pop $1
+  ${If} $1 == 0
+    ${IfNot} ${FileExists} "${folder}\uninstall.exe"
+    ${OrIfNot} ${FileExists} "${folder}\vantrel.exe"
+      StrCpy ${folder} ""
+    ${EndIf}
   ${EndIf}
 !macroend
 
@@ -175,10 +182,13 @@ FunctionEnd
 !macro CompareRegistered hive result
   ReadRegStr $0 ${hive} "${UNINSTALL_KEY}" "InstallLocation"
   StrCpy ${result} 0
+  Push $0
+  Call un.IsOurs
+  Pop $2
   ${If} $0 == $INSTDIR
     StrCpy ${result} 2
   ${ElseIf} $0 != ""
-  ${AndIfNot} ${FileExists} "$0\uninstall.exe"
+  ${AndIf} $2 == 0
     StrCpy ${result} 1
   ${EndIf}
 !macroend

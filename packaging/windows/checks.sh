@@ -182,6 +182,15 @@ make_setup() {
     -DICON="$icon" -DPICTURE="$work/side.bmp" -DKILOBYTES=1 -DOUTPUT="$3" "$here/vantrel.nsi"
 }
 
+# make_program OUTPUT LINE...: a program that shows nothing and does what these lines of a script say.
+make_program() {
+  local output=$1
+  shift
+  printf '%s\n' 'Target amd64-unicode' 'SilentInstall silent' 'RequestExecutionLevel user' \
+    "OutFile \"$output\"" Section "$@" SectionEnd >"$work/program.nsi"
+  makensis -V1 -INPUTCHARSET UTF8 "$work/program.nsi"
+}
+
 # installs_and_leaves_nothing HIVE FOLDER OPTION...: into FOLDER, and out of it.
 installs_and_leaves_nothing() {
   local hive=$1 folder=$2 menu=$3

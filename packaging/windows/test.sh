@@ -171,6 +171,29 @@ for words in "/CurrentUser HKCU $alone" "/AllUsers HKLM $everyone"; do
   check "leaves nothing of what was moved" eventually as_remembered
 done
 
+echo "Leaving the uninstaller of another program alone"
+# It leaves a file where it ran.
+make_program "$work/foreign.exe" 'FileOpen $0 "C:\ran" w' 'FileClose $0'
+mkdir "$WINEPREFIX/drive_c/shared"
+check "installs beside another program" ends_with 0 "$work/older-setup.exe" /S '/D=C:\shared'
+cp "$work/foreign.exe" "$WINEPREFIX/drive_c/shared/uninstall.exe"
+touch "$WINEPREFIX/drive_c/shared/vantrel.exe"
+mkdir "$WINEPREFIX/drive_c/foreign"
+cp -r "$unpacked/." "$work/foreign.exe" "$WINEPREFIX/drive_c/foreign"
+mv "$WINEPREFIX/drive_c/foreign/foreign.exe" "$WINEPREFIX/drive_c/foreign/uninstall.exe"
+remember
+refuses "what another program would have to remove" '/D=C:\new'
+refuses "the same folder again"
+refuses "a zip beside another program" '/D=C:\foreign'
+rm -r "$WINEPREFIX/drive_c/foreign" "$WINEPREFIX/drive_c/shared/vantrel.exe"
+check "installs where no Vantrel is left beside another program" ends_with 0 \
+  "$work/older-setup.exe" /S '/D=C:\new'
+check "leaves that program" cmp "$work/foreign.exe" "$WINEPREFIX/drive_c/shared/uninstall.exe"
+check "never ran it" test ! -e "$WINEPREFIX/drive_c/ran"
+rm -r "$WINEPREFIX/drive_c/shared"
+wine 'C:\new\uninstall.exe' /S
+check "leaves nothing of it" eventually test ! -e "$WINEPREFIX/drive_c/new"
+
 echo "Installing for all beside one user"
 remember
 check "installs the older version for one" ends_with 0 "$work/older-setup.exe" /S

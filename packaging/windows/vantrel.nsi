@@ -27,6 +27,8 @@ AllowSkipFiles off
 !include "${LIST}"
 
 !define REFUSED 2
+; By this an uninstaller is known to be one of Vantrel, see IsOurs.
+!define INTERNAL_NAME "vantrel-setup"
 !define UNINSTALL_KEYS "Software\Microsoft\Windows\CurrentVersion\Uninstall"
 !define UNINSTALL_KEY "${UNINSTALL_KEYS}\Vantrel"
 ; Stands for "no folder was given", or none that NSIS takes for one, see ReadFolder: what it takes is
@@ -45,7 +47,7 @@ VIFileVersion "${VERSION}.0"
 VIAddVersionKey "CompanyName" "Vantrel maintainers"
 VIAddVersionKey "FileDescription" "Installer of Vantrel, clinical gait analysis"
 VIAddVersionKey "FileVersion" "${VERSION}"
-VIAddVersionKey "InternalName" "vantrel-setup"
+VIAddVersionKey "InternalName" "${INTERNAL_NAME}"
 VIAddVersionKey "LegalCopyright" "Copyright the Vantrel maintainers. GPL-3.0-or-later."
 VIAddVersionKey "OriginalFilename" "vantrel-${VERSION}-setup.exe"
 VIAddVersionKey "ProductName" "Vantrel"
@@ -103,7 +105,7 @@ Function LeaveFolder
   StrCpy $INSTDIR $1
   Call FindObstacle
   ${If} $0 != ""
-    MessageBox MB_ICONEXCLAMATION "$0$\r$\n$\r$\nPlease choose another folder."
+    MessageBox MB_ICONEXCLAMATION "$0"
     Abort
   ${EndIf}
 FunctionEnd
