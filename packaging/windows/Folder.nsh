@@ -3,6 +3,7 @@
 ; that are installed and removed, each by its name, so that no other file is ever touched.
 
 !define GENERIC_WRITE 0x40000000
+!define WRITE_AND_DELETE 0x40010000
 !define SHARE_ALL 7
 !define CREATE_NEW 1
 !define OPEN_EXISTING 3
@@ -78,40 +79,50 @@
   Call ${do}
 !macroend
 
-; Waits until the program `name` in the folder $0 has ended: till then Windows shares it with nobody who
-; writes. A user who does not wait, and a silent run, end the installer.
-!macro WaitForProgram name
-  ${Do}
-    StrCpy $1 "$0\${name}"
-    System::Call 'kernel32::CreateFileW(w r1, i ${GENERIC_WRITE}, i ${SHARE_ALL}, p 0, i ${OPEN_EXISTING}, i 0, p 0) p .r2 ?e'
-    Pop $3
-    ${If} $2 != -1
-      System::Call 'kernel32::CloseHandle(p r2)'
-      ${Break}
-    ${EndIf}
-    ; Not there, or without the right to write: it does not run.
-    ${If} $3 != ${ERROR_SHARING_VIOLATION}
-      ${Break}
-    ${EndIf}
-    ${If} ${Cmd} `MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "Vantrel is running:$\r$\n$\r$\n$1$\r$\n$\r$\nPlease close it, then choose Retry." /SD IDCANCEL IDCANCEL`
-      SetErrorLevel ${REFUSED}
-      Quit
-    ${EndIf}
-  ${Loop}
-!macroend
-
-!macro WaitUntilClosed un
-  Function ${un}WaitUntilClosed
-    ${If} $0 == ""
-      Return
-    ${EndIf}
-    !insertmacro WaitForProgram "vantrel.exe"
-    !insertmacro WaitForProgram "vantrel-curves.exe"
-    !insertmacro WaitForProgram "vantrel-report.exe"
+; Waits until no one else holds the file $1 of Vantrel, as a program that runs is held: till then it
+; cannot be replaced or deleted. A user who does not wait, and a silent run, end the installer.
+!macro WaitForFile un
+  Function ${un}WaitForFile
+    ${Do}
+      System::Call 'kernel32::CreateFileW(w r1, i ${WRITE_AND_DELETE}, i ${SHARE_ALL}, p 0, i ${OPEN_EXISTING}, i 0, p 0) p .r2 ?e'
+      Pop $3
+      ${If} $2 != -1
+        System::Call 'kernel32::CloseHandle(p r2)'
+        ${Break}
+      ${EndIf}
+      ; Not there, or without the right to write: no one holds it.
+      ${If} $3 != ${ERROR_SHARING_VIOLATION}
+        ${Break}
+      ${EndIf}
+      ${If} ${Cmd} `MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "This file is in use:$\r$\n$\r$\n$1$\r$\n$\r$\nPlease close Vantrel, or the program that uses it, then choose Retry." /SD IDCANCEL IDCANCEL`
+        SetErrorLevel ${REFUSED}
+        Quit
+      ${EndIf}
+    ${Loop}
   FunctionEnd
 !macroend
-!insertmacro WaitUntilClosed ""
-!insertmacro WaitUntilClosed "un."
+!insertmacro WaitForFile ""
+!insertmacro WaitForFile "un."
+
+!macro WaitForEach folder name
+  StrCpy $1 "$0${folder}\${name}"
+  Call WaitForFile
+!macroend
+!macro un.WaitForEach folder name
+  StrCpy $1 "$0${folder}\${name}"
+  Call un.WaitForFile
+!macroend
+
+; Waits for every file of Vantrel in the folder $0.
+!macro WaitUntilFree un
+  Function ${un}WaitUntilFree
+    ${If} $0 != ""
+      !insertmacro EachFile ${un}WaitForEach
+    ${EndIf}
+  FunctionEnd
+!macroend
+!insertmacro WaitUntilFree ""
+!insertmacro WaitUntilFree "un."
 
 ; $1: 1 where a file can be made and deleted in $INSTDIR, else 0. It is gone once it is closed, and
 ; replaces none.
@@ -145,6 +156,43 @@ Function TryFolder
     RMDir $2
     ${GetParent} $2 $2
   ${EndWhile}
+FunctionEnd
+
+; $1: 1 where the drive of the folder $0, which need not exist, has $2 kilobytes left, else 0.
+Function FindRoom
+  ${DoUntil} ${FileExists} "$0\*.*"
+    ${GetParent} $0 $0
+    ${If} $0 == ""
+      ${Break}
+    ${EndIf}
+  ${Loop}
+  StrCpy $1 1
+  System::Call 'kernel32::GetDiskFreeSpaceExW(w "$0\", *l .r3, p 0, p 0) i .r4'
+  ${If} $4 != 0
+    System::Int64Op $3 / 1024
+    Pop $3
+    System::Int64Op $3 > $2
+    Pop $1
+  ${EndIf}
+FunctionEnd
+
+; $1: 1 where there is room for what is installed, and for the same that an installer unpacks first, else 0.
+Function TryRoom
+  System::Int64Op ${KILOBYTES} + ${MARGIN}
+  Pop $2
+  StrCpy $0 $TEMP
+  Call FindRoom
+  ${If} $1 == 0
+    Return
+  ${EndIf}
+  StrCpy $3 $TEMP 2
+  StrCpy $4 $INSTDIR 2
+  ${If} $3 == $4
+    System::Int64Op $2 * 2
+    Pop $2
+  ${EndIf}
+  StrCpy $0 $INSTDIR
+  Call FindRoom
 FunctionEnd
 
 !macro NoteTaken folder name
@@ -207,6 +255,12 @@ Function FindObstacle
   StrCpy $0 ""
   ${If} $1 == 0
     StrCpy $0 "${UNWRITABLE}${ANOTHER_FOLDER}"
+    Return
+  ${EndIf}
+  Call TryRoom
+  StrCpy $0 ""
+  ${If} $1 == 0
+    StrCpy $0 "The disk has no room for Vantrel:$\r$\n$\r$\n$INSTDIR$\r$\n$\r$\nPlease choose another folder, or delete what is not needed."
   ${EndIf}
 FunctionEnd
 
@@ -237,10 +291,10 @@ Function RemoveVersion
   RMDir "$0"
 FunctionEnd
 
-; None is removed before all are closed. What this user has registered goes also where its folder does
+; None is removed before no file of any is held. What this user has registered goes also where its folder does
 ; not exist: it would hide what is installed for all.
 Function RemoveOlderVersions
-  !insertmacro WithOlderVersions WaitUntilClosed
+  !insertmacro WithOlderVersions WaitUntilFree
   !insertmacro WithOlderVersions RemoveVersion
   ${If} $OwnFolder != ""
     SetShellVarContext current
@@ -263,10 +317,15 @@ FunctionEnd
   RMDir "$INSTDIR${folder}"
 !macroend
 
-; A folder with a file that was not installed stays, with that file.
+; The error flag is set where a file could not be removed.
 Function un.RemoveFiles
   SetOutPath "$TEMP"
+  ClearErrors
   !insertmacro EachFile DeleteFile
+FunctionEnd
+
+; A folder with a file that was not installed stays, with that file.
+Function un.RemoveFolders
   !insertmacro EachFolder DeleteFolder
   Delete "$INSTDIR\uninstall.exe"
   RMDir "$INSTDIR"

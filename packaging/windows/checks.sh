@@ -174,12 +174,12 @@ closes() {
   rm -rf "$WINEPREFIX/drive_c/Ganganalyse Müller & Söhne"
 }
 
-# make_setup VERSION FILES OUTPUT: an installer of other files.
+# make_setup VERSION FILES OUTPUT [KILOBYTES]: an installer of other files.
 make_setup() {
   "$here/list_files.sh" "$2" >"$work/files.nsh"
   pbmmake -white 164 314 | ppmtobmp -quiet -windows -bpp 24 >"$work/side.bmp"
   makensis -V1 -INPUTCHARSET UTF8 -DVERSION="$1" -DFILES="$2" -DLIST="$work/files.nsh" \
-    -DICON="$icon" -DPICTURE="$work/side.bmp" -DKILOBYTES=1 -DOUTPUT="$3" "$here/vantrel.nsi"
+    -DICON="$icon" -DPICTURE="$work/side.bmp" -DKILOBYTES="${4:-1}" -DOUTPUT="$3" "$here/vantrel.nsi"
 }
 
 # make_program OUTPUT LINE...: a program that shows nothing and does what these lines of a script say.
@@ -189,6 +189,19 @@ make_program() {
   printf '%s\n' 'Target amd64-unicode' 'SilentInstall silent' 'RequestExecutionLevel user' \
     "OutFile \"$output\"" Section "$@" SectionEnd >"$work/program.nsi"
   makensis -V1 -INPUTCHARSET UTF8 "$work/program.nsi"
+}
+
+# holds FILE: a program has FILE of Windows open and lets nobody else write or delete it.
+holds() {
+  make_program "$work/hold.exe" "FileOpen \$0 \"$1\" r" 'FileOpen $1 "C:\held" w' 'FileClose $1' \
+    'Sleep 600000'
+  wine "$work/hold.exe" >/dev/null 2>&1 &
+  eventually test -e "$WINEPREFIX/drive_c/held"
+}
+lets_go() {
+  wine taskkill /f /im hold.exe >/dev/null 2>&1
+  wait
+  rm "$WINEPREFIX/drive_c/held"
 }
 
 # installs_and_leaves_nothing HIVE FOLDER OPTION...: into FOLDER, and out of it.

@@ -149,6 +149,43 @@ check "leaves itself" test "$(ls "$(here_of "$alone")")" = uninstall.exe
 rm -r "$(dirname "$(here_of "$alone")")"
 check "leaves nothing else" as_remembered
 
+echo "Losing nothing where another program has a file open"
+entry='HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Vantrel'
+remember
+check "installs the older version" ends_with 0 "$work/older-setup.exe" /S
+cp -r "$(here_of "$alone")" "$work/before"
+for file in vantrel.exe.manifest1 gone\\older.txt; do
+  check "holds $file" holds "$alone\\$file"
+  check "no upgrade while $file is held" ends_with 2 "$setup" /S
+  check "no removing while $file is held" ends_with 2 "$alone\\uninstall.exe" /S "_?=$alone"
+  check "loses nothing" diff -r "$work/before" "$(here_of "$alone")"
+  check "is listed still" has "$entry" InstallLocation "$alone"
+  lets_go
+done
+check "has the file types still" has 'HKCU\Software\Classes\Vantrel.Trial\shell\open\command' '' \
+  "\"$alone\\vantrel.exe\" \"%1\""
+rm -r "$work/before"
+wine "$alone\\uninstall.exe" /S
+check "leaves nothing" eventually as_remembered
+
+echo "Leaving nothing half written"
+make_setup 0.5.0 "$work/older" "$work/large-setup.exe" 4294967295
+check "refuses a disk without room" ends_with 2 "$work/large-setup.exe" /S
+check "changes nothing there" as_remembered
+# No file can be larger than this.
+small_files() (
+  trap '' XFSZ
+  ulimit -f $(($(stat -c %s "$work/older/vantrel-report.exe") / 2048))
+  "$@"
+)
+check "breaks off where a write fails" small_files ends_with 2 "$work/older-setup.exe" /S
+mkdir "$WINEPREFIX/drive_c/half"
+ln -s /proc "$WINEPREFIX/drive_c/half/docs"
+check "breaks off where a file cannot be written" ends_with 2 "$work/older-setup.exe" /S '/D=C:\half'
+check "takes back the files before it" test "$(ls "$WINEPREFIX/drive_c/half")" = docs
+rm -r "$WINEPREFIX/drive_c/half"
+check "leaves nothing of both" as_remembered
+
 everyone='C:\Program Files\Vantrel'
 # knows_nothing HIVE: of Vantrel.
 knows_nothing() {

@@ -7,9 +7,10 @@
 ; What it promises: for one user it never asks for administrator rights; it replaces no file that an
 ; installer of Vantrel did not put there, and takes no file type from another program; an older version
 ; goes only once the newer one can be written. A silent run shows and asks nothing: where it would have
-; to, it ends. Exit statuses: 0 all well, 1 cancelled, 2 refused or broken off (a program of Vantrel
-; runs, a file is in the way, the folder cannot be written or /D= names none, an older version cannot be
-; removed, this Windows is too old), 740 the rights of an administrator are missing in a silent run.
+; to, it ends. Exit statuses: 0 all well, 1 cancelled, 2 refused or broken off (a file of Vantrel is in
+; use, a file is in the way, the disk is full, the folder cannot be written or /D= names none, an older
+; version cannot be removed, this Windows is too old), 740 the rights of an administrator are missing in
+; a silent run.
 Target amd64-unicode
 SetCompressor /SOLID lzma
 SetDateSave off
@@ -31,9 +32,13 @@ AllowSkipFiles off
 !define INTERNAL_NAME "vantrel-setup"
 !define UNINSTALL_KEYS "Software\Microsoft\Windows\CurrentVersion\Uninstall"
 !define UNINSTALL_KEY "${UNINSTALL_KEYS}\Vantrel"
+; Kilobytes that an installation may take beside its files.
+!define MARGIN 4096
 ; Stands for "no folder was given", or none that NSIS takes for one, see ReadFolder: what it takes is
 ; absolute. Its last part is what a folder chosen on the page is completed by.
 !define NO_FOLDER "unset\Vantrel"
+
+Var IsWriting  ; 1: what this installer writes is not whole yet
 
 Name "Vantrel"
 BrandingText "Vantrel ${VERSION}"
@@ -113,10 +118,13 @@ FunctionEnd
 ; The uninstaller and its entry come first, so that what is broken off can be removed.
 Section
   Call RemoveOlderVersions
+  StrCpy $IsWriting 1
   ClearErrors
   SetOutPath "$INSTDIR"
   WriteUninstaller "$INSTDIR\uninstall.exe"
   ${If} ${Errors}
+    StrCpy $IsWriting 0
+    Call TakeBackWritten
     !insertmacro Refuse "${UNWRITABLE}"
   ${EndIf}
   StrCpy $1 $INSTDIR
@@ -136,6 +144,7 @@ Section
   SetOutPath "$INSTDIR"
   CreateShortcut "$SMPROGRAMS\Vantrel.lnk" "$INSTDIR\vantrel.exe"
   Call OfferFileTypes
+  StrCpy $IsWriting 0
 SectionEnd
 
 ; What Windows is told of an installation, in the registry and the Start menu.
@@ -150,23 +159,49 @@ SectionEnd
 !insertmacro TakeBackEntries ""
 !insertmacro TakeBackEntries "un."
 
+; Half a program is none.
+Function TakeBackWritten
+  SetOutPath "$TEMP"
+  Call TakeBackEntries
+  !insertmacro EachFile DeleteFile
+  !insertmacro EachFolder DeleteFolder
+  Delete "$INSTDIR\uninstall.exe"
+  RMDir "$INSTDIR"
+  ${If} $ForAll == 0
+    RMDir "$LOCALAPPDATA\Programs"
+  ${EndIf}
+FunctionEnd
+
+; Where a write failed, as on a full disk.
+Function .onInstFailed
+  ${If} $IsWriting == 1
+    Call TakeBackWritten
+  ${EndIf}
+FunctionEnd
+
 Function un.onInit
   StrCpy $1 $INSTDIR
   Call un.FullFolder
   StrCpy $INSTDIR $1
   Call un.ReadUsers
+FunctionEnd
+
+; Nothing is removed before all can be: Vantrel may have been started while the uninstaller asked. Where
+; a file stays nevertheless, so does all that it takes to try again. What tells of another folder, where
+; Vantrel stands, stays.
+Section un.
   StrCpy $0 "$INSTDIR"
-  Call un.WaitUntilClosed
+  Call un.WaitUntilFree
   Call un.TryFile
   ${If} $1 == 0
     !insertmacro Refuse "${UNWRITABLE}"
   ${EndIf}
-FunctionEnd
-
-; What tells of another folder, where Vantrel stands, stays.
-Section un.
+  Call un.RemoveFiles
+  ${If} ${Errors}
+    !insertmacro Refuse "Not every file of Vantrel could be removed from this folder:$\r$\n$\r$\n$INSTDIR"
+  ${EndIf}
   ${If} $IsRegistered > 0
     Call un.TakeBackEntries
   ${EndIf}
-  Call un.RemoveFiles
+  Call un.RemoveFolders
 SectionEnd
