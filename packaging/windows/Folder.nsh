@@ -240,6 +240,13 @@ FunctionEnd
 
 ; $0: a text on what keeps Vantrel from standing in $INSTDIR, or nothing.
 Function FindObstacle
+  ; What opens trials names the folder, and Windows puts the trial in the place of a "%1" in it.
+  StrCpy $1 $INSTDIR
+  System::Call 'shlwapi::StrStrIW(w r1, w "%") p .r2'
+  ${If} $2 != 0
+    StrCpy $0 "Windows cannot open trials by a program in a folder with a % in its name:$\r$\n$\r$\n$INSTDIR${ANOTHER_FOLDER}"
+    Return
+  ${EndIf}
   Call FindTakenFile
   ${If} $0 != ""
     StrCpy $0 "The folder has a file of this name that is not Vantrel's:$\r$\n$\r$\n$0${ANOTHER_FOLDER}"
