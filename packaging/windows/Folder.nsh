@@ -295,20 +295,61 @@ Function RemoveVersion
     !insertmacro Refuse "The version of Vantrel in this folder could not be removed:$\r$\n$\r$\n$0"
   ${EndIf}
   Delete "$0\uninstall.exe"
-  RMDir "$0"
 FunctionEnd
+
+; $MadeFolders: how many folders at the end of $INSTDIR the installer will have made, this one or the one
+; of the older version that stood there.
+Function CountFolders
+  StrCpy $0 $INSTDIR
+  StrCpy $MadeFolders 0
+  ${DoUntil} ${FileExists} "$0\*.*"
+    IntOp $MadeFolders $MadeFolders + 1
+    ${GetParent} $0 $0
+    ${If} $0 == ""
+      ${Break}
+    ${EndIf}
+  ${Loop}
+  ${If} $INSTDIR == $OwnFolder
+  ${AndIf} $OwnMade > $MadeFolders
+    StrCpy $MadeFolders $OwnMade
+  ${EndIf}
+  ${If} $INSTDIR == $RegisteredFolder
+  ${AndIf} $RegisteredMade > $MadeFolders
+    StrCpy $MadeFolders $RegisteredMade
+  ${EndIf}
+FunctionEnd
+
+; Removes the last $1 folders of the folder $0 that hold nothing: those that the installer made.
+!macro RemoveMade un
+  Function ${un}RemoveMade
+    ${While} $1 > 0
+      RMDir "$0"
+      ${GetParent} $0 $0
+      IntOp $1 $1 - 1
+    ${EndWhile}
+  FunctionEnd
+!macroend
+!insertmacro RemoveMade ""
+!insertmacro RemoveMade "un."
 
 ; None is removed before no file of any is held. What this user has registered goes also where its folder does
 ; not exist: it would hide what is installed for all.
 Function RemoveOlderVersions
+  ReadRegDWORD $OwnMade HKCU "${UNINSTALL_KEY}" "MadeFolders"
+  ReadRegDWORD $RegisteredMade SHCTX "${UNINSTALL_KEY}" "MadeFolders"
   !insertmacro WithOlderVersions WaitUntilFree
   !insertmacro WithOlderVersions RemoveVersion
   ${If} $OwnFolder != ""
     SetShellVarContext current
     Call TakeBackEntries
-    RMDir "$LOCALAPPDATA\Programs"
     SetShellVarContext all
+    StrCpy $0 $OwnFolder
+    StrCpy $1 $OwnMade
+    Call RemoveMade
   ${EndIf}
+  StrCpy $0 $RegisteredFolder
+  StrCpy $1 $RegisteredMade
+  Call RemoveMade
 FunctionEnd
 
 !macro InstallFile folder name
@@ -331,12 +372,14 @@ Function un.RemoveFiles
   !insertmacro EachFile DeleteFile
 FunctionEnd
 
-; A folder with a file that was not installed stays, with that file.
+; A folder with a file that was not installed stays, with that file; so does one that was there before.
 Function un.RemoveFolders
   !insertmacro EachFolder DeleteFolder
   Delete "$INSTDIR\uninstall.exe"
-  RMDir "$INSTDIR"
-  ${If} $ForAll == 0
-    RMDir "$LOCALAPPDATA\Programs"
+  ${If} $IsRegistered < 2
+    RMDir "$INSTDIR"
   ${EndIf}
+  StrCpy $0 $RegisteredFolder
+  StrCpy $1 $RegisteredMade
+  Call un.RemoveMade
 FunctionEnd

@@ -7,6 +7,9 @@ Var UsersGiven        ; 1: the command line says for whom
 Var FolderGiven       ; 1: the command line says where
 Var RegisteredFolder  ; where Vantrel is installed for them, or nothing
 Var OwnFolder         ; installing for all: what this user has registered as a folder, or nothing
+Var OwnMade           ; how many folders at the end of it an installer made
+Var RegisteredMade    ; the same of RegisteredFolder
+Var MadeFolders       ; the same of what is installed now
 Var IsRegistered      ; uninstalling: greater than 0 where what is registered is of this folder
 Var ButtonForAll
 

@@ -137,8 +137,6 @@ check "installs into a folder by another name" ends_with 0 "$setup" /S \
   '/D=C:\papers\..\Tools\.\Vantrel\'
 is_listed HKCU 'C:\Tools\Vantrel' "$version"
 wine 'C:\Tools\Vantrel\uninstall.exe' /S
-check "leaves nothing of its folder" eventually test ! -e "$WINEPREFIX/drive_c/Tools/Vantrel"
-rmdir "$WINEPREFIX/drive_c/Tools"
 check "leaves nothing there" eventually as_remembered
 
 echo "Waiting for an uninstaller"
@@ -150,6 +148,17 @@ check "is done at its end" ends_with 0 "$alone\\uninstall.exe" /S "_?=$alone"
 check "leaves itself" test "$(ls "$(here_of "$alone")")" = uninstall.exe
 rm -r "$(dirname "$(here_of "$alone")")"
 check "leaves nothing else" as_remembered
+
+echo "Leaving the folders that were there before"
+mkdir "$WINEPREFIX/drive_c/theirs"
+remember
+for folder in theirs made\\by\\it theirs\\made; do
+  check "installs the older version" ends_with 0 "$work/older-setup.exe" /S "/D=C:\\$folder"
+  check "installs into the same" ends_with 0 "$work/older-setup.exe" /S
+done
+wine 'C:\theirs\made\uninstall.exe' /S
+check "leaves theirs and nothing else" eventually as_remembered
+rmdir "$WINEPREFIX/drive_c/theirs"
 
 echo "Losing nothing where another program has a file open"
 entry='HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Vantrel'

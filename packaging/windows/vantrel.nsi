@@ -118,6 +118,7 @@ FunctionEnd
 ; The uninstaller and its entry come first, so that what is broken off can be removed.
 Section
   Call RemoveOlderVersions
+  Call CountFolders
   StrCpy $IsWriting 1
   ClearErrors
   SetOutPath "$INSTDIR"
@@ -137,6 +138,7 @@ Section
   WriteRegStr SHCTX "${UNINSTALL_KEY}" "InstallLocation" "$INSTDIR"
   WriteRegStr SHCTX "${UNINSTALL_KEY}" "UninstallString" '"$INSTDIR\uninstall.exe"'
   WriteRegStr SHCTX "${UNINSTALL_KEY}" "QuietUninstallString" '"$INSTDIR\uninstall.exe" /S'
+  WriteRegDWORD SHCTX "${UNINSTALL_KEY}" "MadeFolders" $MadeFolders
   WriteRegDWORD SHCTX "${UNINSTALL_KEY}" "EstimatedSize" ${KILOBYTES}
   WriteRegDWORD SHCTX "${UNINSTALL_KEY}" "NoModify" 1
   WriteRegDWORD SHCTX "${UNINSTALL_KEY}" "NoRepair" 1
@@ -166,10 +168,9 @@ Function TakeBackWritten
   !insertmacro EachFile DeleteFile
   !insertmacro EachFolder DeleteFolder
   Delete "$INSTDIR\uninstall.exe"
-  RMDir "$INSTDIR"
-  ${If} $ForAll == 0
-    RMDir "$LOCALAPPDATA\Programs"
-  ${EndIf}
+  StrCpy $0 $INSTDIR
+  StrCpy $1 $MadeFolders
+  Call RemoveMade
 FunctionEnd
 
 ; Where a write failed, as on a full disk.
@@ -200,7 +201,10 @@ Section un.
   ${If} ${Errors}
     !insertmacro Refuse "Not every file of Vantrel could be removed from this folder:$\r$\n$\r$\n$INSTDIR"
   ${EndIf}
+  StrCpy $RegisteredFolder ""
   ${If} $IsRegistered > 0
+    ReadRegStr $RegisteredFolder SHCTX "${UNINSTALL_KEY}" "InstallLocation"
+    ReadRegDWORD $RegisteredMade SHCTX "${UNINSTALL_KEY}" "MadeFolders"
     Call un.TakeBackEntries
   ${EndIf}
   Call un.RemoveFolders
