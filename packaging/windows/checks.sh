@@ -45,6 +45,8 @@ start_wine() {
   mkdir -p "$WINEPREFIX"
   "$wine/wineserver64" --persistent
   wine wineboot >/dev/null 2>&1
+  # Windows that nobody sees.
+  wine reg add 'HKCU\Software\Wine\Drivers' /v Graphics /d null /f >/dev/null
 }
 
 # The folder of Windows that a path like C:\Users\name stands for, here.
@@ -110,26 +112,38 @@ offers_trials() {
   check "type left to the other program" has "$classes\\.c3d" '' Other.Trial
 }
 
-# is_listed HIVE FOLDER VERSION: what "Apps & features" shows.
-is_listed() {
-  local key="$1\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Vantrel"
-  check "name" has "$key" DisplayName Vantrel
-  check "version" has "$key" DisplayVersion "$3"
-  check "publisher" has "$key" Publisher 'Vantrel maintainers'
-  check "folder" has "$key" InstallLocation "$2"
-  check "uninstaller" has "$key" UninstallString "\"$2\\uninstall.exe\""
-  check "quiet uninstaller" has "$key" QuietUninstallString "\"$2\\uninstall.exe\" /S"
-  check "no change" has "$key" NoModify dword:00000001
-  check "no repair" has "$key" NoRepair dword:00000001
-  check "size" says_size "$key"
+# values KEY: prints every value in the registry as NAME=VALUE, in the order of names.
+values() {
+  rm -f "$work/value.reg"
+  wine reg export "$1" "$work/value.reg" /y >/dev/null 2>&1 || return 0
+  iconv -f UTF-16 -t UTF-8 "$work/value.reg" | tr -d '\r' | sed -n '4,/^$/p' |
+    sed '/^$/d; s/^"\([^"]*\)"=/\1=/; s/="\(.*\)"$/=\1/; s/\\\(.\)/\1/g' | sort
 }
 
-# says_size KEY: in whole kilobytes, as the installer says before it; the uninstaller is not counted.
+listing='Software\Microsoft\Windows\CurrentVersion\Uninstall\Vantrel'
+
+# is_listed HIVE FOLDER VERSION: what "Apps & features" shows.
+is_listed() {
+  values "$1\\$listing" >"$work/values"
+  check "what is listed" diff - <(grep -Ev '^(EstimatedSize|MadeFolders)=' "$work/values") <<END
+DisplayIcon=$2\\vantrel.exe,0
+DisplayName=Vantrel
+DisplayVersion=$3
+InstallLocation=$2
+NoModify=dword:00000001
+NoRepair=dword:00000001
+Publisher=Vantrel maintainers
+QuietUninstallString="$2\\uninstall.exe" /S
+UninstallString="$2\\uninstall.exe"
+END
+  check "size" says_size "$(sed -n 's/^EstimatedSize=dword://p' "$work/values")"
+}
+
+# says_size SIZE: in whole kilobytes, as the installer says before it; the uninstaller is not counted.
 says_size() {
-  local said bytes
-  said=$(value "$1" EstimatedSize)
+  local bytes
   bytes=$(find "$unpacked" -type f -printf '%s\n' | awk '{ sum += $1 } END { print sum }')
-  [ "$((16#${said#dword:}))" -eq "$((bytes / 1024))" ]
+  [ "$((16#$1))" -eq "$((bytes / 1024))" ]
 }
 
 # holds_vantrel FOLDER: nothing but what the zip holds, and the uninstaller.
@@ -202,6 +216,30 @@ lets_go() {
   wine taskkill /f /im hold.exe >/dev/null 2>&1
   wait
   rm "$WINEPREFIX/drive_c/held"
+}
+
+# asks_first PROGRAM ARGUMENT...: PROGRAM, an uninstaller which goes on running, shows its first page.
+asks_first() {
+  make_program "$work/asks.exe" 'FindWindow $0 "#32770" "Vantrel Uninstall "' 'SetErrorLevel $0'
+  wine "$@" >/dev/null 2>&1 &
+  asking=$!
+  eventually is_shown
+}
+is_shown() { ! wine "$work/asks.exe"; }
+
+# gives_up: the uninstaller that asks begins to remove, shows a text, and ends with 2 where it is told
+# not to try again.
+gives_up() {
+  local status=0
+  make_program "$work/press.exe" 'FindWindow $0 "#32770" "Vantrel Uninstall "' \
+    'System::Call "user32::PostMessageW(p r0, i 0x111, p 1, p 0)"' 'StrCpy $2 0' 'StrCpy $1 0' \
+    'next:' 'FindWindow $1 "#32770" "" 0 $1' 'IntCmp $1 $0 next' 'IntCmp $1 0 0 found found' \
+    'Sleep 100' 'IntOp $2 $2 + 1' 'IntCmp $2 100 0 next' \
+    'System::Call "user32::PostMessageW(p r0, i 0x10, p 0, p 0)"' Abort \
+    'found:' 'System::Call "user32::PostMessageW(p r1, i 0x111, p 2, p 0)"'
+  wine "$work/press.exe" || wine taskkill /f /im uninstall.exe >/dev/null 2>&1
+  wait "$asking" || status=$?
+  [ "$status" = 2 ]
 }
 
 # installs_and_leaves_nothing HIVE FOLDER OPTION...: into FOLDER, and out of it.

@@ -52,7 +52,6 @@ alone="$user\\AppData\\Local\\Programs\\Vantrel"
 user_menu="$user\\AppData\\Roaming\\$programs"
 
 installs_and_leaves_nothing HKCU "$alone" "$user_menu"
-installs_and_leaves_nothing HKCU "$alone" "$user_menu" /CurrentUser
 installs_and_leaves_nothing HKLM 'C:\Program Files\Vantrel' "C:\\ProgramData\\$programs" /AllUsers
 mkdir "$WINEPREFIX/drive_c/Grüße an Müller"
 remember
@@ -81,12 +80,12 @@ wine 'C:\Grüße an Müller\Vantrel\uninstall.exe' /S
 check "leaves nothing after that" eventually as_remembered
 
 echo "Keeping files of the user"
-check "installs" ends_with 0 "$setup" /S
+check "installs the older version" ends_with 0 "$work/older-setup.exe" /S
 echo mine >"$(here_of "$alone")/docs/mine.txt"
 wine "$alone\\uninstall.exe" /S
 left_alone() { diff <(cd "$(here_of "$alone")" && find . | sort) <(printf '%s\n' . ./docs ./docs/mine.txt); }
 check "leaves a file of the user" eventually left_alone
-check "installs beside it again" ends_with 0 "$setup" /S
+check "installs beside it again" ends_with 0 "$work/older-setup.exe" /S
 check "leaves it there" grep -qx mine "$(here_of "$alone")/docs/mine.txt"
 wine "$alone\\uninstall.exe" /S
 check "leaves it when removed again" eventually left_alone
@@ -99,12 +98,12 @@ check "refuses a folder with a file of its names" ends_with 2 "$setup" /S '/D=C:
 check "touches nothing there" as_remembered
 
 echo "Refusing a folder"
-# refuses WHAT WORD...: an installer with these words ends with 2 and changes nothing.
+# refuses WHAT WORD...: an installer with these words ends with 2; that it changes nothing is seen at
+# the end of all, since what one left the others do not take away.
 refuses() {
   local what=$1
   shift
   check "refuses $what" ends_with 2 "$setup" /S "$@"
-  check "changes nothing for $what" as_remembered
 }
 # As Windows hands words on, which wine quotes otherwise.
 printf '%s\r\n' "\"$(wine winepath -w "$setup")\" /S /D=\"C:\\Quo ted\"" 'exit /b %errorlevel%' \
@@ -113,7 +112,6 @@ ln -s /proc "$WINEPREFIX/drive_c/locked"
 check "installs the older version" ends_with 0 "$work/older-setup.exe" /S
 remember
 check "refuses a folder in quotation marks" ends_with 2 cmd /c 'C:\quoted.bat'
-check "changes nothing for it" as_remembered
 refuses "a word in quotation marks" '/D=C:\Quo ted'
 refuses "slashes" /D=C:/Tools/Vantrel
 refuses "one slash" '/D=C:\Tools/Vantrel'
@@ -125,25 +123,24 @@ refuses "a small letter" '/d=C:\Tools\Vantrel'
 refuses "a folder that cannot be made" '/D=Z:\proc\Tools\Vantrel'
 refuses "a folder that cannot be written" '/D=C:\locked'
 refuses "a folder below a file" '/D=C:\papers\LICENSE.txt\Vantrel'
+check "changes nothing for any" as_remembered
 mkdir "$WINEPREFIX/drive_c/other"
 echo mine >"$WINEPREFIX/drive_c/other/docs"
 remember
 refuses "a folder with a file where one of its own comes" '/D=C:\other'
+check "changes nothing for it" as_remembered
 rm -r "$WINEPREFIX/drive_c/other" "$WINEPREFIX/drive_c/locked" "$WINEPREFIX/drive_c/quoted.bat"
 wine "$alone\\uninstall.exe" /S
 check "leaves nothing of the older version" eventually test ! -e "$(here_of "$alone")/uninstall.exe"
 remember
-check "installs into a folder by another name" ends_with 0 "$setup" /S \
+check "installs into a folder by another name" ends_with 0 "$work/older-setup.exe" /S \
   '/D=C:\papers\..\Tools\.\Vantrel\'
-is_listed HKCU 'C:\Tools\Vantrel' "$version"
+check "lists it by its own" has "HKCU\\$listing" InstallLocation 'C:\Tools\Vantrel'
 wine 'C:\Tools\Vantrel\uninstall.exe' /S
 check "leaves nothing there" eventually as_remembered
 
 echo "Waiting for an uninstaller"
-check "installs" ends_with 0 "$setup" /S
-check "opens a trial" opens_trial "$alone\\vantrel.exe"
-check "says that Vantrel runs" ends_with 2 "$alone\\uninstall.exe" /S "_?=$alone"
-closes
+check "installs the older version" ends_with 0 "$work/older-setup.exe" /S
 check "is done at its end" ends_with 0 "$alone\\uninstall.exe" /S "_?=$alone"
 check "leaves itself" test "$(ls "$(here_of "$alone")")" = uninstall.exe
 rm -r "$(dirname "$(here_of "$alone")")"
@@ -161,7 +158,6 @@ check "leaves theirs and nothing else" eventually as_remembered
 rmdir "$WINEPREFIX/drive_c/theirs"
 
 echo "Losing nothing where another program has a file open"
-entry='HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Vantrel'
 remember
 check "installs the older version" ends_with 0 "$work/older-setup.exe" /S
 cp -r "$(here_of "$alone")" "$work/before"
@@ -170,7 +166,7 @@ for file in vantrel.exe.manifest1 gone\\older.txt; do
   check "no upgrade while $file is held" ends_with 2 "$setup" /S
   check "no removing while $file is held" ends_with 2 "$alone\\uninstall.exe" /S "_?=$alone"
   check "loses nothing" diff -r "$work/before" "$(here_of "$alone")"
-  check "is listed still" has "$entry" InstallLocation "$alone"
+  check "is listed still" has "HKCU\\$listing" InstallLocation "$alone"
   lets_go
 done
 check "has the file types still" has 'HKCU\Software\Classes\Vantrel.Trial\shell\open\command' '' \
@@ -179,10 +175,22 @@ rm -r "$work/before"
 wine "$alone\\uninstall.exe" /S
 check "leaves nothing" eventually as_remembered
 
+echo "Removing while a file was opened after the question"
+check "installs the older version" ends_with 0 "$work/older-setup.exe" /S
+cp -r "$(here_of "$alone")" "$work/before"
+check "asks" asks_first "$alone\\uninstall.exe" "_?=$alone"
+check "holds a file" holds "$alone\\LICENSE.txt"
+check "says that it is in use" gives_up
+check "loses nothing" diff -r "$work/before" "$(here_of "$alone")"
+check "lists it still" has "HKCU\\$listing" InstallLocation "$alone"
+lets_go
+rm -r "$work/before"
+wine "$alone\\uninstall.exe" /S
+check "leaves nothing" eventually as_remembered
+
 echo "Leaving nothing half written"
 make_setup 0.5.0 "$work/older" "$work/large-setup.exe" 4294967295
 check "refuses a disk without room" ends_with 2 "$work/large-setup.exe" /S
-check "changes nothing there" as_remembered
 # No file can be larger than this.
 small_files() (
   trap '' XFSZ
@@ -195,7 +203,7 @@ ln -s /proc "$WINEPREFIX/drive_c/half/docs"
 check "breaks off where a file cannot be written" ends_with 2 "$work/older-setup.exe" /S '/D=C:\half'
 check "takes back the files before it" test "$(ls "$WINEPREFIX/drive_c/half")" = docs
 rm -r "$WINEPREFIX/drive_c/half"
-check "leaves nothing of both" as_remembered
+check "leaves nothing of all three" as_remembered
 
 everyone='C:\Program Files\Vantrel'
 # knows_nothing HIVE: of Vantrel.
@@ -208,12 +216,12 @@ echo "Removing what was moved"
 for words in "/CurrentUser HKCU $alone" "/AllUsers HKLM $everyone"; do
   read -r word hive folder <<<"$words"
   remember
-  check "installs" ends_with 0 "$setup" /S "$word"
+  check "installs the older version" ends_with 0 "$work/older-setup.exe" /S "$word"
   cp -r "$(here_of "$folder")" "$WINEPREFIX/drive_c/copied"
   wine 'C:\copied\uninstall.exe' /S
   check "removes a copy" eventually test ! -e "$WINEPREFIX/drive_c/copied"
-  check "leaves what was copied" holds_vantrel "$folder"
-  is_listed "$hive" "$folder" "$version"
+  check "leaves what was copied" test -e "$(here_of "$folder")/gone/older.txt"
+  check "lists it still" has "$hive\\$listing" InstallLocation "$folder"
   mv "$(here_of "$folder")" "$WINEPREFIX/drive_c/moved"
   wine 'C:\moved\uninstall.exe' /S
   check "leaves nothing of what was moved" eventually as_remembered
@@ -233,6 +241,7 @@ remember
 refuses "what another program would have to remove" '/D=C:\new'
 refuses "the same folder again"
 refuses "a zip beside another program" '/D=C:\foreign'
+check "changes nothing for any" as_remembered
 rm -r "$WINEPREFIX/drive_c/foreign" "$WINEPREFIX/drive_c/shared/vantrel.exe"
 check "installs where no Vantrel is left beside another program" ends_with 0 \
   "$work/older-setup.exe" /S '/D=C:\new'
