@@ -78,7 +78,8 @@ void MainWindow::TakeNeighbours(const Neighbours& neighbours) {
 }
 
 Neighbours MainWindow::NeighboursNow() {
-  TakeNeighbours(NeighboursOf(form_->AskedFileSpec()));
+  const std::string& path = form_->AskedFileSpec();
+  TakeNeighbours(path.empty() ? Neighbours() : NeighboursOf(path));
   return neighbours_;
 }
 

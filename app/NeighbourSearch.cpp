@@ -13,10 +13,12 @@ NeighbourSearch::NeighbourSearch(Find find, QObject* parent)
 void NeighbourSearch::Start(const std::string& trial) {
   if (trial == trial_ && IsBusy()) return;
   trial_ = trial;
-  if (!trial.empty()) background_.Run([this, trial] { return Run(trial); });
+  const int request = ++request_;
+  if (!trial.empty()) background_.Run([this, trial, request] { return Run(trial, request); });
 }
 
-Background::Then NeighbourSearch::Run(const std::string& trial) {
+Background::Then NeighbourSearch::Run(const std::string& trial, int request) {
+  if (request != request_) return {};
   Neighbours found;
   try {
     found = find_(trial);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <atomic>
 #include <functional>
 #include <string>
 
@@ -12,8 +13,8 @@
 namespace app {
 
 // Looks for the neighbours of a trial beside the window, on a thread of its own: a folder of a
-// server that sleeps or is gone must not keep the window waiting. What was found of a trial that
-// nobody asks for any more is never heard of.
+// server that sleeps or is gone must not keep the window waiting. What nobody asks for any more is
+// not begun, and what was found of it never heard of. Its end waits for an answer of the system.
 class NeighbourSearch : public QObject {
   Q_OBJECT
 
@@ -32,11 +33,12 @@ class NeighbourSearch : public QObject {
   void Found(const app::Neighbours& neighbours);
 
  private:
-  Background::Then Run(const std::string& trial);
+  Background::Then Run(const std::string& trial, int request);
   void Tell(const std::string& trial, const Neighbours& neighbours);
 
   Find find_;
   std::string trial_;               // that is asked for
+  std::atomic<int> request_ = 0;    // by the last of so many
   Background background_{nullptr};  // ends before what it runs
 };
 

@@ -8,6 +8,7 @@
 #include "support/FileSystem.h"
 #include "support/FolderEntries.h"
 #include "support/RuntimeError.h"
+#include "support/StoppableWork.h"
 
 namespace app {
 
@@ -35,6 +36,7 @@ Neighbours NamesBeside(const std::string& path) {
   const std::string part(modAllPurpose::FolderPart(path));
   const std::string folder(modAllPurpose::FolderOf(path));
   modAllPurpose::ForEachEntry(folder, [&](const FolderEntry& entry) {
+    modAllPurpose::StoppableWork::EndIfStopped();
     if (modVantrel::IsTrialName(entry.Name) && IsFile(entry, part)) {
       Consider(entry.Name, own, names);
     }

@@ -8,7 +8,7 @@ cd "$(dirname "$0")/.."
 most=3
 runs=15
 
-if [ -z "${WINE:-}" ]; then
+if [ -z "${VANTREL_WINE_DISPLAY:-}" ]; then
   ./setup.sh --windows-window >&2
   for preset in release windows-window; do
     cmake --preset $preset -DVANTREL_BENCH=ON

@@ -31,9 +31,13 @@ BOOL WINAPI RestoreWhenInterrupted(DWORD /*event*/) {
   return kGoOnEnding;
 }
 
-// The system also finds files whose short names fit: "a.c3d_old" for "*.c3d".
 bool Fits(const wchar_t* name, const std::wstring& pattern) {
   return ::PathMatchSpecExW(name, pattern.c_str(), PMSF_NORMAL | PMSF_DONT_STRIP_SPACES) == S_OK;
+}
+
+// Whether the system found the file by its short name alone: "a.c3d_old" for "*.c3d".
+bool FitsInShort(const WIN32_FIND_DATAW& found, const std::wstring& pattern) {
+  return Fits(&found.cAlternateFileName[0], pattern) && !Fits(&found.cFileName[0], pattern);
 }
 
 bool IsConsole(DWORD output) {
@@ -69,7 +73,7 @@ std::vector<std::string> WithoutWildcards(const std::string& file) {
   const std::wstring pattern = modAllPurpose::Utf16Text(file.substr(nameStart));
   do {
     if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) continue;
-    if (!Fits(&found.cFileName[0], pattern)) continue;
+    if (FitsInShort(found, pattern)) continue;
     files.push_back(file.substr(0, nameStart) + modAllPurpose::Utf8Text(&found.cFileName[0]));
   } while (::FindNextFileW(search.get(), &found) != 0);
   if (::GetLastError() != ERROR_NO_MORE_FILES) throw modAllPurpose::LastFileError();

@@ -31,10 +31,10 @@ double Divide(double dividend, double divisor) {
 }
 
 double Hypotenuse(double x, double y) {
+  const double squares = x * x + y * y;
+  if (!std::isnormal(squares)) return std::hypot(x, y);  // 0, or at the ends of the numbers
   const double a = std::max(std::fabs(x), std::fabs(y));
   const double b = std::min(std::fabs(x), std::fabs(y));
-  const double squares = a * a + b * b;
-  if (!std::isnormal(squares)) return std::hypot(x, y);  // 0, or at the ends of the numbers
   const double root = std::sqrt(squares);
   // Half the excess of root^2 over a^2 + b^2, without the rounding of the squares.
   const bool isSteep = root <= 2 * b;

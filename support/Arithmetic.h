@@ -24,7 +24,7 @@ inline float ToSingle(double value) {
 // dividend / divisor; error 11 when the divisor is 0.
 double Divide(double dividend, double divisor);
 
-// The length of (x, y), the same to the last bit on every system, which the hypot of their
+// The length of (x, y), the same to the last bit on Linux and on Windows, which the hypot of their
 // libraries is not: a root that one step corrects, after C. F. Borges, An improved algorithm for
 // hypot(a, b), ACM Transactions on Mathematical Software 47 (2020).
 double Hypotenuse(double x, double y);

@@ -91,6 +91,7 @@ std::optional<std::chrono::system_clock::time_point> LastWritten(const std::stri
   constexpr std::chrono::sys_days kStart = std::chrono::year(1601) / 1 / 1;
   const auto high = static_cast<std::int64_t>(written.dwHighDateTime);
   const Tick ticks((high << 32) + static_cast<std::int64_t>(written.dwLowDateTime));
+  if (ticks.count() == 0) return std::nullopt;  // of systems that keep no times
   return std::chrono::time_point_cast<std::chrono::system_clock::duration>(kStart + ticks);
 }
 

@@ -20,8 +20,8 @@ include(${CMAKE_CURRENT_LIST_DIR}/Toolchain.cmake)
 # A build folder that was made with another toolkit finds all of this one.
 get_cmake_property(found CACHE_VARIABLES)
 foreach(name IN LISTS found)
-  if("$CACHE{${name}}" MATCHES "/vantrel/windows-toolkit-" AND
-      NOT "$CACHE{${name}}" MATCHES "^${VANTREL_TOOLKIT}/")
+  string(FIND "$CACHE{${name}}" "${VANTREL_TOOLKIT}" place)
+  if(place EQUAL -1 AND "$CACHE{${name}}" MATCHES "/vantrel/windows-toolkit-")
     unset(${name} CACHE)
   endif()
 endforeach()

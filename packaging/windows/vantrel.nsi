@@ -94,8 +94,8 @@ Function StartVantrel
 FunctionEnd
 
 Function .onInit
-  ${IfNot} ${AtLeastWin10}
-    !insertmacro Refuse "Vantrel needs Windows 10 or later."
+  ${IfNot} ${AtLeastBuild} 17763
+    !insertmacro Refuse "Vantrel needs Windows 10, version 1809, or later."
   ${EndIf}
   Call ReadFolder
   Call ReadUsers

@@ -38,7 +38,9 @@ TEST(Hypotenuse, IsHardlyFurtherOffThanTheNearestNumber) {
 TEST(Hypotenuse, HoldsAtTheEndsOfTheNumbers) {
   const double infinity = std::numeric_limits<double>::infinity();
   EXPECT_EQ(Hypotenuse(-infinity, std::nan("")), infinity);
+  EXPECT_EQ(Hypotenuse(std::nan(""), infinity), infinity);
   EXPECT_TRUE(std::isnan(Hypotenuse(std::nan(""), 1)));
+  EXPECT_TRUE(std::isnan(Hypotenuse(1, std::nan(""))));
   EXPECT_DOUBLE_EQ(Hypotenuse(3e300, 4e300), 5e300);
   EXPECT_DOUBLE_EQ(Hypotenuse(3e-160, 4e-160), 5e-160);
 }
