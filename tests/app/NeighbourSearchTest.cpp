@@ -76,6 +76,16 @@ TEST_F(SleepingFolder, SaysNothingOfATrialThatNobodyAsksForAnyMore) {
   EXPECT_THAT(found_, ElementsAre("behind b.c3d"));
 }
 
+TEST_F(SleepingFolder, IsNotAskedForTrialsThatWereLeftMeanwhile) {
+  search_.Start("a.c3d");
+  ASSERT_TRUE(QTest::qWaitFor([this] { return asked_ == 1; }));
+  for (const char* trial : {"b.c3d", "c.c3d", "d.c3d"}) search_.Start(trial);
+  Wake();
+  AwaitEnd();
+  EXPECT_EQ(asked_, 2);
+  EXPECT_THAT(found_, ElementsAre("behind d.c3d"));
+}
+
 TEST_F(SleepingFolder, SaysNothingWhereNoTrialIsLeft) {
   search_.Start("a.c3d");
   search_.Start("");
