@@ -14,10 +14,13 @@ if command -v ccache >/dev/null; then
   export CCACHE_SLOPPINESS=pch_defines,time_macros
 fi
 
+# Many tests wait more than they work.
+at_once=$(($(nproc) + 1))
+
 build_and_test() {
   cmake --preset "$1"
   cmake --build --preset "$1"
-  ctest --preset "$1" --parallel 2
+  ctest --preset "$1" --parallel "$at_once"
 }
 
 # A locale whose decimal sign is a comma, made here so that none has to be installed.
@@ -26,7 +29,7 @@ test_under_comma_locale() {
   mkdir -p "$folder"
   [ -d "$folder/de_DE.UTF-8" ] || localedef -i de_DE -f UTF-8 "$folder/de_DE.UTF-8"
   LOCPATH=$folder LC_ALL=de_DE.UTF-8 ctest --test-dir build/release --output-on-failure \
-    --label-exclude '^one_by_one$' --exclude-regex '^Window(On|Beside)' --parallel 2
+    --label-exclude '^one_by_one$' --exclude-regex '^Window(On|Beside)' --parallel "$at_once"
 }
 
 # What works in several threads, under the sanitizer of threads; archives need not be large for it.
