@@ -27,6 +27,7 @@ exec 9>"$build/wine.lock"
 flock 9
 start_wine 9>&- >/dev/null 2>&1 </dev/null
 exec 9>&-
-# A share of another machine, as far as programs can tell.
-mkdir -p "$WINEPREFIX/dosdevices/unc/vantrel-share/tests"
+# A share of another machine, as far as programs can tell. A Wine folder that is not made yet must be
+# empty for that.
+[ ! -d "$WINEPREFIX/drive_c" ] || mkdir -p "$WINEPREFIX/dosdevices/unc/vantrel-share/tests"
 exec "$wine/wine64" "$@"
