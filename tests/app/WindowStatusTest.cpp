@@ -112,8 +112,9 @@ TEST_F(WindowStatus, AFileThatCannotBeOpenedLeavesNone) {
 
 TEST_F(WindowStatus, AFileThatVanishesBeforeItIsCheckedIsAnError) {
   const std::string walk = WriteSampleWalk();
-  Start(walk);
-  tests::TakeAway(walk);
+  Start();
+  window_.Load(walk);
+  tests::TakeAway(walk);  // before the event loop begins the checkup
   AwaitCheckup();
   EXPECT_TRUE(Said().contains(QStringLiteral("found 1 error,"))) << Said().toStdString();
 }
