@@ -19,6 +19,7 @@ if [ -z "${VANTREL_WINE_DISPLAY:-}" ]; then
 fi
 
 trial=$PWD/build/release/sample-walk.c3d
+program=build/windows-window/bench/first_paint/first_paint.exe
 milliseconds() {
   local start end
   start=$(date +%s%N)
@@ -29,10 +30,10 @@ milliseconds() {
 median() { sort -n | sed -n "$((runs / 2 + 1))p"; }
 
 # The desktop of Windows is there before anybody starts a program.
-"$WINE" build/windows-window/first_paint.exe "Z:$trial" 2>/dev/null
+"$WINE" "$program" "Z:$trial" 2>/dev/null
 build/release/first_paint "$trial" 2>/dev/null
 for ((i = 0; i < runs; i++)); do
-  milliseconds "$WINE" build/windows-window/first_paint.exe "Z:$trial" >&3
+  milliseconds "$WINE" "$program" "Z:$trial" >&3
   milliseconds build/release/first_paint "$trial"
 done 3>build/windows-window/starts.txt >build/release/starts.txt
 windows=$(median <build/windows-window/starts.txt)
