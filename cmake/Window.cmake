@@ -4,6 +4,7 @@
 # pane.
 find_package(Qt6 6.4 REQUIRED COMPONENTS PrintSupport Widgets)
 if(WIN32)
+  include(cmake/mingw/LateLibraries.cmake)
   # The writer of SVG by itself, as cmake/mingw/toolkit builds it.
   find_path(SVGWRITER_INCLUDE_DIR QSvgGenerator PATH_SUFFIXES svgwriter REQUIRED)
   find_library(SVGWRITER_LIBRARY svgwriter REQUIRED)
@@ -36,9 +37,10 @@ function(vantrel_qt_library name)
 endfunction()
 
 # vantrel_qt_program(NAME): a program that uses Qt. Where the toolkit is part of the program, so is
-# what draws without a display.
+# what draws without a display, and libraries of the system that a start does not use come late.
 function(vantrel_qt_program name)
   if(WIN32)
     qt_import_plugins(${name} INCLUDE Qt6::QOffscreenIntegrationPlugin)
+    vantrel_load_late(${name})
   endif()
 endfunction()

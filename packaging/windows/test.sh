@@ -313,6 +313,16 @@ check "sources are named" names_sources "$unpacked/licences/SOURCES.txt"
 check "changes of sources" cmp "$root/cmake/mingw/toolkit/no-graphics-card.patch" \
   "$unpacked/licences/no-graphics-card.patch"
 
+echo "Starting with little"
+loads_with_it() { x86_64-w64-mingw32-objdump -p "$unpacked/$1" | grep -i "DLL Name: $2" >/dev/null; }
+loads_late() { ! loads_with_it "$@"; }
+for program in vantrel.exe vantrel-curves.exe; do
+  check "$program has windows" loads_with_it "$program" user32.dll
+  for library in authz.dll comdlg32.dll d3d11.dll d3d9.dll dxgi.dll netapi32.dll winspool.drv; do
+    check "$program loads $library late" loads_late "$program" "$library"
+  done
+done
+
 echo "Running from the zip"
 mkdir "$WINEPREFIX/drive_c/stick ä"
 cp -r "$unpacked" "$WINEPREFIX/drive_c/stick ä"
