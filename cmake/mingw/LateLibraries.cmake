@@ -8,16 +8,17 @@
 # vantrel_late_library(FILE FUNCTION...): adds that of FILE to VANTREL_LATE_LIBRARIES.
 function(vantrel_late_library file)
   cmake_path(GET file STEM name)
-  set(definition ${PROJECT_BINARY_DIR}/late/${name}.def)
-  set(library ${PROJECT_BINARY_DIR}/late/lib${name}.a)
+  set(folder ${PROJECT_BINARY_DIR}/late)
+  set(library ${folder}/lib${name}.a)
   list(JOIN ARGN "\n  " functions)
-  file(CONFIGURE OUTPUT ${definition} CONTENT "LIBRARY ${file}\nEXPORTS\n  ${functions}\n" @ONLY)
+  file(CONFIGURE OUTPUT ${folder}/${name}.def CONTENT "LIBRARY ${file}\nEXPORTS\n  ${functions}\n" @ONLY)
   add_custom_command(
     OUTPUT ${library}
-    COMMAND ${CMAKE_DLLTOOL} --input-def ${definition} --output-delaylib ${library}
+    # The names of these files, as they are told here, get into the programs: no folder among them.
+    COMMAND ${CMAKE_DLLTOOL} --input-def ${name}.def --output-delaylib lib${name}.a
       --temp-prefix ${name}
-    DEPENDS ${definition}
-    WORKING_DIRECTORY ${PROJECT_BINARY_DIR}/late
+    DEPENDS ${folder}/${name}.def
+    WORKING_DIRECTORY ${folder}
     COMMENT "Making the late library of ${file}"
     VERBATIM)
   set(VANTREL_LATE_LIBRARIES ${VANTREL_LATE_LIBRARIES} ${library} PARENT_SCOPE)
@@ -39,9 +40,10 @@ add_custom_target(vantrel_late_libraries DEPENDS ${VANTREL_LATE_LIBRARIES})
 # What loads them, behind all that calls it.
 string(APPEND CMAKE_CXX_STANDARD_LIBRARIES " -ldelayimp")
 
-# vantrel_load_late(NAME): the program NAME loads them late.
+# vantrel_load_late(NAME): the program NAME loads them late. Ninja links in the build folder, whose
+# place must not decide the order of what is imported; so the linker is told the rest of the path.
 function(vantrel_load_late name)
-  target_link_directories(${name} PRIVATE ${PROJECT_BINARY_DIR}/late)
+  target_link_options(${name} PRIVATE -Llate)
   set_property(TARGET ${name} APPEND PROPERTY LINK_DEPENDS ${VANTREL_LATE_LIBRARIES})
   add_dependencies(${name} vantrel_late_libraries)
 endfunction()
