@@ -15,7 +15,7 @@ if command -v ccache >/dev/null; then
 fi
 
 # Many tests wait more than they work.
-at_once=$(($(nproc) + 1))
+at_once=$((2 * $(nproc)))
 
 build_and_test() {
   cmake --preset "$1"

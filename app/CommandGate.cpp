@@ -2,7 +2,7 @@
 
 #include "app/CommandGate.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QEvent>
 #include <QEventLoop>
 #include <QMouseEvent>

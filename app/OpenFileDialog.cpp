@@ -2,6 +2,8 @@
 
 #include "app/OpenFileDialog.h"
 
+#include <algorithm>
+
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QPushButton>

@@ -7,6 +7,7 @@
 #include <numeric>
 
 #include <QEvent>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QToolTip>
 

@@ -2,6 +2,7 @@
 
 #include "app/SaveFile.h"
 
+#include <algorithm>
 #include <optional>
 
 #include <QDir>

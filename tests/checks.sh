@@ -21,8 +21,9 @@ clang() {
 }
 
 tidy() {
-  # Precompiled headers are for one compiler.
-  cmake --preset release -B build/tidy -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON -DVANTREL_BENCH=ON
+  # Precompiled headers are for one compiler, and each source stands by itself.
+  cmake --preset release -B build/tidy -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON \
+    -DCMAKE_UNITY_BUILD=OFF -DVANTREL_BENCH=ON
   git ls-files -z '*.cpp' ':!:*Windows*' | xargs -0 -P 2 -n 4 clang-tidy -p build/tidy --quiet
 }
 
@@ -30,7 +31,8 @@ tidy() {
 # for. Handles that are pointers by another name, or integers, and unions are the system's interface.
 tidy_windows() {
   ./setup.sh --windows
-  cmake --preset windows -B build/tidy_windows -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON
+  cmake --preset windows -B build/tidy_windows -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON \
+    -DCMAKE_UNITY_BUILD=OFF
   local headers options=(--extra-arg=--target=x86_64-w64-mingw32)
   headers=$(x86_64-w64-mingw32-g++-posix -print-file-name=include)/c++
   for folder in "$headers" "$headers/x86_64-w64-mingw32" "$headers/backward"; do

@@ -14,7 +14,7 @@ namespace tests {
 
 namespace {
 
-constexpr int kPatience = 10000;  // milliseconds
+constexpr int kPatienceWithAnswers = 10000;  // milliseconds
 
 QList<QPushButton*> ButtonsOf(const QDialog& dialog) {
   QList<QPushButton*> buttons = dialog.findChildren<QPushButton*>();
@@ -63,7 +63,7 @@ void Boxes::Look() {
   // What a user does to a window that has not come up yet is lost.
   if (!dialog->isActiveWindow() || !dialog->windowHandle()->isExposed()) return;
   if (dialog == answered_) {
-    if (!sinceAnswer_.hasExpired(kPatience)) return;
+    if (!sinceAnswer_.hasExpired(kPatienceWithAnswers)) return;
     ADD_FAILURE() << "the dialog '" << dialog->windowTitle().toStdString() << "' did not close";
     dialog->done(QDialog::Rejected);
     return;

@@ -13,7 +13,7 @@ namespace tests {
 
 namespace {
 
-constexpr int kPatience = 20000;  // milliseconds
+constexpr int kPatienceWithReading = 20000;  // milliseconds
 
 }  // namespace
 
@@ -44,7 +44,7 @@ void CurvesTest::Start(pages::PageKind page) {
 }
 
 void CurvesTest::WaitUntilRead() {
-  ASSERT_TRUE(QTest::qWaitFor([this] { return !window_->IsBusy(); }, kPatience));
+  ASSERT_TRUE(QTest::qWaitFor([this] { return !window_->IsBusy(); }, kPatienceWithReading));
   QApplication::processEvents();
 }
 

@@ -27,6 +27,12 @@ namespace tests {
 // What stands around the form: nothing, so that it is a window by itself, or the program's window.
 enum class Around { Nothing, Window };
 
+// A button that prints a report, and what the tool is called with for the same one.
+struct ButtonCommand {
+  const char* Button;
+  QStringList ToolArguments;
+};
+
 // The form of the program on a desktop of its own, worked by mouse and keys. By itself, unless
 // VANTREL_TEST_AROUND=window asks for the whole window, in which its rules are the same.
 class FormTest : public ::testing::Test {

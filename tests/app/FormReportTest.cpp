@@ -18,6 +18,7 @@
 
 namespace {
 
+using tests::ButtonCommand;
 using tests::FormTest;
 using tests::ReadWholeFile;
 using tests::ToolOutput;
@@ -25,14 +26,9 @@ using tests::WithoutCarriageReturns;
 
 constexpr const char* kGuard = "A C3D file is not open.  You must open one first.";
 
-struct Command {
-  const char* Button;
-  QStringList ToolArguments;
-};
-
 // Every report command on the sample walk with these text boxes: group Point, param labels, point
 // label ltoe, analog label fz1.
-std::vector<Command> EveryReport() {
+std::vector<ButtonCommand> EveryReport() {
   const auto words = [](const char* text) {
     return QString::fromLatin1(text).split(u' ', Qt::SkipEmptyParts);
   };
@@ -65,7 +61,7 @@ class FormReport : public FormTest {
     Type("txtAnalogLabel", QStringLiteral("fz1"));
   }
 
-  std::string Tool(const Command& command) {
+  std::string Tool(const ButtonCommand& command) {
     return ToolOutput(command.ToolArguments + QStringList(QString::fromStdString(walk_)));
   }
 
@@ -96,7 +92,7 @@ class AtNextPaint : public QObject {
 
 TEST_F(FormReport, EveryButtonOfTheFormIsTriedHereOrWithItsOwnKind) {
   std::set<std::string> tried = {"cmdOpen", "cmdExit", "cmdWriteGcdFiles"};
-  for (const Command& command : EveryReport()) tried.insert(command.Button);
+  for (const ButtonCommand& command : EveryReport()) tried.insert(command.Button);
   std::set<std::string> buttons;
   for (const app::FormRow& row : app::FormRows()) {
     if (const auto* button = std::get_if<app::ButtonRow>(&row)) buttons.insert(button->Name);
@@ -106,7 +102,7 @@ TEST_F(FormReport, EveryButtonOfTheFormIsTriedHereOrWithItsOwnKind) {
 
 TEST_F(FormReport, EveryReportPutsIntoThePaneWhatTheToolPrints) {
   StartWithSample();
-  for (const Command& command : EveryReport()) {
+  for (const ButtonCommand& command : EveryReport()) {
     Click(command.Button);
     EXPECT_FALSE(PaneText().empty()) << command.Button;
     EXPECT_EQ(PaneText(), Tool(command)) << command.Button;
@@ -116,7 +112,7 @@ TEST_F(FormReport, EveryReportPutsIntoThePaneWhatTheToolPrints) {
 TEST_F(FormReport, EveryReportPutsTheSameIntoTheDesktopCopyWhereTheBoxIsTicked) {
   StartWithSample();
   Tick(true);
-  for (const Command& command : EveryReport()) {
+  for (const ButtonCommand& command : EveryReport()) {
     Click(command.Button);
     EXPECT_EQ(WithoutCarriageReturns(ReadWholeFile(DesktopFile())), PaneText()) << command.Button;
   }
@@ -124,7 +120,7 @@ TEST_F(FormReport, EveryReportPutsTheSameIntoTheDesktopCopyWhereTheBoxIsTicked) 
 
 TEST_F(FormReport, WithoutTheTickNoDesktopCopyIsMade) {
   StartWithSample();
-  for (const Command& command : EveryReport()) Click(command.Button);
+  for (const ButtonCommand& command : EveryReport()) Click(command.Button);
   EXPECT_FALSE(std::filesystem::exists(DesktopFile()));
 }
 
@@ -195,9 +191,9 @@ TEST_F(FormReport, TheCaretStandsAtTheEndAndTheViewAtTheStart) {
 
 TEST_F(FormReport, EveryCommandBeforeAFileIsOpenShowsTheGuardAndLeavesThePane) {
   Start();
-  std::vector<Command> commands = EveryReport();
+  std::vector<ButtonCommand> commands = EveryReport();
   commands.push_back({"cmdWriteGcdFiles", {}});
-  for (const Command& command : commands) {
+  for (const ButtonCommand& command : commands) {
     boxes_.ExpectAndClick(QStringLiteral("OK"));
     Click(command.Button);
     ASSERT_FALSE(boxes_.Seen().empty()) << command.Button;

@@ -21,12 +21,8 @@
 
 namespace {
 
+using tests::ButtonCommand;
 using tests::FormTest;
-
-struct Command {
-  const char* Button;
-  QStringList ToolArguments;
-};
 
 // What the tool prints; nothing where it refuses or fails.
 std::optional<std::string> Printed(const QStringList& arguments) {
@@ -61,7 +57,7 @@ class FormTrials : public FormTest {
   }
 
   // The report commands for the labels that the form then holds.
-  std::vector<Command> Commands() {
+  std::vector<ButtonCommand> Commands() {
     const QString point = FirstOf(state_.PointLabels);
     const QString analog = FirstOf(state_.AnalogLabels);
     Type("txtPointLabel", point);
@@ -90,7 +86,7 @@ class FormTrials : public FormTest {
   }
 
   void CompareOpened(const QString& file) {
-    for (const Command& command : Commands()) {
+    for (const ButtonCommand& command : Commands()) {
       const auto printed = Printed(command.ToolArguments + QStringList(file));
       if (!printed) continue;
       Click(command.Button);

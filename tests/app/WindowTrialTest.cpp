@@ -19,7 +19,7 @@ namespace {
 
 using tests::ToolOutput;
 
-sample::ParamSpec Texts(const std::string& name, const std::vector<std::string>& texts) {
+sample::ParamSpec TextParam(const std::string& name, const std::vector<std::string>& texts) {
   std::vector<std::string> padded = texts;
   for (std::string& text : padded) text.resize(8, ' ');
   return {name, {8, static_cast<std::uint8_t>(texts.size())}, padded, "", false, {}};
@@ -34,8 +34,8 @@ sample::Trial TrialWithFurtherLabels(const std::vector<std::string>& further = {
     builder.AddPoint(label, [](std::int32_t) { return std::array<float, 3>{1, 2, 3}; });
     if (i <= 255) first.push_back(label);
   }
-  return builder.SetParam("POINT", Texts("LABELS", first))
-      .SetParam("POINT", Texts("LABELS2", further))
+  return builder.SetParam("POINT", TextParam("LABELS", first))
+      .SetParam("POINT", TextParam("LABELS2", further))
       .Build();
 }
 
@@ -171,7 +171,7 @@ TEST_F(WindowSubject, NeedsAnOpenFile) {
 
 TEST_F(WindowSubject, ShowsWhatIsKnownAndFromWhere) {
   std::ofstream(SubjectFile(), std::ios::binary) << "DOB = 1980-02-29\nDate = soon\n";
-  const auto trial = sample::TrialBuilder().SetParam("SUBJECTS", Texts("SEX", {"f"})).Build();
+  const auto trial = sample::TrialBuilder().SetParam("SUBJECTS", TextParam("SEX", {"f"})).Build();
   Start(trial);
   Enter(
       [](app::SubjectDialog& dialog) {

@@ -14,7 +14,7 @@ namespace {
 using modVantrel::AddFurtherLabels;
 using modVantrel::GetPointLabelIndex;
 
-sample::ParamSpec Texts(const std::string& name, const std::vector<std::string>& texts) {
+sample::ParamSpec PaddedTexts(const std::string& name, const std::vector<std::string>& texts) {
   std::vector<std::string> padded = texts;
   for (std::string& text : padded) text.resize(8, ' ');
   return {name, {8, static_cast<std::uint8_t>(texts.size())}, padded, "", false, {}};
@@ -29,13 +29,13 @@ sample::TrialBuilder TrialOfManyPoints() {
     builder.AddPoint(label, [](std::int32_t) { return std::array<float, 3>{}; });
     if (i <= 255) first.push_back(label);
   }
-  builder.SetParam("POINT", Texts("LABELS", first));
+  builder.SetParam("POINT", PaddedTexts("LABELS", first));
   return builder;
 }
 
 TEST(FurtherLabels, ComeFromTheNumberedTables) {
-  tests::OpenedTrial trial(
-      TrialOfManyPoints().SetParam("POINT", Texts("LABELS2", {"A256", "A257", "A258", "A259"})));
+  tests::OpenedTrial trial(TrialOfManyPoints().SetParam(
+      "POINT", PaddedTexts("LABELS2", {"A256", "A257", "A258", "A259"})));
   ASSERT_EQ(trial.Result(), modVantrel::OpenResult::Success);
   EXPECT_EQ(trial.State().PointLabels[256], "") << "an open knows the first 255 alone";
   AddFurtherLabels(trial.State());
@@ -47,7 +47,7 @@ TEST(FurtherLabels, ComeFromTheNumberedTables) {
 }
 
 TEST(FurtherLabels, CanBeTakenBack) {
-  tests::OpenedTrial trial(TrialOfManyPoints().SetParam("POINT", Texts("LABELS2", {"A256"})));
+  tests::OpenedTrial trial(TrialOfManyPoints().SetParam("POINT", PaddedTexts("LABELS2", {"A256"})));
   const auto asOpened = trial.State().PointLabels;
   AddFurtherLabels(trial.State());
   ASSERT_NE(trial.State().PointLabels, asOpened);
@@ -56,7 +56,8 @@ TEST(FurtherLabels, CanBeTakenBack) {
 }
 
 TEST(FurtherLabels, LoseThePrefixLikeTheOthers) {
-  tests::OpenedTrial trial(TrialOfManyPoints().SetParam("POINT", Texts("LABELS2", {"Ann:X"})));
+  tests::OpenedTrial trial(
+      TrialOfManyPoints().SetParam("POINT", PaddedTexts("LABELS2", {"Ann:X"})));
   trial.State().LabelPrefix = "Ann:";
   AddFurtherLabels(trial.State());
   EXPECT_EQ(trial.State().PointLabels[256], "X");
@@ -70,8 +71,8 @@ TEST(FurtherLabels, StayEmptyWhereNoTableNamesThem) {
 
 TEST(TextTable, HoldsTheEntriesOfAllTables) {
   tests::OpenedTrial trial(TrialOfManyPoints()
-                               .SetParam("POINT", Texts("DESCRIPTIONS", {"one"}))
-                               .SetParam("POINT", Texts("DESCRIPTIONS2", {"two"})));
+                               .SetParam("POINT", PaddedTexts("DESCRIPTIONS", {"one"}))
+                               .SetParam("POINT", PaddedTexts("DESCRIPTIONS2", {"two"})));
   const auto texts = modVantrel::ReadTextTable(trial.State(), "POINT", "DESCRIPTIONS", 258);
   EXPECT_EQ(texts.Count(), 258);
   EXPECT_EQ(texts[1], "one");

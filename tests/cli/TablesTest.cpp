@@ -22,7 +22,7 @@ using testing::StartsWith;
 using tests::RunInside;
 using tests::ToolResult;
 
-rapidjson::Document Parsed(const std::string& text) {
+rapidjson::Document ParsedJson(const std::string& text) {
   rapidjson::Document document;
   document.Parse(text.c_str());
   EXPECT_FALSE(document.HasParseError()) << text;
@@ -90,7 +90,7 @@ TEST_F(TablesTest, PointHasTheFramesOfEachLabelInTheOrderAsked) {
 }
 
 TEST_F(TablesTest, MissingValueIsNullInJson) {
-  const auto document = Parsed(
+  const auto document = ParsedJson(
       RunInside({"--format", "json", "--label", "RTOE", "point", Given("w.c3d", Toes())}).Out);
   ASSERT_EQ(document.Size(), 2U);
   EXPECT_TRUE(document[0]["x"].IsNull());
@@ -110,7 +110,7 @@ TEST_F(TablesTest, AllLabelsTakesRepeatedAndEmptyOnesByTheirPlace) {
   sample::TrialBuilder builder = Toes();
   builder.AddPoint("LTOE", [](std::int32_t) { return std::array<float, 3>{7, 7, 7}; });
   builder.AddPoint("", [](std::int32_t) { return std::array<float, 3>{8, 8, 8}; });
-  const auto document = Parsed(
+  const auto document = ParsedJson(
       RunInside({"--format", "json", "--all-labels", "point", Given("walk.c3d", builder)}).Out);
   ASSERT_EQ(document.Size(), 8U);
   EXPECT_STREQ(document[4]["label"].GetString(), "LTOE");
@@ -133,7 +133,7 @@ TEST_F(TablesTest, StaysWholeWhereAFileFails) {
   const std::string good = Given("good.c3d", Toes());
   const ToolResult run = RunInside({"--format", "json", "header", bad, good, bad});
   EXPECT_EQ(run.Status, 1);
-  EXPECT_EQ(Parsed(run.Out).Size(), 24U);
+  EXPECT_EQ(ParsedJson(run.Out).Size(), 24U);
   EXPECT_THAT(run.Err, HasSubstr(bad + ": Not a valid C3D file."));
 }
 
@@ -141,7 +141,7 @@ TEST_F(TablesTest, IsAnEmptyTableWhereNothingCame) {
   const std::string bad = GivenNoTrial("bad.c3d");
   EXPECT_EQ(RunInside({"--format", "csv", "strides", bad}).Out,
             "file,side,number,start,opposite_foot_off,opposite_foot_strike,foot_off,stop\n");
-  EXPECT_EQ(Parsed(RunInside({"--format", "json", "strides", bad}).Out).Size(), 0U);
+  EXPECT_EQ(ParsedJson(RunInside({"--format", "json", "strides", bad}).Out).Size(), 0U);
 }
 
 TEST_F(TablesTest, EndsAsItMustWhereAReportEndsInAnError) {
@@ -149,7 +149,7 @@ TEST_F(TablesTest, EndsAsItMustWhereAReportEndsInAnError) {
   std::filesystem::resize_file(file, std::filesystem::file_size(file) - 600);
   const ToolResult run = RunInside({"--format", "json", "--label", "LTOE", "point", file});
   EXPECT_EQ(run.Status, 1);
-  EXPECT_EQ(Parsed(run.Out).Size(), 0U);
+  EXPECT_EQ(ParsedJson(run.Out).Size(), 0U);
   EXPECT_THAT(run.Err, HasSubstr("Run-time error '62'"));
 }
 
@@ -194,7 +194,7 @@ TEST_F(TablesTest, AllLabelsOfAnalogTakesRepeatedAndEmptyOnesByTheirPlace) {
   sample::TrialBuilder builder = TwoChannels();
   builder.AddAnalog("Fz1", "Again", [](std::int32_t) { return 7.0F; });
   builder.AddAnalog("", "None", [](std::int32_t) { return 8.0F; });
-  const auto document = Parsed(
+  const auto document = ParsedJson(
       RunInside({"--format", "json", "--all-labels", "analog", Given("walk.c3d", builder)}).Out);
   ASSERT_EQ(document.Size(), 16U);
   EXPECT_STREQ(document[4]["label"].GetString(), "Fz2");
@@ -207,7 +207,7 @@ TEST_F(TablesTest, AllLabelsOfAnalogTakesRepeatedAndEmptyOnesByTheirPlace) {
 // Each label has 51 rows for the one stride.
 TEST_F(TablesTest, NormalizedHasTheCurvesOfEachLabelInTheOrderAsked) {
   const std::string file = Given("walk.c3d", WalkWithChannels());
-  const auto document = Parsed(
+  const auto document = ParsedJson(
       RunInside({"--format", "json", "--label", "rtoe", "--label", "LTOE", "normalized", file})
           .Out);
   ASSERT_EQ(document.Size(), 102U);
@@ -221,7 +221,7 @@ TEST_F(TablesTest, NormalizedHasTheCurvesOfEachLabelInTheOrderAsked) {
 TEST_F(TablesTest, AllLabelsOfNormalizedTakesRepeatedAndEmptyOnesByTheirPlace) {
   sample::TrialBuilder builder = WalkWithChannels();
   builder.AddPoint("LTOE", tests::Standing(7, 7, 7)).AddPoint("", tests::Standing(8, 8, 8));
-  const auto document = Parsed(
+  const auto document = ParsedJson(
       RunInside({"--format", "json", "--all-labels", "normalized", Given("walk.c3d", builder)})
           .Out);
   ASSERT_EQ(document.Size(), 204U);
@@ -246,7 +246,7 @@ TEST_F(TablesTest, ChannelAboveAFractionalCountIsAnIndexErrorBehindTheRowsOfTheO
   EXPECT_THAT(one.Err, StartsWith(error));
   const ToolResult all = RunInside({"--format", "json", "--all-labels", "analog", file});
   EXPECT_EQ(all.Status, 1);
-  EXPECT_EQ(Parsed(all.Out).Size(), 8U) << "two frames of four samples";
+  EXPECT_EQ(ParsedJson(all.Out).Size(), 8U) << "two frames of four samples";
   EXPECT_THAT(all.Err, StartsWith(error));
 }
 
@@ -279,7 +279,7 @@ TEST_F(TablesTest, TextWithCommasQuotesAndNewlinesComesBackWhole) {
   EXPECT_THAT(RunInside(csv).Out, HasSubstr(",character,,1,\"a,\"\"b\"\"\nc\"\n"));
   std::vector<std::string> json = {"--format", "json"};
   json.insert(json.end(), options.begin(), options.end());
-  EXPECT_EQ(Parsed(RunInside(json).Out)[0]["value"].GetString(), text);
+  EXPECT_EQ(ParsedJson(RunInside(json).Out)[0]["value"].GetString(), text);
 }
 
 TEST_F(TablesTest, LabelsBeyondThe255thAreFoundInTablesAndWhereTextsAreToldTo) {

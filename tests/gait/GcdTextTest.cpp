@@ -54,7 +54,7 @@ Lines CurveNamed(const Lines& lines, const std::string& name) {
   return {};
 }
 
-std::string Repeated(const std::string& line, int count) {
+std::string RepeatedLine(const std::string& line, int count) {
   std::string text;
   for (int i = 0; i < count; ++i) text += line;
   return text;
@@ -114,7 +114,7 @@ TEST(GcdText, WholeFileOfASmallTrial) {
   for (int frame = 17; frame <= 67; ++frame) {
     expected += std::to_string(frame / 2) + (frame % 2 == 0 ? ".0\r\n" : ".5\r\n");
   }
-  expected += "!LeftAnklePower\r\n" + Repeated("-3.25\r\n", 51);
+  expected += "!LeftAnklePower\r\n" + RepeatedLine("-3.25\r\n", 51);
   EXPECT_EQ(Text(walk.State()), expected);
 }
 

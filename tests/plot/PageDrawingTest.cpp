@@ -21,6 +21,9 @@ using plot::DrawingStyle;
 using plot::Shown;
 using plot_tests::DrawnLine;
 using plot_tests::DrawnText;
+using plot_tests::kA4;
+using plot_tests::kLeft;
+using plot_tests::kRight;
 using plot_tests::Record;
 using plot_tests::Recording;
 using plot_tests::Sample;
@@ -30,10 +33,6 @@ using testing::Contains;
 using testing::Field;
 using testing::Not;
 using testing::SizeIs;
-
-const QRectF kA4 = plot::SheetOf({});
-const QColor kLeft(0xD32F2F);
-const QColor kRight(0x1565C0);
 
 Recording PageOf(const pages::PageSet& set, std::size_t index = 0, const DrawingStyle& style = {},
                  const QRectF& sheet = kA4) {

@@ -20,6 +20,9 @@ using plot::DrawingStyle;
 using plot_tests::DrawnArea;
 using plot_tests::DrawnLine;
 using plot_tests::DrawnText;
+using plot_tests::kA4;
+using plot_tests::kLeft;
+using plot_tests::kRight;
 using plot_tests::Record;
 using plot_tests::Recording;
 using plot_tests::SamplePages;
@@ -27,9 +30,6 @@ using testing::Contains;
 using testing::IsEmpty;
 using testing::SizeIs;
 
-const QRectF kA4 = plot::SheetOf({});
-const QColor kLeft(0xD32F2F);
-const QColor kRight(0x1565C0);
 const QColor kNormal(0xA0A0A0);
 constexpr double kNearly = 0.01;
 

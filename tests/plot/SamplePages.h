@@ -3,10 +3,19 @@
 
 #include <string>
 
+#include <QColor>
+#include <QRectF>
+
 #include "pages/Page.h"
+#include "plot/PageFiles.h"
 
 // Pages made by hand: what is drawn needs no trial.
 namespace plot_tests {
+
+// What they are drawn on, and the colours of the sides.
+inline const QRectF kA4 = plot::SheetOf({});
+inline const QColor kLeft(0xD32F2F);
+inline const QColor kRight(0x1565C0);
 
 struct Sample {
   int Strides = 1;  // a side

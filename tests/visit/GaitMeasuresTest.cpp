@@ -27,7 +27,7 @@ using Floor = std::array<float, 2>;
 
 // A walk of one left stride, 50 frames or 0.78125 s long. The own toe goes on by `step` a frame
 // from (7, 9) at its first strike; the opposite toe stands at `ahead` from there.
-sample::TrialBuilder Walk(const Floor& step, const Floor& ahead) {
+sample::TrialBuilder SteppedWalk(const Floor& step, const Floor& ahead) {
   constexpr auto kFirst = static_cast<float>(tests::kFirstStrikeFrame);
   sample::TrialBuilder builder = TrialOfOneStride("Left");
   builder
@@ -87,30 +87,30 @@ TEST(GaitMeasures, StepTimeIsThatOfTheStepThatEndsWithTheOwnStrike) {
 
 TEST(GaitMeasures, WalkAlongXGivesLengthsWithoutEnlargement) {
   // 50 frames of 24 mm; the opposite foot lands 900 mm ahead, 120 mm to the side.
-  ExpectLengths(MeasuresOf(Walk({24, 0}, {900, 120})), 1.2, 0.3, 0.12);
+  ExpectLengths(MeasuresOf(SteppedWalk({24, 0}, {900, 120})), 1.2, 0.3, 0.12);
 }
 
 TEST(GaitMeasures, WalkAlongYGivesTheSameLengths) {
-  ExpectLengths(MeasuresOf(Walk({0, 24}, {-120, 900})), 1.2, 0.3, 0.12);
+  ExpectLengths(MeasuresOf(SteppedWalk({0, 24}, {-120, 900})), 1.2, 0.3, 0.12);
 }
 
 TEST(GaitMeasures, WalkBackwardsAlongTheAxesGivesTheSameLengths) {
-  ExpectLengths(MeasuresOf(Walk({-24, 0}, {-900, 120})), 1.2, 0.3, 0.12);
-  ExpectLengths(MeasuresOf(Walk({0, -24}, {120, -900})), 1.2, 0.3, 0.12);
+  ExpectLengths(MeasuresOf(SteppedWalk({-24, 0}, {-900, 120})), 1.2, 0.3, 0.12);
+  ExpectLengths(MeasuresOf(SteppedWalk({0, -24}, {120, -900})), 1.2, 0.3, 0.12);
 }
 
 TEST(GaitMeasures, DiagonalWalkIsMeasuredAlongAndAcrossItsOwnDirection) {
   // The direction is (0.6, 0.8); 900 along it and 120 across, which is (-0.8, 0.6), make
   // (540 - 96, 720 + 72).
-  ExpectLengths(MeasuresOf(Walk({14.4F, 19.2F}, {444, 792})), 1.2, 0.3, 0.12);
+  ExpectLengths(MeasuresOf(SteppedWalk({14.4F, 19.2F}, {444, 792})), 1.2, 0.3, 0.12);
 }
 
 TEST(GaitMeasures, StepWidthIsADistanceOnEitherSideOfTheLine) {
-  ExpectLengths(MeasuresOf(Walk({24, 0}, {900, -120})), 1.2, 0.3, 0.12);
+  ExpectLengths(MeasuresOf(SteppedWalk({24, 0}, {900, -120})), 1.2, 0.3, 0.12);
 }
 
 TEST(GaitMeasures, StepIsNegativeWhereTheOwnFootLandsBehindTheOther) {
-  ExpectLengths(MeasuresOf(Walk({24, 0}, {1300, 120})), 1.2, -0.1, 0.12);
+  ExpectLengths(MeasuresOf(SteppedWalk({24, 0}, {1300, 120})), 1.2, -0.1, 0.12);
 }
 
 TEST(GaitMeasures, OppositeToeIsTakenAtTheOppositeStrike) {
@@ -137,13 +137,13 @@ TEST(GaitMeasures, HeightOfTheToesDoesNotCount) {
 }
 
 TEST(GaitMeasures, TreadmillHasTimesButNoLengths) {
-  ExpectNoLengths(MeasuresOf(Walk({1.98F, 0}, {30, 120})));  // 99 mm
-  ExpectNoLengths(MeasuresOf(Walk({0, 0}, {30, 120})));
-  ExpectLengths(MeasuresOf(Walk({2.02F, 0}, {30, 120})), 0.101, 0.071, 0.12);
+  ExpectNoLengths(MeasuresOf(SteppedWalk({1.98F, 0}, {30, 120})));  // 99 mm
+  ExpectNoLengths(MeasuresOf(SteppedWalk({0, 0}, {30, 120})));
+  ExpectLengths(MeasuresOf(SteppedWalk({2.02F, 0}, {30, 120})), 0.101, 0.071, 0.12);
 }
 
 TEST(GaitMeasures, TreadmillIsToldByMetresNotByTheFilesUnit) {
-  sample::TrialBuilder builder = Walk({0.02F, 0}, {0.9F, 0.12F});
+  sample::TrialBuilder builder = SteppedWalk({0.02F, 0}, {0.9F, 0.12F});
   builder.SetParam("POINT", sample::TextParam("UNITS", "m"));
   ExpectLengths(MeasuresOf(builder), 1.0, 0.1, 0.12);
 }
@@ -161,7 +161,7 @@ TEST(GaitMeasures, WithoutBothToeMarkersThereAreNoLengths) {
 TEST(GaitMeasures, ToeThatIsNotSeenAtAStrikeLeavesTheLengthsOut) {
   constexpr std::size_t kOwn = 1;
   constexpr std::size_t kOpposite = 2;
-  const auto walk = [] { return Walk({24, 0}, {900, 120}); };
+  const auto walk = [] { return SteppedWalk({24, 0}, {900, 120}); };
   ExpectNoLengths(MeasuresOf(walk().NotSeen(kOwn, tests::kFirstStrikeFrame)));
   ExpectNoLengths(MeasuresOf(walk().NotSeen(kOwn, tests::kClosingStrikeFrame)));
   ExpectNoLengths(MeasuresOf(walk().NotSeen(kOpposite, tests::kOppositeStrikeFrame)));
@@ -170,7 +170,7 @@ TEST(GaitMeasures, ToeThatIsNotSeenAtAStrikeLeavesTheLengthsOut) {
 TEST(GaitMeasures, ToeThatIsNotSeenElsewhereDoesNotMatter) {
   constexpr std::size_t kOwn = 1;
   constexpr std::size_t kOpposite = 2;
-  sample::TrialBuilder builder = Walk({24, 0}, {900, 120});
+  sample::TrialBuilder builder = SteppedWalk({24, 0}, {900, 120});
   builder.NotSeen(kOwn, tests::kFirstStrikeFrame - 1)
       .NotSeen(kOwn, tests::kFirstStrikeFrame + 1)
       .NotSeen(kOwn, tests::kOppositeStrikeFrame)
@@ -214,7 +214,7 @@ TEST(GaitMeasures, UnitsOfPositionsBecomeMetres) {
 }
 
 TEST(GaitMeasures, CentimetresGiveTheSameLengths) {
-  sample::TrialBuilder builder = Walk({2.4F, 0}, {90, 12});
+  sample::TrialBuilder builder = SteppedWalk({2.4F, 0}, {90, 12});
   builder.SetParam("POINT", sample::TextParam("UNITS", "cm"));
   ExpectLengths(MeasuresOf(builder), 1.2, 0.3, 0.12);
 }

@@ -17,7 +17,7 @@ using visit::Summary;
 constexpr std::size_t kSpeed = 0;
 constexpr std::size_t kStrideTime = 2;
 
-GaitMeasures Stride(GaitSide side, double strideTime, std::optional<double> speed) {
+GaitMeasures StrideOfSpeed(GaitSide side, double strideTime, std::optional<double> speed) {
   GaitMeasures stride;
   stride.Side = side;
   stride.StrideTime = strideTime;
@@ -26,8 +26,9 @@ GaitMeasures Stride(GaitSide side, double strideTime, std::optional<double> spee
 }
 
 TEST(Summary, TakesTheStridesOfEitherSide) {
-  const std::vector strides = {Stride(GaitSide::Left, 1.0, 1.2), Stride(GaitSide::Right, 1.5, 1.3),
-                               Stride(GaitSide::Left, 1.2, 1.4)};
+  const std::vector strides = {StrideOfSpeed(GaitSide::Left, 1.0, 1.2),
+                               StrideOfSpeed(GaitSide::Right, 1.5, 1.3),
+                               StrideOfSpeed(GaitSide::Left, 1.2, 1.4)};
   const SideStatistics time = Summary(strides).Measures()[kStrideTime];
   EXPECT_EQ(time.Left.Count(), 2);
   EXPECT_DOUBLE_EQ(*time.Left.Mean(), 1.1);
@@ -37,8 +38,8 @@ TEST(Summary, TakesTheStridesOfEitherSide) {
 }
 
 TEST(Summary, MissingMeasureDoesNotCountInItsNumber) {
-  const std::vector strides = {Stride(GaitSide::Left, 1.0, std::nullopt),
-                               Stride(GaitSide::Left, 1.0, 1.4)};
+  const std::vector strides = {StrideOfSpeed(GaitSide::Left, 1.0, std::nullopt),
+                               StrideOfSpeed(GaitSide::Left, 1.0, 1.4)};
   const Summary summary(strides);
   EXPECT_EQ(summary.Measures()[kSpeed].Left.Count(), 1);
   EXPECT_EQ(summary.Measures()[kSpeed].Left.Mean(), 1.4);
@@ -48,8 +49,9 @@ TEST(Summary, MissingMeasureDoesNotCountInItsNumber) {
 TEST(Summary, StridesOfSeveralTrialsArePooled) {
   // Three strides, not two trials: the mean is 2, not 1.75.
   Summary summary;
-  summary.Add(std::vector{Stride(GaitSide::Left, 1.0, {})});
-  summary.Add(std::vector{Stride(GaitSide::Left, 2.0, {}), Stride(GaitSide::Left, 3.0, {})});
+  summary.Add(std::vector{StrideOfSpeed(GaitSide::Left, 1.0, {})});
+  summary.Add(
+      std::vector{StrideOfSpeed(GaitSide::Left, 2.0, {}), StrideOfSpeed(GaitSide::Left, 3.0, {})});
   EXPECT_EQ(summary.Measures()[kStrideTime].Left.Count(), 3);
   EXPECT_DOUBLE_EQ(*summary.Measures()[kStrideTime].Left.Mean(), 2);
 }
