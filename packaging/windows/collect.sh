@@ -47,7 +47,7 @@ grep -rhoE '/usr/share/common-licenses/[A-Za-z0-9]+(-[0-9.]*[0-9])?' "$folder/li
   done
 for text in "$folder"/licences/*; do mv "$text" "$text.txt"; done
 "$source/packaging/windows/list_sources.sh" "${packages[@]}" >"$folder/licences/SOURCES.txt"
-cp "$source/cmake/mingw/toolkit/no-graphics-card.patch" "$folder/licences"
+cp "$source"/cmake/mingw/toolkit/*.patch "$folder/licences"
 
 # Every file alike, whatever the rights here.
 find "$folder" -type d -exec chmod 755 {} +

@@ -23,8 +23,11 @@ while read -r sum file; do
 done <"$toolkit/sources.sha256"
 cat <<'END'
 
-One change was made to them: no-graphics-card.patch, which stands beside this file and says what it
-is for, was applied to qt6-base.
+These changes were made to qt6-base; each stands beside this file and says what it is for:
+
+END
+(cd "$toolkit" && printf '  %s\n' *.patch)
+cat <<'END'
 
 From these source packages of Debian, had from the same places, come the runtime of the compiler, the
 fonts and smaller libraries, unchanged:

@@ -310,8 +310,10 @@ names_sources() {
   ! grep -n '://' "$1"
 }
 check "sources are named" names_sources "$unpacked/licences/SOURCES.txt"
-check "changes of sources" cmp "$root/cmake/mingw/toolkit/no-graphics-card.patch" \
-  "$unpacked/licences/no-graphics-card.patch"
+for change in "$root"/cmake/mingw/toolkit/*.patch; do
+  check "${change##*/} is there" cmp "$change" "$unpacked/licences/${change##*/}"
+  check "${change##*/} is named" grep -qxF "  ${change##*/}" "$unpacked/licences/SOURCES.txt"
+done
 
 echo "Starting with little"
 loads_with_it() { x86_64-w64-mingw32-objdump -p "$unpacked/$1" | grep -i "DLL Name: $2" >/dev/null; }

@@ -19,6 +19,19 @@ toolkit_option(OFF
   FEATURE_directwrite3 FEATURE_glib FEATURE_icu
   FEATURE_network FEATURE_opengl FEATURE_pkg_config FEATURE_sql FEATURE_vulkan FEATURE_xml
   FEATURE_zstd)
+# What the window has no use for and what takes long to build: widgets, dialogs and models, pictures
+# of other forms than those of its pages and icons, other calendars, and the names of file types,
+# whose table would hold the time of the build.
+toolkit_option(OFF
+  FEATURE_colordialog FEATURE_columnview FEATURE_commandlinkbutton
+  FEATURE_concatenatetablesproxymodel FEATURE_datawidgetmapper FEATURE_dial FEATURE_dockwidget
+  FEATURE_errormessage FEATURE_fontcombobox FEATURE_fontdialog FEATURE_gif FEATURE_graphicseffect
+  FEATURE_hijricalendar FEATURE_ico FEATURE_islamiccivilcalendar FEATURE_itemmodeltester
+  FEATURE_jalalicalendar FEATURE_jpeg FEATURE_keysequenceedit FEATURE_lcdnumber FEATURE_mdiarea
+  FEATURE_mimetype FEATURE_movie FEATURE_progressdialog FEATURE_scroller FEATURE_sharedmemory
+  FEATURE_splashscreen FEATURE_syntaxhighlighter FEATURE_systemsemaphore FEATURE_systemtrayicon
+  FEATURE_toolbox FEATURE_transposeproxymodel FEATURE_undocommand FEATURE_undogroup
+  FEATURE_undostack FEATURE_undoview FEATURE_wizard)
 # A header that it needs is left out of Debian's sources.
 toolkit_option(OFF FEATURE_tabletevent)
 toolkit_option(OFF

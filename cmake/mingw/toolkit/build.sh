@@ -65,7 +65,10 @@ END
   dpkg-source --no-check -x sources/qt6-base_*.dsc qtbase
   dpkg-source --no-check -x sources/qscintilla2_*.dsc qscintilla
   dpkg-source --no-check -x sources/qtsvg-opensource-src_*.dsc qtsvg
-  patch --directory=qtbase --strip=1 <"$here/no-graphics-card.patch"
+  local change
+  for change in "$here"/*.patch; do
+    patch --directory=qtbase --strip=1 <"$change"
+  done
 }
 
 # configure SOURCE BUILD OPTION...: the paths of this machine do not get into the libraries.
@@ -137,7 +140,7 @@ fi
 rm -rf "$work"
 mkdir "$work"
 cd "$work"
-echo "Building the toolkit for Windows once, into $folder: about 15 minutes on two processors."
+echo "Building the toolkit for Windows once, into $folder: about 20 minutes on two processors."
 set -m  # a process group of its own, which ends with this script
 build_all >"$log" 2>&1 </dev/null &
 job=$!
