@@ -5,6 +5,10 @@
 # called, not with the program. In the order of a link they come before the libraries of the same
 # names that load with it; a function that is missing here is an error of the linker.
 
+if(NOT CMAKE_GENERATOR STREQUAL "Ninja")
+  message(FATAL_ERROR "Late libraries are found from the folder in which Ninja links; no other does")
+endif()
+
 # vantrel_late_library(FILE FUNCTION...): adds that of FILE to VANTREL_LATE_LIBRARIES.
 function(vantrel_late_library file)
   cmake_path(GET file STEM name)
