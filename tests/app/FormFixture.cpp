@@ -2,12 +2,12 @@
 
 #include "tests/app/FormFixture.h"
 
+#include <iostream>
 #include <regex>
 
 #include <QApplication>
 #include <QDropEvent>
 #include <QMimeData>
-#include <QProcess>
 #include <QTest>
 #include <QUrl>
 
@@ -153,10 +153,18 @@ QStringList FormTest::TextBoxes() {
           Box("txtAnalogLabel")->text()};
 }
 
+void RunTool(QProcess& tool, const QStringList& arguments) {
+  for (int tries = 3; tries > 0; --tries) {
+    tool.start(QStringLiteral(VANTREL_REPORT), arguments);
+    if (tool.waitForStarted()) break;
+    std::cerr << "vantrel-report was not started: " << tool.errorString().toStdString() << '\n';
+  }
+  ASSERT_TRUE(tool.waitForFinished()) << tool.errorString().toStdString();
+}
+
 std::string ToolOutput(const QStringList& arguments) {
   QProcess tool;
-  tool.start(QStringLiteral(VANTREL_REPORT), arguments);
-  EXPECT_TRUE(tool.waitForFinished());
+  RunTool(tool, arguments);
   EXPECT_EQ(tool.exitCode(), 0) << tool.readAllStandardError().toStdString();
   return tool.readAllStandardOutput().toStdString();
 }

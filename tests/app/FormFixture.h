@@ -7,6 +7,7 @@
 #include <vector>
 
 #include <QLineEdit>
+#include <QProcess>
 #include <QPushButton>
 #include <QString>
 #include <QStringList>
@@ -91,6 +92,11 @@ class FormTest : public ::testing::Test {
  private:
   QPoint ShowNode(const QStringList& path);
 };
+
+// Runs vantrel-report with these arguments to its end, which fails the test where it does not come.
+// A system may refuse to start a program that it starts a moment later, which says nothing of the
+// tool: a start is tried three times, and each refusal is told.
+void RunTool(QProcess& tool, const QStringList& arguments);
 
 // What vantrel-report prints for these arguments; fails the test where it ends with a failure.
 std::string ToolOutput(const QStringList& arguments);

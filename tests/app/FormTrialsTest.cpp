@@ -27,8 +27,7 @@ using tests::FormTest;
 // What the tool prints; nothing where it refuses or fails.
 std::optional<std::string> Printed(const QStringList& arguments) {
   QProcess tool;
-  tool.start(QStringLiteral(VANTREL_REPORT), arguments);
-  EXPECT_TRUE(tool.waitForFinished());
+  tests::RunTool(tool, arguments);
   if (tool.exitCode() != 0) return std::nullopt;
   return tool.readAllStandardOutput().toStdString();
 }
