@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <csignal>
-#include <ctime>
 #include <unistd.h>
 
 #include "support/Interruption.h"
@@ -38,21 +38,36 @@ sigset_t InterruptionsNotIgnored() {
   return set;
 }
 
-// Sent again with the signal's own effect, the program ends with the status of the signal. This
-// thread is in no UnbrokenWork, which would have kept the signal off.
-extern "C" void EndBetweenWorks(int signal) {
-  worksUnderWay::ending = true;
-  constexpr timespec kMoment{0, 1'000'000};
-  while (worksUnderWay::count > 0) ::nanosleep(&kMoment, nullptr);
+// The first interruption that came; 0 before one has.
+std::atomic<int> interruption = 0;
+static_assert(std::atomic<int>::is_always_lock_free);
+
+// Sent again with the signal's own effect, the program ends with the status of the signal.
+void EndAsInterrupted() {
+  const int signal = interruption;
   struct sigaction action {};
   action.sa_handler = SIG_DFL;
   ::sigaction(signal, &action, nullptr);
+  sigset_t itself;
+  ::sigemptyset(&itself);
+  ::sigaddset(&itself, signal);
+  ::pthread_sigmask(SIG_UNBLOCK, &itself, nullptr);
   ::raise(signal);
+}
+
+// Never waits here: the thread that is met may hold what a work needs for its end, a lock of the
+// heap for one. Where works are under way it goes on, and the last of them ends the program.
+extern "C" void EndBetweenWorks(int signal) {
+  int none = 0;
+  interruption.compare_exchange_strong(none, signal);
+  worksUnderWay::ending = true;
+  if (worksUnderWay::count == 0) EndAsInterrupted();
 }
 
 }  // namespace
 
 void worksUnderWay::AwaitTheEnd() {
+  if (count == 0) EndAsInterrupted();
   for (;;) ::pause();
 }
 
@@ -60,6 +75,7 @@ void LetInterruptionsWait() {
   struct sigaction action {};
   action.sa_handler = EndBetweenWorks;
   action.sa_mask = InterruptionsNotIgnored();
+  action.sa_flags = SA_RESTART;
   for (const int signal : kInterruptions) {
     if (!IsIgnored(signal)) ::sigaction(signal, &action, nullptr);
   }

@@ -6,12 +6,14 @@
 // What the two systems share of Interruption.h. Nothing else uses it.
 namespace modAllPurpose::worksUnderWay {
 
-// Both are all that a signal handler touches.
+// Whoever raises `ending` looks at `count` behind that, and whoever lowers `count` looks at
+// `ending` behind that, so that one of them sees that nothing is under way any more.
 inline std::atomic<int> count = 0;
 inline std::atomic<bool> ending = false;
 static_assert(std::atomic<int>::is_always_lock_free && std::atomic<bool>::is_always_lock_free);
 
-// Rests while the program ends in another thread.
+// Rests while the program ends, for a thread that has ended its work. Where the system does not end
+// the program in a thread of its own, the thread that ended the last work does it.
 [[noreturn]] void AwaitTheEnd();
 
 inline void Begin() {

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <atomic>
 #include <chrono>
 #include <csignal>
 #include <filesystem>
 #include <functional>
+#include <mutex>
 #include <string>
 #include <sys/wait.h>
 #include <thread>
@@ -28,15 +30,17 @@ using modAllPurpose::WholeFile;
 
 constexpr int kWentOn = 99;
 
-// How a process ends that does `work` and nothing else.
+// How a process ended.
 struct Ending {
   int Signal;
   int Status;
 };
 
+// How a process ends that does `work` and nothing else, within a minute.
 Ending EndOf(const std::function<void()>& work) {
   const pid_t child = ::fork();
   if (child == 0) {
+    ::alarm(60);
     work();
     ::_exit(kWentOn);
   }
@@ -138,6 +142,49 @@ TEST_F(Interruption, MetByAWorkThatOnlyWaitsWaitsForThatOfAnotherThread) {
   });
   EXPECT_EQ(end.Signal, SIGINT);
   EXPECT_TRUE(fs::is_empty(folder_.Path()));
+}
+
+TEST_F(Interruption, MetByAThreadThatHoldsWhatAWorkNeedsLetsItGoOn) {
+  const Ending end = EndOf([] {
+    LetInterruptionsWait();
+    std::mutex needed;
+    std::atomic<bool> isHeld = false;
+    std::atomic<bool> isUnderWay = false;
+    std::thread other([&] {
+      const std::lock_guard lock(needed);
+      isHeld = true;
+      isHeld.notify_one();
+      isUnderWay.wait(false);
+      std::raise(SIGTERM);
+    });
+    isHeld.wait(false);
+    const UnbrokenWork work;
+    isUnderWay = true;
+    isUnderWay.notify_one();
+    const std::lock_guard lock(needed);
+  });
+  EXPECT_EQ(end.Signal, SIGTERM);
+}
+
+TEST_F(Interruption, BehindAnotherDoesNotChangeHowTheProgramEnds) {
+  const Ending end = EndOf([] {
+    LetInterruptionsWait();
+    std::atomic<bool> isUnderWay = false;
+    std::atomic<bool> isInterrupted = false;
+    std::thread([&] {
+      const UnbrokenWork work;
+      isUnderWay = true;
+      isUnderWay.notify_one();
+      isInterrupted.wait(false);
+    }).detach();
+    isUnderWay.wait(false);
+    std::raise(SIGTERM);
+    std::raise(SIGINT);
+    isInterrupted = true;
+    isInterrupted.notify_one();
+    for (;;) ::pause();
+  });
+  EXPECT_EQ(end.Signal, SIGTERM);
 }
 
 TEST_F(Interruption, OfASetOfFilesLeavesNoneOfThem) {
