@@ -5,6 +5,7 @@
 #include <fcntl.h>
 #include <stdexcept>
 #include <unistd.h>
+#include <utility>
 
 namespace tests {
 
@@ -15,18 +16,19 @@ int OutputFile(const std::filesystem::path& path) {
   return descriptor;
 }
 
-void BecomeTool(const std::vector<std::string>& arguments, const std::filesystem::path& folder,
-                int out, int err) {
+ToolCommand::ToolCommand(std::vector<std::string> arguments, std::filesystem::path folder)
+    : words_(std::move(arguments)), folder_(std::move(folder)) {
+  words_.insert(words_.begin(), VANTREL_REPORT_TOOL);
+  for (std::string& word : words_) argv_.push_back(word.data());
+  argv_.push_back(nullptr);
+}
+
+void ToolCommand::Become(int out, int err) const {
   constexpr int kCannotRun = 127;
   ::dup2(out, STDOUT_FILENO);
   ::dup2(err, STDERR_FILENO);
-  if (!folder.empty() && ::chdir(folder.c_str()) != 0) ::_exit(kCannotRun);
-  std::string program = VANTREL_REPORT_TOOL;
-  std::vector<std::string> words = arguments;
-  std::vector<char*> argv = {program.data()};
-  for (std::string& word : words) argv.push_back(word.data());
-  argv.push_back(nullptr);
-  ::execv(program.c_str(), argv.data());
+  if (!folder_.empty() && ::chdir(folder_.c_str()) != 0) ::_exit(kCannotRun);
+  ::execv(argv_.front(), argv_.data());
   ::_exit(kCannotRun);
 }
 

@@ -11,9 +11,25 @@ namespace tests {
 // process.
 int OutputFile(const std::filesystem::path& path);
 
-// Makes this process, a child of the test, the built vantrel-report with `arguments` in `folder`
-// (the current one where it is empty), its output in those files. Ends with 127 where that fails.
-[[noreturn]] void BecomeTool(const std::vector<std::string>& arguments,
-                             const std::filesystem::path& folder, int out, int err);
+// The command line of the built vantrel-report, made before the fork: behind it a child of a
+// process with several threads may not ask for memory, since a lock of the heap may be held for
+// ever.
+class ToolCommand {
+ public:
+  // In `folder`, the current one where it is empty.
+  ToolCommand(std::vector<std::string> arguments, std::filesystem::path folder);
+  ToolCommand(const ToolCommand&) = delete;
+  ToolCommand& operator=(const ToolCommand&) = delete;
+  ~ToolCommand() = default;
+
+  // Makes this process, a child of the test, the tool, with its output in those files. Ends with
+  // 127 where that fails.
+  [[noreturn]] void Become(int out, int err) const;
+
+ private:
+  std::vector<std::string> words_;
+  std::vector<char*> argv_;  // the words, and behind them a null
+  std::filesystem::path folder_;
+};
 
 }  // namespace tests

@@ -63,13 +63,14 @@ TEST(GcdTogether, OneOfTwoRunsWritesAllItsFilesAndTheOtherNone) {
   }
 }
 
-// The signal that ended a run which is sent `signal` after a while; 0 where it came to its end.
+// The signal that ended a run which is sent `signal` after a while; 0 where it came to its end,
+// that of a kill where it came to none.
 int EndAfter(const ToolInFolder& tool, const std::vector<std::string>& arguments, int signal,
              std::chrono::microseconds while_) {
   tests::RunningTool run(arguments, tests::RunningTool::Output::File, tool.Path());
   std::this_thread::sleep_for(while_);
   run.Send(signal);
-  return run.Wait();
+  return run.WaitAtMost(std::chrono::minutes(1));
 }
 
 TEST(GcdInterrupted, LeavesAWholeSetOrNothing) {

@@ -43,8 +43,9 @@ RunningTool::RunningTool(const std::vector<std::string>& arguments, Output outpu
   int err = OutputFile(folder_ / "err");
   if (output != Output::File) Replace(output == Output::FileAndUnreadErrors ? err : out, output);
   if (IsTerminal(output)) ::close(std::exchange(err, ::dup(out)));
+  const ToolCommand command(arguments, folder);
   child_ = ::fork();
-  if (child_ == 0) BecomeTool(arguments, folder, out, err);
+  if (child_ == 0) command.Become(out, err);
   ::close(out);
   ::close(err);
   if (IsTerminal(output)) ReadTerminal();

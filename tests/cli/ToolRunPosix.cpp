@@ -40,10 +40,11 @@ ToolResult RunTool(const std::vector<std::string>& arguments, const ToolSurround
                       ? PipeWithoutReader()
                       : OutputFile(surroundings.Path.empty() ? collected : surroundings.Path);
   const int err = surroundings.ClosedErrorPipe ? PipeWithoutReader() : OutputFile(complaints);
+  const ToolCommand command(arguments, folder);
   const pid_t child = ::fork();
   if (child == 0) {
     LimitMemory(surroundings.MostMemory);
-    BecomeTool(arguments, folder, out, err);
+    command.Become(out, err);
   }
   ::close(out);
   ::close(err);
