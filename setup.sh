@@ -14,11 +14,15 @@ packages=(
   x11-utils xauth xvfb
 )
 
+# With its preloader Wine has the addresses to itself that it needs; otherwise a start in some
+# thousands ends for the heap's lying there.
+wine=(wine64 wine64-preloader)
+
 case "${1:-}" in
   '') ;;
-  --windows) packages+=(g++-mingw-w64-x86-64 googletest icoutils wine64) ;;
+  --windows) packages+=(g++-mingw-w64-x86-64 googletest icoutils "${wine[@]}") ;;
   --windows-window)
-    packages+=(g++-mingw-w64-x86-64 googletest icoutils netpbm nsis wine64) ;;
+    packages+=(g++-mingw-w64-x86-64 googletest icoutils netpbm nsis "${wine[@]}") ;;
   --checks)
     packages+=(cppcheck gcovr mypy valgrind)
     # For the scripts of the manual.

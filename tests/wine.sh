@@ -25,7 +25,10 @@ start_wine() {
 mkdir -p "$build"
 exec 9>"$build/wine.lock"
 flock 9
-start_wine 9>&- >/dev/null 2>&1 </dev/null
+if ! start_wine 9>&- >/dev/null 2>&1 </dev/null; then
+  echo "$0: Wine does not start" >&2
+  exit 1
+fi
 exec 9>&-
 # A share of another machine, as far as programs can tell. A Wine folder that is not made yet must be
 # empty for that.
