@@ -5,7 +5,8 @@ namespace modAllPurpose {
 
 // From now on an interruption of the program waits until no UnbrokenWork is under way in any of
 // its threads: INT, TERM, HUP and QUIT, on Windows Ctrl+C, Ctrl+Break, the end of the console or
-// of the session. Then the program ends as it would have without. A signal that the program was
+// of the session. Meanwhile no other such work begins, and threads that are in none go on. Then the
+// program ends as it would have without. A signal that the program was
 // started to ignore stays ignored. For a program's start.
 void LetInterruptionsWait();
 

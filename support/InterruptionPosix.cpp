@@ -42,8 +42,11 @@ sigset_t InterruptionsNotIgnored() {
 std::atomic<int> interruption = 0;
 static_assert(std::atomic<int>::is_always_lock_free);
 
-// Sent again with the signal's own effect, the program ends with the status of the signal.
-void EndAsInterrupted() {
+// Sent again with the signal's own effect, the program ends with the status of the signal; the
+// first process of a container, which no signal of its own ends, with the one that a shell says for
+// it.
+[[noreturn]] void EndAsInterrupted() {
+  constexpr int kEndedBySignal = 128;
   const int signal = interruption;
   struct sigaction action {};
   action.sa_handler = SIG_DFL;
@@ -53,6 +56,13 @@ void EndAsInterrupted() {
   ::sigaddset(&itself, signal);
   ::pthread_sigmask(SIG_UNBLOCK, &itself, nullptr);
   ::raise(signal);
+  ::_exit(kEndedBySignal + signal);
+}
+
+// Lets the interruptions come that waited for this thread; then nothing of it goes on.
+void LetThemCome() {
+  ::pthread_sigmask(SIG_SETMASK, &own.MaskBefore, nullptr);
+  if (worksUnderWay::ending) worksUnderWay::AwaitTheEnd();
 }
 
 // Never waits here: the thread that is met may hold what a work needs for its end, a lock of the
@@ -75,7 +85,7 @@ void LetInterruptionsWait() {
   struct sigaction action {};
   action.sa_handler = EndBetweenWorks;
   action.sa_mask = InterruptionsNotIgnored();
-  action.sa_flags = SA_RESTART;
+  action.sa_flags = SA_RESTART;  // what was under way in the thread that was met goes on
   for (const int signal : kInterruptions) {
     if (!IsIgnored(signal)) ::sigaction(signal, &action, nullptr);
   }
@@ -94,13 +104,13 @@ UnbrokenWork::UnbrokenWork() {
 UnbrokenWork::~UnbrokenWork() {
   if (--own.Depth > 0) return;
   worksUnderWay::End();
-  ::pthread_sigmask(SIG_SETMASK, &own.MaskBefore, nullptr);
+  LetThemCome();
 }
 
 InterruptibleWait::InterruptibleWait() {
   if (own.Depth == 0) return;
   worksUnderWay::End();
-  ::pthread_sigmask(SIG_SETMASK, &own.MaskBefore, nullptr);
+  LetThemCome();
 }
 
 InterruptibleWait::~InterruptibleWait() {

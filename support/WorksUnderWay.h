@@ -12,8 +12,8 @@ inline std::atomic<int> count = 0;
 inline std::atomic<bool> ending = false;
 static_assert(std::atomic<int>::is_always_lock_free && std::atomic<bool>::is_always_lock_free);
 
-// Rests while the program ends, for a thread that has ended its work. Where the system does not end
-// the program in a thread of its own, the thread that ended the last work does it.
+// Rests while the program ends, for a thread between its works. Where the system does not end the
+// program in a thread of its own, the thread that ended the last work does it.
 [[noreturn]] void AwaitTheEnd();
 
 inline void Begin() {

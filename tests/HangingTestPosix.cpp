@@ -6,8 +6,8 @@
 
 #include <gtest/gtest.h>
 
-// Ends a test program in which one test takes minutes, and says which: who ends the program from
-// outside tells no more than its name. Linked with every test program.
+// Ends a test program in which one test takes minutes, and says which: who ends all of its tests
+// from outside tells no more than its name. Linked with every test program.
 namespace {
 
 constexpr unsigned kMostSeconds = 300;

@@ -65,8 +65,8 @@ TEST(GcdTogether, OneOfTwoRunsWritesAllItsFilesAndTheOtherNone) {
 
 // The signal that ended a run which is sent `signal` after a while; 0 where it came to its end,
 // that of a kill where it came to none.
-int EndAfter(const ToolInFolder& tool, const std::vector<std::string>& arguments, int signal,
-             std::chrono::microseconds while_) {
+[[nodiscard]] int EndAfter(const ToolInFolder& tool, const std::vector<std::string>& arguments,
+                           int signal, std::chrono::microseconds while_) {
   tests::RunningTool run(arguments, tests::RunningTool::Output::File, tool.Path());
   std::this_thread::sleep_for(while_);
   run.Send(signal);
@@ -98,8 +98,9 @@ TEST(GcdInterrupted, LeavesEveryReplacedFileWhole) {
   const ToolInFolder tool;
   ASSERT_EQ(tool.Run({"--gender", "male", "gcd", kSampleWalk}).Status, 0);
   for (int i = 0; i < 60; ++i) {
-    EndAfter(tool, {"--overwrite", "--gender", "female", "gcd", kSampleWalk}, SIGTERM,
-             std::chrono::microseconds(1000 * i));
+    const int ended = EndAfter(tool, {"--overwrite", "--gender", "female", "gcd", kSampleWalk},
+                               SIGTERM, std::chrono::microseconds(1000 * i));
+    EXPECT_TRUE(ended == 0 || ended == SIGTERM) << ended;
     EXPECT_EQ(NamesIn(tool.Path()).size(), kStrides + 1) << "something temporary is left";
     EXPECT_EQ(FilesOf(tool, "Male") + FilesOf(tool, "Female"), kStrides);
   }

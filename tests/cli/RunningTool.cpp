@@ -48,7 +48,7 @@ RunningTool::RunningTool(const std::vector<std::string>& arguments, Output outpu
   if (child_ == 0) command.Become(out, err);
   ::close(out);
   ::close(err);
-  if (IsTerminal(output)) ReadTerminal();
+  isTerminal_ = IsTerminal(output);
 }
 
 void RunningTool::Replace(int& output, Output by) {
@@ -86,6 +86,7 @@ std::string RunningTool::ReadSlowly() {
 void RunningTool::Send(int signal) const { ::kill(child_, signal); }
 
 int RunningTool::Wait() {
+  if (isTerminal_ && child_ > 0) ReadTerminal();
   if (child_ > 0) ::waitpid(std::exchange(child_, -1), &status_, 0);
   return WIFSIGNALED(status_) ? WTERMSIG(status_) : 0;
 }

@@ -36,7 +36,8 @@ class RunningTool {
 
   void Send(int signal) const;
 
-  // Waits for the end: the number of the signal that ended it, 0 for none.
+  // Waits for the end: the number of the signal that ended it, 0 for none. Reads meanwhile what a
+  // terminal is told.
   int Wait();
   // The same; it is killed where it does not end for so long.
   int WaitAtMost(std::chrono::milliseconds time);
@@ -47,7 +48,7 @@ class RunningTool {
   // Waits until so much of the output is there, or the tool has ended.
   void AwaitOutput(std::size_t bytes) const;
 
-  // What it has printed by now; of a terminal with all that it was told.
+  // What it has printed by now; to a terminal what Wait read, with what it was told besides.
   std::string Out() const;
   std::string Err() const;
 
@@ -60,6 +61,7 @@ class RunningTool {
   pid_t child_ = -1;
   int status_ = 0;
   int readEnd_ = -1;  // of the pipe or the terminal
+  bool isTerminal_ = false;
   std::string shown_;
 };
 

@@ -5,11 +5,14 @@
 #include <csignal>
 #include <filesystem>
 #include <functional>
+#include <future>
 #include <mutex>
+#include <sched.h>
 #include <string>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -166,25 +169,71 @@ TEST_F(Interruption, MetByAThreadThatHoldsWhatAWorkNeedsLetsItGoOn) {
   EXPECT_EQ(end.Signal, SIGTERM);
 }
 
+// A work in a thread of its own that lasts for a moment and is under way when this returns.
+void WorkForAMomentElsewhere() {
+  std::promise<void> begun;
+  const std::future<void> isUnderWay = begun.get_future();
+  std::thread([begun = std::move(begun)]() mutable {
+    const UnbrokenWork work;
+    begun.set_value();
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+  }).detach();
+  isUnderWay.wait();
+}
+
+TEST_F(Interruption, ThatWaitedForAWorkLetsNothingBehindItHappen) {
+  const Ending end = EndOf([] {
+    LetInterruptionsWait();
+    WorkForAMomentElsewhere();
+    {
+      const UnbrokenWork work;
+      std::raise(SIGTERM);
+    }
+    ::_exit(kWentOn);
+  });
+  EXPECT_EQ(end.Signal, SIGTERM);
+}
+
+TEST_F(Interruption, ThatWaitedForAWorkLetsNothingOfItsWaitHappen) {
+  const Ending end = EndOf([] {
+    LetInterruptionsWait();
+    WorkForAMomentElsewhere();
+    const UnbrokenWork work;
+    std::raise(SIGTERM);
+    const modAllPurpose::InterruptibleWait wait;
+    ::_exit(kWentOn);
+  });
+  EXPECT_EQ(end.Signal, SIGTERM);
+}
+
 TEST_F(Interruption, BehindAnotherDoesNotChangeHowTheProgramEnds) {
   const Ending end = EndOf([] {
     LetInterruptionsWait();
-    std::atomic<bool> isUnderWay = false;
-    std::atomic<bool> isInterrupted = false;
-    std::thread([&] {
-      const UnbrokenWork work;
-      isUnderWay = true;
-      isUnderWay.notify_one();
-      isInterrupted.wait(false);
-    }).detach();
-    isUnderWay.wait(false);
+    WorkForAMomentElsewhere();
     std::raise(SIGTERM);
     std::raise(SIGINT);
-    isInterrupted = true;
-    isInterrupted.notify_one();
     for (;;) ::pause();
   });
   EXPECT_EQ(end.Signal, SIGTERM);
+}
+
+// Becomes the parent of the first process of a container; false where that is not allowed.
+bool StartContainer() {
+  return ::unshare(CLONE_NEWPID) == 0 || ::unshare(CLONE_NEWUSER | CLONE_NEWPID) == 0;
+}
+
+TEST_F(Interruption, EndsTheFirstProcessOfAContainerWithTheStatusOfAShell) {
+  constexpr int kNotAllowed = 98;
+  const Ending end = EndOf([] {
+    if (!StartContainer()) ::_exit(kNotAllowed);
+    const Ending first = EndOf([] {
+      LetInterruptionsWait();
+      std::raise(SIGTERM);
+    });
+    ::_exit(first.Signal == 0 ? first.Status : 0);
+  });
+  if (end.Status == kNotAllowed) GTEST_SKIP() << "no containers can be made here";
+  EXPECT_EQ(end.Status, 128 + SIGTERM);
 }
 
 TEST_F(Interruption, OfASetOfFilesLeavesNoneOfThem) {
