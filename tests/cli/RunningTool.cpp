@@ -28,7 +28,7 @@ std::array<int, 2> EndsOf(RunningTool::Output output) {
   std::array<int, 2> ends{};
   winsize narrow{5, 20, 0, 0};
   winsize* const size = output == RunningTool::Output::NarrowTerminal ? &narrow : nullptr;
-  const int failed = IsTerminal(output) ? ::openpty(&ends[0], &ends[1], nullptr, nullptr, size)
+  const int failed = IsTerminal(output) ? ::openpty(ends.data(), &ends[1], nullptr, nullptr, size)
                                         : ::pipe2(ends.data(), O_CLOEXEC);
   if (failed != 0) throw std::runtime_error("cannot make a pipe or terminal");
   if (output == RunningTool::Output::ImpatientTerminal) ::fcntl(ends[1], F_SETFL, O_NONBLOCK);
@@ -72,7 +72,7 @@ void RunningTool::ReadTerminal() {
   }
 }
 
-std::string RunningTool::ReadSlowly() {
+std::string RunningTool::ReadSlowly() const {
   std::string all;
   std::array<char, 4096> piece{};
   for (ssize_t size = 1; size > 0;) {

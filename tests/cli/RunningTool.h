@@ -43,7 +43,7 @@ class RunningTool {
   int WaitAtMost(std::chrono::milliseconds time);
 
   // What it prints into a pipe that nobody has read, read slowly to its end.
-  std::string ReadSlowly();
+  std::string ReadSlowly() const;
 
   // Waits until so much of the output is there, or the tool has ended.
   void AwaitOutput(std::size_t bytes) const;
