@@ -71,6 +71,14 @@ END
   done
 }
 
+# What a library holds of the time of its building is the time of its sources, whatever the caller's
+# surroundings say: resources would hold that of their files or the caller's.
+take_time_of_sources() {
+  SOURCE_DATE_EPOCH=$(dpkg-parsechangelog -l qtbase/debian/changelog -S Timestamp)
+  export SOURCE_DATE_EPOCH LC_ALL=C.UTF-8 TZ=UTC
+  unset QT_RCC_SOURCE_DATE_OVERRIDE
+}
+
 # configure SOURCE BUILD OPTION...: the paths of this machine do not get into the libraries.
 configure() {
   local source=$1 build=$2 flags="-ffile-prefix-map=$work=. -ffile-prefix-map=$work/$1=."
@@ -103,6 +111,7 @@ keep_licences() {
 
 build_all() {
   fetch_sources
+  take_time_of_sources
   build_base
   build_rest
   keep_licences
