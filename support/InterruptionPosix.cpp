@@ -59,7 +59,7 @@ static_assert(std::atomic<int>::is_always_lock_free);
   ::_exit(kEndedBySignal + signal);
 }
 
-// Lets the interruptions come that waited for this thread; then nothing of it goes on.
+// Lets the interruptions come that waited for this thread; behind one it rests for good.
 void LetThemCome() {
   ::pthread_sigmask(SIG_SETMASK, &own.MaskBefore, nullptr);
   if (worksUnderWay::ending) worksUnderWay::AwaitTheEnd();

@@ -93,9 +93,8 @@ class FormTest : public ::testing::Test {
   QPoint ShowNode(const QStringList& path);
 };
 
-// Runs vantrel-report with these arguments to its end, which fails the test where it does not come.
-// A system may refuse to start a program that it starts a moment later, which says nothing of the
-// tool: a start is tried three times, and each refusal is told.
+// Runs vantrel-report with these arguments to its end; fails the test, and says why, where that
+// does not come.
 void RunTool(QProcess& tool, const QStringList& arguments);
 
 // What vantrel-report prints for these arguments; fails the test where it ends with a failure.

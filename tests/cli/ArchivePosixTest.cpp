@@ -140,8 +140,11 @@ TEST_F(LargeArchive, InterruptedLeavesWholeRowsInAFile) {
     RunningTool tool(Command(i % 2 == 0 ? "1" : "4", {"--format", "csv", "measures"}),
                      RunningTool::Output::File);
     tool.AwaitOutput(static_cast<std::size_t>(i) * 30 * kFiles + 1);
-    tool.Send(std::array{SIGINT, SIGTERM, SIGHUP}[static_cast<std::size_t>(i % 3)]);
-    if (tool.WaitAtMost(kPatience) != 0) ++interrupted;
+    const int signal = std::array{SIGINT, SIGTERM, SIGHUP}[static_cast<std::size_t>(i % 3)];
+    tool.Send(signal);
+    const int ended = tool.WaitAtMost(kPatience);
+    EXPECT_TRUE(ended == 0 || ended == signal) << ended;
+    if (ended != 0) ++interrupted;
     ExpectWholeLines(tool.Out());
   }
   EXPECT_GT(interrupted, 0);
@@ -154,7 +157,9 @@ TEST_F(LargeArchive, InterruptedLeavesAWholeArrayInAFile) {
                      RunningTool::Output::File);
     tool.AwaitOutput(static_cast<std::size_t>(i) * 60 * kFiles + 1);
     tool.Send(SIGINT);
-    if (tool.WaitAtMost(kPatience) == SIGINT) ++interrupted;
+    const int ended = tool.WaitAtMost(kPatience);
+    EXPECT_TRUE(ended == 0 || ended == SIGINT) << ended;
+    if (ended != 0) ++interrupted;
     const std::string out = tool.Out();
     EXPECT_FALSE(rapidjson::Document().Parse(out.c_str()).HasParseError())
         << out.substr(out.size() < 200 ? 0 : out.size() - 200);

@@ -39,7 +39,7 @@ class RunningTool {
   // Waits for the end: the number of the signal that ended it, 0 for none. Reads meanwhile what a
   // terminal is told.
   int Wait();
-  // The same; it is killed where it does not end for so long.
+  // The same where no terminal is to be read; it is killed where it does not end for so long.
   int WaitAtMost(std::chrono::milliseconds time);
 
   // What it prints into a pipe that nobody has read, read slowly to its end.
