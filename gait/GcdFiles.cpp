@@ -105,14 +105,26 @@ std::vector<WholeFile> GcdFiles::All() {
 
 std::string GcdFiles::WriteAllWhereFree() { return modAllPurpose::WriteFilesWhereFree(All()); }
 
+void GcdFiles::RefuseTrials(std::span<const WholeFile> files) const {
+  for (const WholeFile& file : files) RefuseTrial(file.Path);
+}
+
 void GcdFiles::ReplaceAll(const std::function<void(const std::string& name)>& written) {
   const std::vector<WholeFile> files = All();
-  for (const WholeFile& file : files) RefuseTrial(file.Path);
-  for (const auto& [name, text] : files) {
-    RefuseTrial(name);
-    modAllPurpose::WriteFileInOneStep(name, text);
-    written(name);
+  RefuseTrials(files);
+  std::vector<std::string> replaced;
+  const auto tell = [&] {
+    for (const std::string& name : replaced) written(name);
+  };
+  try {
+    modAllPurpose::WriteFilesTogether(
+        files, {.LastLook = [&] { RefuseTrials(files); },
+                .Replaced = [&](const WholeFile& file) { replaced.push_back(file.Path); }});
+  } catch (...) {
+    tell();
+    throw;
   }
+  tell();
 }
 
 }  // namespace modVantrel

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -54,14 +55,17 @@ class GcdFiles {
   // Writes the files of all strides, or none: empty, or a name that was taken.
   std::string WriteAllWhereFree();
 
-  // Writes the files of all strides in place of older ones and tells of each as soon as it is
-  // written. Nothing is changed before all texts are made and no name is that of a trial.
+  // Writes the files of all strides in place of older ones and then tells of each that is written,
+  // in the order of the strides, also where an error ended it. Nothing is changed before all files
+  // are complete on disk and no name is that of a trial; an interruption leaves all or none of them
+  // new.
   void ReplaceAll(const std::function<void(const std::string& name)>& written);
 
  private:
   std::string Text(std::int32_t strideIndex);
   std::vector<modAllPurpose::WholeFile> All();
   void RefuseTrial(const std::string& name) const;
+  void RefuseTrials(std::span<const modAllPurpose::WholeFile> files) const;
 
   const FileState& state_;
   std::string outputFolder_;

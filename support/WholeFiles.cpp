@@ -66,7 +66,7 @@ class Replacement {
       WriteFileInOneStep(wanted_.Path, wanted_.Text);  // the name was taken meanwhile
     }
   }
-  const std::string& Path() const { return wanted_.Path; }
+  const WholeFile& File() const { return wanted_; }
 
  private:
   fs::path Folder() const { return (old_ ? old_->Path : NativePath(wanted_.Path)).parent_path(); }
@@ -95,6 +95,12 @@ class FilesOnTrial {
   std::vector<std::pair<fs::path, FileIdentity>> files_;
 };
 
+// Ends a work that is better taken back than finished; the program ends before the error is told.
+void ThrowIfInterrupted(const WholeFile& next) {
+  if (!UnbrokenWork::IsInterrupted()) return;
+  throw RuntimeError(ErrorNumber::PathFileAccessError, next.Path);
+}
+
 // In the order of their names, however each of them is written.
 std::vector<const WholeFile*> InOrder(std::span<const WholeFile> files) {
   std::multimap<std::string, const WholeFile*> byName;
@@ -120,9 +126,7 @@ std::string WriteFilesWhereFree(std::span<const WholeFile> files) {
   const UnbrokenWork work;
   FilesOnTrial made;
   for (const WholeFile* file : InOrder(files)) {
-    if (UnbrokenWork::IsInterrupted()) {
-      throw RuntimeError(ErrorNumber::PathFileAccessError, file->Path);
-    }
+    ThrowIfInterrupted(*file);
     const auto identity =
         Naming(file->Path, [&] { return MakeWhereFree(NativePath(file->Path), file->Text); });
     if (!identity) return file->Path;
@@ -143,17 +147,17 @@ void WriteFileInOneStep(const std::string& path, std::string_view text) {
   });
 }
 
-void WriteFilesTogether(std::span<const WholeFile> files) {
+void WriteFilesTogether(std::span<const WholeFile> files, const StepsTogether& steps) {
   const UnbrokenWork work;
   std::deque<Replacement> replacements;
-  for (const WholeFile* file : InOrder(files)) {
-    if (UnbrokenWork::IsInterrupted()) {
-      throw RuntimeError(ErrorNumber::PathFileAccessError, file->Path);
-    }
-    Naming(file->Path, [&] { replacements.emplace_back(*file); });
+  for (const WholeFile& file : files) {
+    ThrowIfInterrupted(file);
+    Naming(file.Path, [&] { replacements.emplace_back(file); });
   }
+  steps.LastLook();
   for (Replacement& replacement : replacements) {
-    Naming(replacement.Path(), [&] { replacement.TakePlace(); });
+    Naming(replacement.File().Path, [&] { replacement.TakePlace(); });
+    steps.Replaced(replacement.File());
   }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -34,9 +35,18 @@ std::string WriteFilesWhereFree(std::span<const WholeFile> files);
 // more with it than before.
 void WriteFileInOneStep(const std::string& path, std::string_view text);
 
-// Does the same with each of `files`. All of them are complete on disk before the first takes its
-// name, so that nothing has changed where one cannot be written; an error of the steps after that,
-// each of which only names a file, leaves those before it replaced.
-void WriteFilesTogether(std::span<const WholeFile> files);
+// What the caller of WriteFilesTogether has to do between its steps.
+struct StepsTogether {
+  // When all files are complete and none has its name: what this throws leaves all as it was.
+  std::function<void()> LastLook = [] {};
+  // Each file once it has its name. It must not wait for anybody.
+  std::function<void(const WholeFile& file)> Replaced = [](const WholeFile&) {};
+};
+
+// Does the same with each of `files`, in their order. All of them are complete on disk before the
+// first takes its name, so that nothing has changed where one cannot be written or an interruption
+// came; an error of the steps after that, each of which only names a file, leaves those before it
+// replaced.
+void WriteFilesTogether(std::span<const WholeFile> files, const StepsTogether& steps = {});
 
 }  // namespace modAllPurpose

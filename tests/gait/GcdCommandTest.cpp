@@ -345,10 +345,25 @@ TEST_F(GcdFilesTest, ReplacedSetIsLeftAsItWasWhereOneIsATrialOrCannotBeMade) {
   Put("walk-L2.gcd", "\x02P as a trial begins");
   EXPECT_EQ(ErrorNumberOf([&] { files.ReplaceAll(noneWritten); }), 75);
   std::filesystem::remove(Path("walk-L2.gcd"));
+  std::filesystem::create_directory(Path("walk-L2.gcd"));
+  EXPECT_EQ(ErrorNumberOf([&] { files.ReplaceAll(noneWritten); }), 75);
+  std::filesystem::remove(Path("walk-L2.gcd"));
   StrideRecord& stride = walk_.State().GaitEvents.ValidStrides[2];
   stride.StopStrikeTime = stride.StartStrikeTime;
   EXPECT_EQ(ErrorNumberOf([&] { files.ReplaceAll(noneWritten); }), kDivisionByZero);
   EXPECT_EQ(Read("walk-L1.gcd"), "old");
+}
+
+TEST_F(GcdFilesTest, ReplacedSetIsToldInTheOrderOfTheStridesOnceItIsThere) {
+  modVantrel::GcdFiles files(walk_.State(), {});
+  Put("walk-L1.gcd", "old");
+  std::vector<std::string> told;
+  files.ReplaceAll([&](const std::string& name) {
+    EXPECT_EQ(NamesIn(walk_.Folder().Path()).size(), 4U) << "all are there";
+    told.push_back(name);
+  });
+  EXPECT_EQ(told, (std::vector{files.Name(1), files.Name(2), files.Name(3)}));
+  EXPECT_NE(Read("walk-L1.gcd"), "old");
 }
 
 TEST_F(GcdFilesTest, TrialUnderAUtf8PathIsWrittenBesideIt) {

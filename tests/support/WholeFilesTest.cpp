@@ -19,10 +19,15 @@ namespace {
 namespace fs = std::filesystem;
 using modAllPurpose::FileInWaiting;
 using modAllPurpose::RuntimeError;
+using modAllPurpose::StepsTogether;
 using modAllPurpose::WholeFile;
 using modAllPurpose::WriteFileInOneStep;
+using modAllPurpose::WriteFilesTogether;
 using modAllPurpose::WriteFilesWhereFree;
 using modAllPurpose::WriteFileWhereFree;
+using tests::ErrorNumberOf;
+using tests::kPathFileAccessError;
+using tests::ReadWholeFile;
 
 // The line of the error that `work` ends in; empty for none.
 std::string ErrorLineOf(const std::function<void()>& work) {
@@ -42,7 +47,7 @@ class WholeFiles : public testing::Test {
   void Put(const std::string& name, const std::string& text) const {
     std::ofstream(folder_ / name, std::ios::binary) << text;
   }
-  std::string Read(const std::string& name) const { return tests::ReadWholeFile(folder_ / name); }
+  std::string Read(const std::string& name) const { return ReadWholeFile(folder_ / name); }
 
   std::ptrdiff_t NamesInFolder() const {
     return std::distance(fs::directory_iterator(folder_.Path()), fs::directory_iterator());
@@ -109,6 +114,37 @@ TEST_F(WholeFiles, ASetTakesItsNamesInOrderHoweverItIsGiven) {
   const std::vector<WholeFile> files = {
       {Path("z"), "new"}, {Path("y"), "new"}, {Path("./b"), "new"}};
   EXPECT_EQ(WriteFilesWhereFree(files), Path("./b"));
+}
+
+TEST_F(WholeFiles, ASetIsReplacedInItsOrderWhetherItsFilesAreThereOrNot) {
+  Put("b", "old");
+  const std::vector<WholeFile> files = {{Path("b"), "new"}, {Path("a"), "new"}};
+  std::vector<std::string> replaced;
+  WriteFilesTogether(files, {.Replaced = [&](const WholeFile& file) {
+                       EXPECT_EQ(ReadWholeFile(file.Path), "new");
+                       replaced.push_back(file.Path);
+                     }});
+  EXPECT_EQ(replaced, (std::vector{Path("b"), Path("a")}));
+  EXPECT_EQ(NamesInFolder(), 2);
+}
+
+TEST_F(WholeFiles, ASetOfWhichOneCannotBeReplacedIsLeftAsItWas) {
+  Put("a", "old");
+  fs::create_directory(folder_ / "b");
+  const std::vector<WholeFile> files = {{Path("a"), "new"}, {Path("b"), "new"}};
+  EXPECT_EQ(ErrorNumberOf([&] { WriteFilesTogether(files); }), kPathFileAccessError);
+  EXPECT_EQ(Read("a"), "old");
+  EXPECT_EQ(NamesInFolder(), 2);
+}
+
+TEST_F(WholeFiles, ASetIsLeftAsItWasWhereTheLastLookAtItFails) {
+  Put("a", "old");
+  const std::vector<WholeFile> files = {{Path("a"), "new"}, {Path("b"), "new"}};
+  const StepsTogether steps{
+      .LastLook = [] { throw modAllPurpose::RuntimeError(modAllPurpose::ErrorNumber::DiskFull); }};
+  EXPECT_EQ(ErrorNumberOf([&] { WriteFilesTogether(files, steps); }), tests::kDiskFull);
+  EXPECT_EQ(Read("a"), "old");
+  EXPECT_EQ(NamesInFolder(), 1);
 }
 
 TEST_F(WholeFiles, OnlyTheFileItselfIsTakenAwayAgain) {
