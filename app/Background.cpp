@@ -70,7 +70,7 @@ void Background::Finish(std::size_t run, const Then& then) {
   // A message box in there may wait until the program ends.
   const QPointer<Background> self(this);
   if (then) then();
-  if (self) emit Changed();
+  if (!self.isNull()) emit Changed();
 }
 
 }  // namespace app

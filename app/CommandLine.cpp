@@ -17,13 +17,18 @@ bool AreSeveralFiles(const std::vector<std::string>& arguments, const std::strin
          std::ranges::all_of(arguments, modAllPurpose::FileExists);
 }
 
+// With the program's name before them.
+std::vector<std::string> WordsOf(int argc, char** argv) {
+  std::vector<std::string> words = modAllPurpose::ProgramArguments(argc, argv);
+  words.insert(words.begin(), argv[0]);
+  return words;
+}
+
 }  // namespace
 
 StartWords::StartWords(int argc, char** argv)
-    : words_(modAllPurpose::ProgramArguments(argc, argv)) {
-  words_.insert(words_.begin(), argv[0]);
+    : words_(WordsOf(argc, argv)), count_(static_cast<int>(words_.size())) {
   for (std::string& word : words_) pointers_.push_back(word.data());
-  count_ = static_cast<int>(words_.size());
   pointers_.push_back(nullptr);
 }
 

@@ -85,7 +85,7 @@ double PercentOfStride(std::size_t instant) {
 
 // The share of the trial's time, in percent, at which a frame of a trace stands.
 double PercentOfTrace(const pages::Trace& trace, std::size_t frame) {
-  const double start = double{trace.Times.front()};
+  const auto start = double{trace.Times.front()};
   const double span = double{trace.Times.back()} - start;
   return span > 0 ? kWhole * (double{trace.Times[frame]} - start) / span : 0;
 }

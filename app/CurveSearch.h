@@ -16,7 +16,7 @@ namespace app {
 // A panel on a page as it is seen.
 struct PanelInSight {
   const pages::Page& Page;
-  std::size_t Panel;  // its place on the page, from 0
+  std::size_t Panel = 0;  // its place on the page, from 0
   QRectF Plot;
   plot::PanelView View;  // the part of it that is seen
 };

@@ -83,7 +83,7 @@ class CurvesWindow : public QMainWindow {
   void AddVisitMenu();
   void AddPageMenu();
   void AddToolBar();
-  QAction* AddEntry(QMenu* menu, const MenuEntry& entry);
+  QAction* AddEntry(QMenu* menu, const MenuEntry& entry) const;
   QAction* AddCheck(QMenu* menu, const MenuEntry& entry, bool isChecked);
   void ConnectParts();
   void OpenAtItsPlace();

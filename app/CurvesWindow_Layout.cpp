@@ -90,7 +90,7 @@ void CurvesWindow::AddStatus() {
   progressTimer_->setSingleShot(true);
 }
 
-QAction* CurvesWindow::AddEntry(QMenu* menu, const MenuEntry& entry) {
+QAction* CurvesWindow::AddEntry(QMenu* menu, const MenuEntry& entry) const {
   QAction* action = menu->addAction(entry.Caption);
   action->setObjectName(QLatin1String(entry.Name));
   action->setShortcut(entry.Keys);

@@ -24,20 +24,20 @@ void TakeColourOfMarksFromBoxes() {
   }
 }
 
+void FollowColours() {
+  const QString style = AreDark(QApplication::palette()) ? kStyleOfTheDark : kStyleOfWindows;
+  if (QApplication::style()->name() != style) QApplication::setStyle(style);
+  TakeColourOfMarksFromBoxes();
+}
+
 class ColourFollower : public QObject {
  public:
   using QObject::QObject;
 
-  void Follow() {
-    const QString style = AreDark(QApplication::palette()) ? kStyleOfTheDark : kStyleOfWindows;
-    if (QApplication::style()->name() != style) QApplication::setStyle(style);
-    TakeColourOfMarksFromBoxes();
-  }
-
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (watched == qApp && event->type() == QEvent::ApplicationPaletteChange) {
-      QMetaObject::invokeMethod(this, &ColourFollower::Follow, Qt::QueuedConnection);
+      QMetaObject::invokeMethod(this, &FollowColours, Qt::QueuedConnection);
     }
     return false;
   }
@@ -55,9 +55,8 @@ void AskForDarkColours() {
 
 void FollowDesktopColours() {
   if (QApplication::style()->name() != kStyleOfWindows) return;
-  auto* follower = new ColourFollower(qApp);
-  qApp->installEventFilter(follower);
-  follower->Follow();
+  qApp->installEventFilter(new ColourFollower(qApp));
+  FollowColours();
 }
 
 }  // namespace app

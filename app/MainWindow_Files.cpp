@@ -129,7 +129,7 @@ void MainWindow::SaveReportAs() {
   const std::string text = form_->Pane().Text();
   const std::string_view what = form_->Shown() ? form_->Shown()->Name : "report";
   SaveFile(this, tr("Save Report As"), ProposedName(what), {{tr("Texts"), QStringLiteral("txt")}},
-           [&](const QString&) { return text; });
+           [&text](const QString&) -> const std::string& { return text; });
 }
 
 void MainWindow::ExportTable() {

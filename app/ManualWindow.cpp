@@ -90,14 +90,14 @@ ManualWindow::ManualWindow(const QString& markdown, QWidget* parent)
   Show(markdown);
   connect(browser_, &QTextBrowser::anchorClicked, this, &ManualWindow::Follow);
   column->addWidget(browser_);
-  AddFindRow();
+  column->addLayout(FindRow());
   AddKeys();
   // A text that was just set is otherwise shown from its end.
   browser_->moveCursor(QTextCursor::Start);
   browser_->setFocus();
 }
 
-void ManualWindow::AddFindRow() {
+QLayout* ManualWindow::FindRow() {
   auto* row = new QHBoxLayout;
   txtFind_->setObjectName(QStringLiteral("txtManualFind"));
   txtFind_->setPlaceholderText(tr("Find"));
@@ -114,7 +114,7 @@ void ManualWindow::AddFindRow() {
   addButton(tr("Find &Previous"), tr("Shift+F3"), false);
   addButton(tr("Find &Next"), tr("F3"), true);
   connect(txtFind_, &QLineEdit::returnPressed, this, [this] { Find(true); });
-  static_cast<QVBoxLayout*>(layout())->addLayout(row);
+  return row;
 }
 
 void ManualWindow::AddKeys() {

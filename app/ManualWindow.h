@@ -5,6 +5,7 @@
 #include <QWidget>
 
 class QLabel;
+class QLayout;
 class QLineEdit;
 class QTextBrowser;
 class QUrl;
@@ -24,7 +25,7 @@ class ManualWindow : public QWidget {
   ManualWindow(const QString& markdown, QWidget* parent);
 
  private:
-  void AddFindRow();
+  QLayout* FindRow();
   void AddKeys();
   void Find(bool forward);
   void Show(const QString& markdown);

@@ -236,7 +236,7 @@ QRect OutputPane::SelectionPlace() const {
 }
 
 QString OutputPane::SelectedColumns() const {
-  const QString text = selectedText();
+  QString text = selectedText();
   if (SendScintilla(SCI_SELECTIONISRECTANGLE) != 0 || !text.contains(u'\n')) return text;
   const auto start = static_cast<unsigned long>(SendScintilla(SCI_GETSELECTIONSTART));
   return QString(static_cast<qsizetype>(SendScintilla(SCI_GETCOLUMN, start)), u' ') + text;

@@ -76,7 +76,7 @@ TableWriting WriteTable(const ShownReport& report, const std::string& file, Tabl
       !refusal.empty()) {
     return {file + ": " + refusal, {}};
   }
-  const auto rows = std::ranges::find(kRowsOfReports, report.Name, &Rows::Report);
+  const auto* const rows = std::ranges::find(kRowsOfReports, report.Name, &Rows::Report);
   table.Begin(info.Columns);
   TableWriting writing{{}, rows->Write(state, name, report.Options, table)};
   table.End();

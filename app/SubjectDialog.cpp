@@ -69,12 +69,11 @@ std::string Trimmed(const QString& text) { return text.trimmed().toStdString(); 
 
 SubjectDialog::SubjectDialog(const modVantrel::SubjectSources& known, const SubjectOptions& entered,
                              QWidget* parent)
-    : QDialog(parent), entered_(entered) {
+    : QDialog(parent), entered_(entered), rows_(new QFormLayout(this)) {
   setObjectName(QStringLiteral("SubjectDialog"));
   setWindowTitle(tr("Subject"));
-  setLayout(new QFormLayout);
   auto* purpose = new QLabel(tr("For the header of the GCD files."));
-  static_cast<QFormLayout*>(layout())->addRow(purpose);
+  rows_->addRow(purpose);
 
   const Known gender = KnownGender(known, entered.Gender);
   AddGender(gender.Value, gender.Source);
@@ -87,25 +86,24 @@ SubjectDialog::SubjectDialog(const modVantrel::SubjectSources& known, const Subj
   lblWrong_ = new QLabel(QStringLiteral(" "));
   lblWrong_->setObjectName(QStringLiteral("lblWrong"));
   lblWrong_->setTextFormat(Qt::PlainText);
-  static_cast<QFormLayout*>(layout())->addRow(lblWrong_);
+  rows_->addRow(lblWrong_);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
   cmdOk_ = buttons->button(QDialogButtonBox::Ok);
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-  static_cast<QFormLayout*>(layout())->addRow(buttons);
+  rows_->addRow(buttons);
   Check();
 }
 
 QLabel* SubjectDialog::AddRow(const QString& label, QWidget* control, const QString& source) {
-  auto* form = static_cast<QFormLayout*>(layout());
-  form->addRow(label, control);
+  rows_->addRow(label, control);
   control->setAccessibleName(QString(label).remove(u'&'));
   control->setAccessibleDescription(source);
   auto* told = new QLabel(source);
   told->setTextFormat(Qt::PlainText);
   told->setWordWrap(true);
   told->setObjectName(control->objectName() + QStringLiteral("_Source"));
-  form->addRow(QString(), told);
+  rows_->addRow(QString(), told);
   return told;
 }
 

@@ -9,6 +9,7 @@
 #include "gait/SubjectRecord.h"
 
 class QComboBox;
+class QFormLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -45,6 +46,7 @@ class SubjectDialog : public QDialog {
 
   modVantrel::SubjectOptions entered_;
   modVantrel::SubjectOptions shown_;  // when the dialog came up
+  QFormLayout* rows_;
   QComboBox* cboGender_ = nullptr;
   QLineEdit* txtBirth_ = nullptr;
   QLineEdit* txtVisit_ = nullptr;

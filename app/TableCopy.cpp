@@ -116,14 +116,19 @@ bool Joins(const Block& block, const Mask& mask) {
   return StayApart(ColumnsOf(block.Shared), all) && StayApart(ColumnsOf(mask), all);
 }
 
+// The least indent of the lines of several columns.
+std::size_t UsualIndent(const QStringList& lines) {
+  std::size_t least = std::numeric_limits<std::size_t>::max() - kEmptyColumn;
+  for (const QString& line : lines) {
+    const Mask mask = MaskOf(line);
+    if (ColumnsOf(mask).size() > 1) least = std::min(least, IndentOf(mask));
+  }
+  return least;
+}
+
 class Table {
  public:
-  explicit Table(const QStringList& lines) {
-    usualIndent_ = std::numeric_limits<std::size_t>::max() - kEmptyColumn;
-    for (const QString& line : lines) {
-      const Mask mask = MaskOf(line);
-      if (ColumnsOf(mask).size() > 1) usualIndent_ = std::min(usualIndent_, IndentOf(mask));
-    }
+  explicit Table(const QStringList& lines) : usualIndent_(UsualIndent(lines)) {
     for (const QString& line : lines) Add(line);
     EndBlock();
   }
@@ -148,7 +153,7 @@ class Table {
     block_ = {};
   }
 
-  std::size_t usualIndent_ = 0;
+  std::size_t usualIndent_;
   Block block_;
   QStringList rows_;
 };

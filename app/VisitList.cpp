@@ -43,7 +43,7 @@ QString WarningsOf(const VisitTrial& trial) {
   return lines.join(u'\n');
 }
 
-// A tooltip that shows its text as it stands, its long lines wrapped.
+// A trial as a screen reader says it: with what is the matter with it.
 std::string SpokenName(const VisitTrial& trial, const QString& warnings) {
   std::string name(modAllPurpose::OwnName(trial.Path));
   if (!trial.Failure.empty()) return name + ": " + trial.Failure;
@@ -53,6 +53,13 @@ std::string SpokenName(const VisitTrial& trial, const QString& warnings) {
 StrideOfTrial StrideIn(const QTreeWidgetItem& item) {
   return {static_cast<GaitSide>(item.data(0, kSideRole).toInt()),
           item.data(0, kNumberRole).toInt()};
+}
+
+std::vector<StrideOfTrial> StridesUnder(const QTreeWidgetItem& item) {
+  std::vector<StrideOfTrial> strides;
+  strides.reserve(static_cast<std::size_t>(item.childCount()));
+  for (int i = 0; i < item.childCount(); ++i) strides.push_back(StrideIn(*item.child(i)));
+  return strides;
 }
 
 QTreeWidgetItem* NewStride(const pages::TrialStride& stride) {
@@ -68,6 +75,22 @@ QTreeWidgetItem* NewStride(const pages::TrialStride& stride) {
   item->setData(0, kNumberRole, stride.Number);
   item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
   return item;
+}
+
+void UpdateStrides(QTreeWidgetItem& item, const VisitTrial& trial) {
+  const auto& strides = trial.Values ? trial.Values->Strides : std::vector<pages::TrialStride>();
+  const bool isSame =
+      std::ranges::equal(StridesUnder(item), strides, [](const auto& a, const auto& stride) {
+        return a == StrideOfTrial(stride.Side, stride.Number);
+      });
+  if (!isSame) {
+    qDeleteAll(item.takeChildren());
+    for (const pages::TrialStride& stride : strides) item.addChild(NewStride(stride));
+    item.setExpanded(trial.IsTheForms);  // the others where a user opens them out
+  }
+  for (int i = 0; i < item.childCount(); ++i) {
+    item.child(i)->setCheckState(0, CheckOf(!trial.LeftOut.contains(StrideIn(*item.child(i)))));
+  }
 }
 
 }  // namespace
@@ -124,23 +147,6 @@ void VisitList::Update(QTreeWidgetItem& item, const VisitTrial& trial) {
   font.setBold(trial.IsTheForms);
   item.setFont(0, font);
   UpdateStrides(item, trial);
-}
-
-void VisitList::UpdateStrides(QTreeWidgetItem& item, const VisitTrial& trial) {
-  const auto& strides = trial.Values ? trial.Values->Strides : std::vector<pages::TrialStride>();
-  std::vector<StrideOfTrial> known;
-  for (int i = 0; i < item.childCount(); ++i) known.push_back(StrideIn(*item.child(i)));
-  const bool isSame = std::ranges::equal(known, strides, [](const auto& a, const auto& stride) {
-    return a == StrideOfTrial(stride.Side, stride.Number);
-  });
-  if (!isSame) {
-    qDeleteAll(item.takeChildren());
-    for (const pages::TrialStride& stride : strides) item.addChild(NewStride(stride));
-    item.setExpanded(trial.IsTheForms);  // the others where a user opens them out
-  }
-  for (int i = 0; i < item.childCount(); ++i) {
-    item.child(i)->setCheckState(0, CheckOf(!trial.LeftOut.contains(StrideIn(*item.child(i)))));
-  }
 }
 
 std::optional<std::size_t> VisitList::SelectedTrial() const {

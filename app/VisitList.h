@@ -37,7 +37,6 @@ class VisitList : public QTreeWidget {
 
  private:
   void Update(QTreeWidgetItem& item, const VisitTrial& trial);
-  void UpdateStrides(QTreeWidgetItem& item, const VisitTrial& trial);
   void TakeChange(QTreeWidgetItem* item);
 
   bool isShowing_ = false;

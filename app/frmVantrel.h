@@ -70,8 +70,8 @@ class frmVantrel : public QWidget {
   // The report that the pane shows; none where the pane is empty, shows a refusal or what was
   // written before an error.
   const std::optional<ShownReport>& Shown() const { return shown_; }
-  OutputPane& Pane() { return *controls_.txt; }
-  CaptionCheckBox& DesktopCheckBox() { return *controls_.chkOut; }
+  OutputPane& Pane() const { return *controls_.txt; }
+  CaptionCheckBox& DesktopCheckBox() const { return *controls_.chkOut; }
 
   // What the menu of the trial sets for the reports to come: whether they find the labels beyond
   // the 255th, by which axes GCD files are written, and what was entered of the subject of the open
@@ -83,7 +83,7 @@ class frmVantrel : public QWidget {
   void SetSubject(const modVantrel::SubjectOptions& entered);
   modVantrel::SubjectOptions EnteredSubject() const;
 
-  StatusLine& Status() { return *controls_.Status; }
+  StatusLine& Status() const { return *controls_.Status; }
 
   // Runs a command as a press of a button does: not while another one runs, and a run-time error
   // ends the program.

@@ -39,7 +39,7 @@ ReportResult RunShowingWhatWasWritten(FormReport& output,
                                       const std::function<ReportResult(ReportOutput&)>& report) {
   const CursorOverride wait(Qt::WaitCursor);
   try {
-    const ReportResult result = report(output);
+    ReportResult result = report(output);
     if (!result.IsRejected()) output.EndReport();
     return result;
   } catch (...) {

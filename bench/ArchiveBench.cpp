@@ -69,6 +69,7 @@ double MostMegabytesOfCommands() {
   rusage usage{};
   ::getrusage(RUSAGE_CHILDREN, &usage);
   constexpr double kKilobytesInAMegabyte = 1000.0;
+  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-union-access): so the system declares it.
   return static_cast<double>(usage.ru_maxrss) * 1.024 / kKilobytesInAMegabyte;
 }
 

@@ -26,6 +26,7 @@ struct StrideId {
   modVantrel::GaitSide Side = modVantrel::GaitSide::None;
   std::int32_t Stride = 0;
 
+  // NOLINTNEXTLINE(modernize-use-nullptr): taken for a pointer is a 0 that nobody wrote.
   friend auto operator<=>(const StrideId&, const StrideId&) = default;
 };
 
