@@ -3,6 +3,7 @@
 #include "c3d/FileKey.h"
 
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <string_view>
 
@@ -25,7 +26,8 @@ bool BeginsLikeC3dFile(const std::string& path) {
   std::array<std::byte, 4> start{};
   const std::size_t count = file.ReadAt(0, start);
   if (count < 2 || std::to_integer<int>(start[1]) != kFileKey) return false;
-  const std::string_view text(reinterpret_cast<const char*>(start.data()), count);
+  const auto letters = std::bit_cast<std::array<char, sizeof(start)>>(start);
+  const std::string_view text(letters.data(), count);
   return text != kOtherBeginnings[0] && text != kOtherBeginnings[1];
 }
 

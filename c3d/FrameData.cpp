@@ -25,7 +25,6 @@ using modAllPurpose::RuntimeError;
 using modAllPurpose::UpperCase;
 using modAllPurposeNumbers::RoundToLong;
 using modAllPurposeNumbers::ToLong;
-using modAllPurposeNumbers::ToSingle;
 
 namespace {
 

@@ -44,7 +44,8 @@ inline void DecodePoint(const FileState& state, const FrameLayout& layout,
     sample.X = coordinate(0);
     sample.Y = coordinate(1);
     sample.Z = coordinate(2);
-    sample.FourthWord = StoredInteger(words.subspan(3 * kIntegerSize).first<kIntegerSize>());
+    sample.FourthWord =
+        StoredInteger(words.subspan(std::size_t{3} * kIntegerSize).first<kIntegerSize>());
   } else if (layout.ValueSize == kSingleSize) {
     const auto coordinate = [&](std::size_t i) {
       const auto bits = StoredSingleBits(words.subspan(i * kSingleSize).first<kSingleSize>());

@@ -65,7 +65,7 @@ constexpr NumberPattern::NumberPattern(std::string_view pattern) {
 constexpr NumberPattern::Places NumberPattern::PlacesOf(std::string_view text, char first,
                                                         char last, std::size_t most) {
   const std::size_t count = std::min(text.find_first_not_of(first), text.size());
-  if (text.size() > most || text.find_first_not_of(last, count) != text.npos) Refuse();
+  if (text.size() > most || text.find_first_not_of(last, count) != std::string_view::npos) Refuse();
   return {count, text.size() - count};
 }
 
