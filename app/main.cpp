@@ -2,8 +2,10 @@
 
 #include "app/Startup.h"
 #include "support/Interruption.h"
+#include "support/StandardStreams.h"
 
 int main(int argc, char* argv[]) {
+  modAllPurpose::KeepPlacesOfStandardStreams();
   modAllPurpose::LetInterruptionsWait();
   return app::RunVantrel(argc, argv);
 }

@@ -6,8 +6,10 @@
 #include "console/Start.h"
 #include "support/Interruption.h"
 #include "support/ProgramArguments.h"
+#include "support/StandardStreams.h"
 
 int main(int argc, char* argv[]) {
+  modAllPurpose::KeepPlacesOfStandardStreams();
   modAllPurpose::LetInterruptionsWait();
   console::PrepareOutput();
   return cli::RunTool(modAllPurpose::ProgramArguments(argc, argv), {stdout, stderr});

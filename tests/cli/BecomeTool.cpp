@@ -24,9 +24,20 @@ ToolCommand::ToolCommand(std::vector<std::string> arguments, std::filesystem::pa
 }
 
 void ToolCommand::Become(int out, int err) const {
-  constexpr int kCannotRun = 127;
   ::dup2(out, STDOUT_FILENO);
   ::dup2(err, STDERR_FILENO);
+  Become();
+}
+
+void ToolCommand::BecomeWithoutStreams() const {
+  ::close(STDIN_FILENO);
+  ::close(STDOUT_FILENO);
+  ::close(STDERR_FILENO);
+  Become();
+}
+
+void ToolCommand::Become() const {
+  constexpr int kCannotRun = 127;
   if (!folder_.empty() && ::chdir(folder_.c_str()) != 0) ::_exit(kCannotRun);
   ::execv(argv_.front(), argv_.data());
   ::_exit(kCannotRun);

@@ -25,8 +25,12 @@ class ToolCommand {
   // Makes this process, a child of the test, the tool, with its output in those files. Ends with
   // 127 where that fails.
   [[noreturn]] void Become(int out, int err) const;
+  // The same with no output at all and no input.
+  [[noreturn]] void BecomeWithoutStreams() const;
 
  private:
+  [[noreturn]] void Become() const;
+
   std::vector<std::string> words_;
   std::vector<char*> argv_;  // the words, and behind them a null
   std::filesystem::path folder_;

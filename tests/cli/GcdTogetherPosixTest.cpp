@@ -170,4 +170,19 @@ TEST(GcdLines, ThatAreLostOnAFullDiskAreStandardOutputsFailureAlone) {
   EXPECT_EQ(GcdFilesIn(tool).size(), kStrides + 1);
 }
 
+TEST(GcdLines, OfAToolWithoutAnyOutputStandInNoFile) {
+  const ToolInFolder tool;
+  std::vector<std::string> arguments = {"--overwrite", "--jobs", "4", "gcd"};
+  for (int i = 0; i < 40; ++i) {
+    arguments.push_back(std::to_string(i) + ".c3d");
+    tests::WholeFrameTrial().Build().WriteTo(tool / arguments.back());
+  }
+  ASSERT_EQ(tool.Run(arguments).Status, 0);
+  const std::string text = tool.Read("0-L1.gcd");
+  for (int i = 0; i < 10 && !testing::Test::HasFailure(); ++i) {
+    EXPECT_EQ(tests::RunTool(arguments, {.NoStreams = true}, tool.Path()).Status, 1);
+    for (const std::string& name : GcdFilesIn(tool)) EXPECT_EQ(tool.Read(name), text) << name;
+  }
+}
+
 }  // namespace

@@ -23,6 +23,8 @@ struct ToolSurroundings {
   bool ClosedPipe = false;
   // The same for its standard error.
   bool ClosedErrorPipe = false;
+  // No standard output and no standard error at all. On a POSIX system alone.
+  bool NoStreams = false;
   // Bytes of address space that the tool may use; 0 for any number. Not for a sanitized tool, which
   // needs terabytes of it.
   std::size_t MostMemory = 0;

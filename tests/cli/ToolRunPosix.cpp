@@ -44,6 +44,7 @@ ToolResult RunTool(const std::vector<std::string>& arguments, const ToolSurround
   const pid_t child = ::fork();
   if (child == 0) {
     LimitMemory(surroundings.MostMemory);
+    if (surroundings.NoStreams) command.BecomeWithoutStreams();
     command.Become(out, err);
   }
   ::close(out);
