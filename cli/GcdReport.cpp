@@ -3,11 +3,16 @@
 #include "cli/GcdReport.h"
 
 #include <algorithm>
+#include <map>
 #include <utility>
 #include <vector>
 
+#include <fmt/format.h>
+
+#include "c3d/FileKey.h"
 #include "gait/GcdCommand.h"
 #include "support/FileSystem.h"
+#include "support/RuntimeError.h"
 
 namespace cli {
 
@@ -17,14 +22,33 @@ using modVantrel::GcdFiles;
 
 namespace {
 
+// Whether a file of that name may be replaced: a regular one that is no trial.
+bool IsReplaceable(const std::string& name) {
+  bool isTrial = true;
+  modAllPurpose::IgnoringErrors([&] { isTrial = modVantrel::IsC3dFile(name); });
+  return !isTrial && modAllPurpose::IsRegularFile(name);
+}
+
 std::string ExistsAlready(const std::string& name) {
-  return name + " exists already (--overwrite replaces it)";
+  return name + " exists already" + (IsReplaceable(name) ? " (--overwrite replaces it)" : "");
 }
 
 std::vector<std::string> FileNames(const GcdFiles& files) {
   std::vector<std::string> names;
   for (std::int32_t i = 1; i <= files.Count(); ++i) names.push_back(files.Name(i));
   return names;
+}
+
+// Why not all of `names` can be written, of which links may make one; empty where they can.
+std::string WhyTooFew(const std::vector<std::string>& names) {
+  std::map<std::string, std::string> nameOf;
+  for (const std::string& name : names) {
+    const auto [other, isNew] = nameOf.emplace(OneSpelling(name), name);
+    if (isNew) continue;
+    return fmt::format("{} leads to the same file as {}, one stride would replace the other", name,
+                       other->second);
+  }
+  return {};
 }
 
 // Writes the GCD files of one trial of the command.
@@ -54,7 +78,7 @@ class GcdRun {
       }
       if (!request_.Overwrite && modAllPurpose::IsNameTaken(name)) return ExistsAlready(name);
     }
-    return {};
+    return WhyTooFew(names_);
   }
 
   TextOutcome Write() {

@@ -25,7 +25,8 @@ struct TextOutcome {
 // Writes the GCD files of one trial and prints their names. Without Overwrite all of them or none;
 // with it one after the other, and an error names those that were written before it. They are
 // refused, before anything is written, where one of them exists and may not be replaced, or was
-// written for another trial of this command, or all were, for this trial.
+// written for another trial of this command, or all were, for this trial, or where the names of two
+// lead to one file.
 TextOutcome WriteGcdReport(const modVantrel::FileState& state, const GcdRequest& request,
                            GcdTurn& turn, modAllPurpose::ReportOutput& output);
 
