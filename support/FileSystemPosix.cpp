@@ -43,9 +43,10 @@ std::string WholePath(const std::string& path) {
   return failure ? path : whole.string();
 }
 
+// A path that begins with what is not there would stay a relative one.
 std::string OneSpelling(const std::string& path) {
   std::error_code failure;
-  const fs::path whole = fs::weakly_canonical(path, failure);
+  const fs::path whole = fs::weakly_canonical(WholePath(path), failure);
   return failure ? path : whole.string();
 }
 

@@ -194,6 +194,16 @@ TEST_F(GcdOfSeveralJobs, TheFirstTrialOfANameWritesItsFiles) {
   }
 }
 
+TEST_F(GcdOfSeveralJobs, TheFirstTrialOfANameIsKnownHoweverTheFolderIsWritten) {
+  for (const char* name : {"walk.c3d", "walk.old"}) {
+    std::filesystem::create_hard_link(tool_ / tests::kSampleWalk, tool_ / name);
+  }
+  const ToolResult run = tool_.Run({"--jobs", "2", "--overwrite", "gcd", "walk.c3d", "./walk.old"});
+  EXPECT_EQ(run.Status, 1);
+  EXPECT_THAT(run.Err, EndsWith("./walk.old: ./walk-L1.gcd was written for another trial of this "
+                                "command\n"));
+}
+
 TEST_F(GcdOfSeveralJobs, FilesThatExistStayForEach) {
   ASSERT_EQ(Run("1", "out1").Status, 1);
   ASSERT_EQ(Run("8", "out8").Status, 1);

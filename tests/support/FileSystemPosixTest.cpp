@@ -81,6 +81,13 @@ TEST(OneSpelling, IsThatOfTheFileALinkLeadsTo) {
             modAllPurpose::OneSpelling((folder / "file").string()));
 }
 
+TEST(OneSpelling, OfAMissingFileIsThatInTheCurrentFolder) {
+  const std::string whole = (fs::canonical(fs::current_path()) / "no such file").string();
+  EXPECT_EQ(modAllPurpose::OneSpelling("no such file"), whole);
+  EXPECT_EQ(modAllPurpose::OneSpelling("./no such file"), whole);
+  EXPECT_EQ(modAllPurpose::OneSpelling("no such folder/../no such file"), whole);
+}
+
 TEST(IsSameSpelling, LooksNoLinkUpAndTellsCasesApart) {
   const tests::TemporaryFolder folder;
   modAllPurpose::WriteNewFile((folder / "file").string(), {});
