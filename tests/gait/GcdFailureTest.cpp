@@ -108,6 +108,24 @@ TEST_F(GcdFailure, FileThatMayNotBeWrittenIsNotReplaced) {
   ExpectOnlyTheOldFile();
 }
 
+// It may be a trial.
+TEST_F(GcdFailure, FileThatMayNotBeReadIsNotReplaced) {
+  namespace fs = std::filesystem;
+  fs::permissions(folder_.Path(), fs::perms::all);
+  const int status = StatusOfChild([&] {
+    constexpr uid_t kNobody = 65534;
+    const bool isRoot = geteuid() == 0;
+    if (isRoot && ::chown(old_.c_str(), kNobody, kNobody) != 0) return kNotPossibleHere;
+    fs::permissions(old_, fs::perms::owner_write);
+    if (isRoot && (setgid(kNobody) != 0 || setuid(kNobody) != 0)) return kNotPossibleHere;
+    return ErrorOfWritingInto(folder_.Path(), walk_.State());
+  });
+  fs::permissions(old_, fs::perms::owner_read | fs::perms::owner_write);
+  fs::permissions(folder_.Path(), fs::perms::owner_all);
+  EXPECT_EQ(status, kPermissionDenied);
+  ExpectOnlyTheOldFile();
+}
+
 TEST_F(GcdFailure, LinkIsFollowedToTheFileItNames) {
   namespace fs = std::filesystem;
   fs::rename(old_, folder_ / "elsewhere.gcd");

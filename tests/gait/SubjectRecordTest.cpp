@@ -139,6 +139,17 @@ TEST(FindSubject, EmptyGenderAndWhatIsNoDateCountAsMissing) {
   EXPECT_EQ(subject.VisitDate, Date());
 }
 
+TEST(FindSubject, ParameterEndsAtItsFirstNul) {
+  using std::string_literals::operator""s;
+  const SubjectRecord subject =
+      Find(TrialBuilder()
+               .SetParam("SUBJECT", TextParam("GENDER", "\0Male"s))
+               .SetParam("TRIAL", TextParam("GENDER", "Female\0\0"s))
+               .SetParam("SUBJECT", TextParam("DOB", "2014-03-02\0old"s)));
+  EXPECT_EQ(subject.Gender, "Female");
+  EXPECT_EQ(subject.DateOfBirth, On(2014, 3, 2));
+}
+
 TEST(FindSubject, OptionsComeBeforeParametersAndThoseBeforeTheFile) {
   TrialBuilder builder;
   builder.SetParam("SUBJECT", TextParam("GENDER", "Female"))
@@ -212,6 +223,7 @@ TEST(SubjectFile, LosesQuotesAndWhiteSpaceAroundItsValues) {
                      "quoted");
   EXPECT_EQ(Find(TrialBuilder(), {}, "Gender=\"\n").Gender, "\"") << "one quote is none";
   EXPECT_EQ(Find(TrialBuilder(), {}, "Gender=\"\"\n").Gender, "");
+  EXPECT_EQ(Find(TrialBuilder(), {}, "Gender='\tFemale\t'\n").Gender, "Female");
 }
 
 TEST(SubjectFile, LinesThatSayNothingAreLeftOut) {
