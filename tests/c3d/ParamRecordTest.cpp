@@ -324,7 +324,8 @@ TEST_F(ParamRecordTest, AnOffsetOf2LeadsToTheByteBehindTheOffsetWord) {
 TEST_F(ParamRecordTest, AnOffsetBelow2EndsTheChain) {
   for (const Bytes& offset : {Bytes{0, 0}, Bytes{1, 0}, Bytes{0xFF, 0xFF}, Bytes{0, 0x80}}) {
     isLast_ = false;
-    Given(Bytes{1, 0xFF, 'A'} + offset + Bytes{0, 1, 1});
+    // A description, since its length stands where an offset of 1 would find an id.
+    Given(Bytes{1, 0xFF, 'A'} + offset + Bytes{1, 'D', 1, 1});
     EXPECT_EQ(Read().NextPosition, 0);
     EXPECT_TRUE(isLast_);
   }
