@@ -21,7 +21,7 @@ struct FileToReplace {
 
 // The regular file that the name `name` leads to, through all of its links; nothing where the name
 // is free. Error 75 where the name is that of anything else or of a link that leads nowhere, 70 and
-// the like where the file may not be written.
+// the like where the file may not be written, or its name not be given to another one.
 std::optional<FileToReplace> FindFileToReplace(const std::filesystem::path& name);
 
 // Which file it is, whatever its name.

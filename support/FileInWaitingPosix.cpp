@@ -144,6 +144,15 @@ bool RenameIfFree(const fs::path& from, const fs::path& to) {
   return true;
 }
 
+// In a sticky folder, a file's name can be given to another one by the owner of either alone.
+bool MayLoseItsName(const fs::path& path, const struct stat& file) {
+  const fs::path folder = path.has_parent_path() ? path.parent_path() : ".";
+  struct stat status {};
+  if (::stat(folder.c_str(), &status) != 0 || (status.st_mode & S_ISVTX) == 0) return true;
+  const uid_t user = ::geteuid();
+  return user == 0 || user == file.st_uid || user == status.st_uid;
+}
+
 // Some devices have nothing to bring a file to; they say so.
 bool BringToDisk(int file) {
   return ::fsync(file) == 0 || errno == EINVAL || errno == ENOSYS || errno == EROFS;
@@ -169,6 +178,7 @@ std::optional<FileToReplace> FindFileToReplace(const fs::path& name) {
   std::error_code failure;
   fs::path path = fs::is_symlink(name, failure) ? fs::canonical(name, failure) : name;
   if (failure) throw FileErrorFromCode(failure);
+  if (!MayLoseItsName(path, rights.Status)) throw FileErrorFromErrno(EPERM);
   return FileToReplace{std::move(path), std::make_shared<const FileRights>(std::move(rights))};
 }
 

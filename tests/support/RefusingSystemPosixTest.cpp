@@ -15,6 +15,7 @@
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -128,6 +129,25 @@ TEST_F(RefusingSystem, ThatHasNoNamesForOpenFilesWritesThemAllTheSame) {
   EXPECT_EQ(status, kAsWanted);
   EXPECT_EQ(tests::ReadWholeFile(folder_ / "new"), "newer");
   ExpectTheOldFileAnd(1);
+}
+
+// A folder for everybody, such as that for temporary files, in which the second of two names is
+// that of another user's file: anybody may write it, and nobody else may give its name to another
+// one.
+TEST_F(RefusingSystem, ThatKeepsANameForItsOwnerIsAskedBeforeAnythingIsReplaced) {
+  if (::geteuid() != 0) GTEST_SKIP() << "only root can be somebody else";
+  fs::permissions(folder_.Path(), fs::perms::all | fs::perms::sticky_bit);
+  fs::permissions(folder_ / "old", fs::perms::all);
+  const std::vector<modAllPurpose::WholeFile> files = {{Path("a"), "new"}, {Path("old"), "new"}};
+  const int status = StatusOfRefused([&] {
+    constexpr uid_t kNobody = 65534;
+    if (::setgid(kNobody) != 0 || ::setuid(kNobody) != 0) return kCannotRefuse;
+    return tests::ErrorNumberOf([&] { modAllPurpose::WriteFilesTogether(files); });
+  });
+  EXPECT_EQ(status, tests::kPermissionDenied);
+  ExpectTheOldFileAnd(0);
+  modAllPurpose::WriteFilesTogether(files);
+  EXPECT_EQ(tests::ReadWholeFile(folder_ / "old"), "new") << "its owner may";
 }
 
 }  // namespace
