@@ -3,54 +3,18 @@
 #include "app/ShownReport.h"
 
 #include <algorithm>
-#include <array>
 
 #include "gait/OpenTrial.h"
 #include "reports/CheckReport.h"
 #include "reports/ReportList.h"
-#include "reports/SummaryReport.h"
-#include "reports/TrialTables.h"
+#include "reports/TrialTableList.h"
 #include "support/FileSystem.h"
 #include "support/Text.h"
 
 namespace app {
 
 using modVantrel::FileState;
-using reports::Complaints;
-using reports::TableOptions;
 using reports::TableOutput;
-
-namespace {
-
-using RowsFunction = Complaints (*)(const FileState&, std::string_view, const TableOptions&,
-                                    TableOutput&);
-
-Complaints Summary(const FileState& state, std::string_view file, const TableOptions& /*options*/,
-                   TableOutput& table) {
-  reports::SummaryRows(state, file, table);
-  return {};
-}
-
-struct Rows {
-  std::string_view Report;
-  RowsFunction Write;
-};
-
-constexpr std::array kRowsOfReports = {
-    Rows{"header", reports::HeaderRows},         Rows{"parameters", reports::ParameterRows},
-    Rows{"labels", reports::LabelRows},          Rows{"point", reports::PointRows},
-    Rows{"analog", reports::AnalogRows},         Rows{"events", reports::EventRows},
-    Rows{"strides", reports::StrideRows},        Rows{"measures", reports::MeasureRows},
-    Rows{"normalized", reports::NormalizedRows}, Rows{"summary", Summary},
-};
-
-constexpr bool HasItsRows(const reports::ReportInfo& info) {
-  return info.Columns.empty() || info.Pools || info.ReadsAnyFile ||
-         std::ranges::find(kRowsOfReports, info.Name, &Rows::Report) != kRowsOfReports.end();
-}
-static_assert(std::ranges::all_of(reports::kReports, HasItsRows));
-
-}  // namespace
 
 bool HasTable(const ShownReport& report) {
   const reports::ReportInfo* info = reports::FindReport(report.Name);
@@ -76,9 +40,10 @@ TableWriting WriteTable(const ShownReport& report, const std::string& file, Tabl
       !refusal.empty()) {
     return {file + ": " + refusal, {}};
   }
-  const auto* const rows = std::ranges::find(kRowsOfReports, report.Name, &Rows::Report);
+  TableWriting writing;
   table.Begin(info.Columns);
-  TableWriting writing{{}, rows->Write(state, name, report.Options, table)};
+  reports::WriteTrialRows(reports::FindTrialTable(report.Name), state, name, report.Options, table,
+                          writing.Complaints);
   table.End();
   return writing;
 }

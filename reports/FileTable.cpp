@@ -2,8 +2,7 @@
 
 #include "reports/FileTable.h"
 
-#include <algorithm>
-#include <iterator>
+#include <utility>
 
 #include "gait/Checkup.h"
 #include "gait/OpenTrial.h"
@@ -15,14 +14,6 @@
 namespace reports {
 
 namespace {
-
-// Adds to `said` each thing as it arises: an error keeps none of them back.
-void WriteTrialRows(const TrialTable& trialTable, const modVantrel::FileState& state,
-                    std::string_view file, const TableOptions& options, TableOutput& table,
-                    Complaints& said) {
-  if (trialTable.Missing != nullptr) said = trialTable.Missing(state, options);
-  std::ranges::move(trialTable.Rows(state, file, options, table), std::back_inserter(said));
-}
 
 Complaints WriteOpened(const TrialTable& trialTable, const std::string& file,
                        const TableOptions& options, TableOutput& table) {

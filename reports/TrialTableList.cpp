@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 
 #include "reports/ReportList.h"
 #include "reports/SummaryReport.h"
@@ -43,6 +44,13 @@ static_assert(std::ranges::all_of(kReports, IsMadeSomewhere));
 
 const TrialTable& FindTrialTable(std::string_view name) {
   return *std::ranges::find(kTrialTables, name, &TrialTable::Name);
+}
+
+void WriteTrialRows(const TrialTable& trialTable, const modVantrel::FileState& state,
+                    std::string_view file, const TableOptions& options, TableOutput& table,
+                    Complaints& said) {
+  if (trialTable.Missing != nullptr) said = trialTable.Missing(state, options);
+  std::ranges::move(trialTable.Rows(state, file, options, table), std::back_inserter(said));
 }
 
 }  // namespace reports

@@ -10,6 +10,8 @@
 #include <QFileDialog>
 #include <QTest>
 
+#include "sample/TrialBuilder.h"
+#include "tests/TestTrials.h"
 #include "tests/app/SaveDialog.h"
 #include "tests/app/WindowFixture.h"
 
@@ -153,6 +155,19 @@ TEST_F(WindowSave, ATableOfATrialThatVanishedReplacesNothingAndNamesTheTrial) {
     EXPECT_EQ(told.find(walk + ": "), 0U) << told;
     EXPECT_EQ(tests::ReadWholeFile(folder_ / "table.csv"), "good") << report;
   }
+}
+
+TEST_F(WindowSave, ATableOfATrialThatHasLostItsLabelSaysSo) {
+  const std::string walk = WriteSampleWalk();
+  Start(walk);
+  Type("txtPointLabel", QStringLiteral("LKneeAngles"));
+  Click("cmdShowPointData");
+  tests::WriteAnew(sample::TrialBuilder().Build(), walk);
+  ExpectAndSave(folder_ / "table.csv");
+  boxes_.ExpectAndClick(QStringLiteral("OK"));
+  Choose("mnuExportTable");
+  ASSERT_EQ(boxes_.Seen().size(), 1U);
+  EXPECT_EQ(boxes_.Seen().back().Text, QStringLiteral("point label not found: LKneeAngles"));
 }
 
 TEST_F(WindowSave, OnlyAReportWithATableCanBeExported) {
