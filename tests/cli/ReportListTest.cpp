@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <filesystem>
+#include <functional>
 #include <regex>
 #include <set>
 #include <string>
@@ -23,15 +24,25 @@ namespace {
 using reports::ReportInfo;
 using testing::ElementsAreArray;
 using testing::HasSubstr;
+using testing::UnorderedElementsAreArray;
 using tests::RunInside;
 
 const std::filesystem::path kRoot = VANTREL_SOURCE_DIR;
 
-std::vector<std::string> Names() {
+// The names of the reports that `isMeant`, in the order of the list.
+std::vector<std::string> NamesOf(const std::function<bool(const ReportInfo&)>& isMeant) {
   std::vector<std::string> names;
-  for (const ReportInfo& report : reports::kReports) names.emplace_back(report.Name);
+  for (const ReportInfo& report : reports::kReports) {
+    if (isMeant(report)) names.emplace_back(report.Name);
+  }
   return names;
 }
+
+std::vector<std::string> Names() {
+  return NamesOf([](const ReportInfo&) { return true; });
+}
+
+bool HasTable(const ReportInfo& report) { return !report.Columns.empty(); }
 
 // All that `pattern`'s group finds in `text`.
 std::vector<std::string> Finds(const std::string& text, const std::string& pattern) {
@@ -57,11 +68,29 @@ std::set<std::string> OptionsOfHelp() {
   return {options.begin(), options.end()};
 }
 
+std::string Completion() {
+  return tests::ReadWholeFile(kRoot / "packaging/completion/vantrel-report.bash");
+}
+
 // The words of a list of the completion.
 std::vector<std::string> CompletedWords(const std::string& list) {
-  const std::string script =
-      tests::ReadWholeFile(kRoot / "packaging/completion/vantrel-report.bash");
-  return Finds(Between(script, "local " + list + "=\"", "\""), R"(([\w-]+))");
+  return Finds(Between(Completion(), "local " + list + "=\"", "\""), R"(([\w-]+))");
+}
+
+// The words that the completion offers behind an option.
+std::vector<std::string> CompletedValues(const std::string& option) {
+  return Finds(Between(Between(Completion(), "    " + option + ")\n", ";;"), "-W \"", "\""),
+               R"(([\w-]+))");
+}
+
+std::string Manual() { return tests::ReadWholeFile(kRoot / "docs/manual.md"); }
+
+// The part of the manual that names the columns of a report's table.
+std::string ManualOf(std::string_view report) {
+  const std::string text = Between(Manual(), fmt::format("\n### {}\n", report), "\n### ");
+  return report == "visit" && text.starts_with("\nThe same columns without `file`")
+             ? ManualOf("summary")
+             : text;
 }
 
 // A section of the man page, its dashes without their escapes.
@@ -130,13 +159,47 @@ TEST(ReportList, IsWhatTheManPageDescribes) {
     EXPECT_EQ(text.find("--events") != std::string::npos, report.TakesEvents) << report.Name;
     EXPECT_EQ(text.find("--group") != std::string::npos, report.TakesGroup) << report.Name;
     EXPECT_EQ(text.find("--output-dir") != std::string::npos, report.WritesGcdFiles) << report.Name;
+    EXPECT_TRUE(!report.NeedsNormals || text.find("--normal") != std::string::npos) << report.Name;
   }
+}
+
+TEST(ReportList, SaysWhichReportsTheManPageTellsToHaveNoTable) {
+  const std::string sentence = Between(ManSection("OPTIONS"), "\nThe reports\n", "have no table.");
+  EXPECT_THAT(
+      Finds(sentence, R"(\.BR? (\S+))"),
+      ElementsAreArray(NamesOf([](const ReportInfo& report) { return !HasTable(report); })));
+}
+
+TEST(ReportList, IsWhatTheManualDescribesTheTablesOf) {
+  const std::string tables = Between(Manual(), "\n## Tables\n", "\n### R\n") + "\n";
+  EXPECT_THAT(Finds(tables, R"(\n### (\S+)\n)"), UnorderedElementsAreArray(NamesOf(HasTable)));
+  for (const ReportInfo& report : reports::kReports) {
+    const std::string text = ManualOf(report.Name);
+    for (const std::string_view column : report.Columns) {
+      EXPECT_THAT(text, HasSubstr(fmt::format("`{}`", column))) << report.Name;
+    }
+  }
+}
+
+TEST(ReportList, SaysWhichReportsTheManualTellsToTakeAllFilesTogether) {
+  const std::string names = Between(Manual(), "\nIn the pooled reports (", ")");
+  EXPECT_THAT(Finds(names, "`(.*?)`"),
+              ElementsAreArray(NamesOf([](const ReportInfo& report) { return report.Pools; })));
 }
 
 TEST(OptionsOfTheTool, AreWhatTheCompletionOffers) {
   const auto offered = CompletedWords("options");
   EXPECT_EQ(std::set<std::string>(offered.begin(), offered.end()), OptionsOfHelp());
   EXPECT_FALSE(offered.empty());
+}
+
+TEST(OptionsOfTheTool, TakeTheValuesThatTheCompletionOffers) {
+  const std::string help = RunInside({"--help"}).Out;
+  for (const std::string option : {"--format", "--axes"}) {
+    EXPECT_THAT(Finds(Between(help, option + " ", " "), R"(([\w-]+))"),
+                UnorderedElementsAreArray(CompletedValues(option)))
+        << option;
+  }
 }
 
 TEST(OptionsOfTheTool, AreWhatTheManPageDescribes) {
