@@ -122,11 +122,13 @@ TEST(CurvesUsage, HelpManPageAndCompletionNameEachPage) {
   const std::string help = HelpText();
   const std::string page = Document("man/vantrel-curves.1");
   const std::string completion = Document("completion/vantrel-curves.bash");
+  std::string names;
   for (const auto& known : pages::kPages) {
     EXPECT_THAT(help, HasSubstr("\n  " + std::string(known.Name) + " "));
     EXPECT_THAT(page, HasSubstr("\n.B " + std::string(known.Name) + "\n"));
-    EXPECT_THAT(completion, HasSubstr(std::string(known.Name)));
+    names += (names.empty() ? "" : " ") + std::string(known.Name);
   }
+  EXPECT_THAT(completion, HasSubstr("local pages=\"" + names + "\"\n"));
 }
 
 }  // namespace
