@@ -6,17 +6,17 @@
 #include <functional>
 #include <iterator>
 #include <memory>
+#include <utility>
+#include <variant>
 
 #include "c3d/FileState.h"
 #include "gait/OpenTrial.h"
 #include "pages/PageKinds.h"
 #include "reports/CsvTable.h"
 #include "reports/JsonTable.h"
-#include "reports/PooledReport.h"
+#include "reports/PooledReportList.h"
 #include "reports/ReportList.h"
 #include "reports/TrialTableList.h"
-#include "reports/VariabilityReport.h"
-#include "reports/VisitReport.h"
 #include "support/MessageOf.h"
 #include "support/Text.h"
 
@@ -28,6 +28,14 @@ using reports::TableOptions;
 using reports::TableOutput;
 
 namespace {
+
+// What a table of the window can be made of: rows of each trial, or of all without normal values.
+constexpr bool CanBeTabulated(std::string_view report) {
+  const auto* info = std::ranges::find(reports::kReports, report, &reports::ReportInfo::Name);
+  return info != reports::kReports.end() && !info->Columns.empty() && !info->ReadsAnyFile &&
+         !info->NeedsNormals;
+}
+static_assert(std::ranges::all_of(kVisitTables, CanBeTabulated));
 
 // Opens the trial with all its labels and works on it; the sentence that says what went wrong.
 std::string Opened(const std::string& path, const std::function<void(FileState&)>& work) {
@@ -124,12 +132,13 @@ MadeTable TableOfVisit(std::string_view report, TableForm form,
     table = std::make_unique<reports::CsvTable>(output);
   }
   TableOptions options;
-  options.AllLabels = report == "normalized";
-  table->Begin(reports::FindReport(report)->Columns);
-  if (report == "visit") {
-    WritePooled(reports::MakeVisitReport(options), trials, *table, made);
-  } else if (report == "variability") {
-    WritePooled(reports::MakeVariabilityReport(options), trials, *table, made);
+  const reports::ReportInfo& info = *reports::FindReport(report);
+  options.AllLabels = info.NeedsLabel;
+  table->Begin(info.Columns);
+  if (info.Pools) {
+    auto pooled = reports::MakePooledReport(report, options, {});
+    WritePooled(std::get<std::unique_ptr<reports::PooledReport>>(std::move(pooled)), trials, *table,
+                made);
   } else {
     WriteEach(reports::FindTrialTable(report).Rows, options, trials, *table, made);
   }
