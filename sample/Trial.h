@@ -39,7 +39,7 @@ class Trial {
   Trial& SetSingle(std::int32_t position, float value);
   // Lets the header claim frames `first` to `last`, whatever the file holds.
   Trial& ClaimFrames(std::int16_t first, std::int16_t last);
-  // Replaces the offset word of a record of `nameLength` characters that starts at `position`.
+  // Replaces the offset word of the group or parameter that starts at `position`.
   Trial& SetOffset(std::int32_t position, std::int16_t offset);
 
   void WriteTo(const std::filesystem::path& path) const;

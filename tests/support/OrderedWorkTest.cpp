@@ -133,7 +133,7 @@ INSTANTIATE_TEST_SUITE_P(By, OrderedWorks, testing::Values(1, 2, 8), [](const au
   return std::to_string(threads.param) + "Threads";
 });
 
-// Works of which the first is slow; each of the others makes one piece of `pieceSize`.
+// Works of which the first is slow; each of the others makes one piece of kPiece bytes.
 class BehindASlowWork : public testing::Test {
  protected:
   OrderedWork Works(std::size_t count) {

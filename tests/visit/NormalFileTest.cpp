@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <cmath>
+#include <filesystem>
 #include <fstream>
 #include <string>
 
@@ -16,6 +17,7 @@ namespace {
 
 using modVantrel::Component;
 using testing::HasSubstr;
+using testing::StartsWith;
 using tests::CsvOfCurve;
 using tests::kNormsHeading;
 using visit::NormalFault;
@@ -259,6 +261,19 @@ TEST(NormalFile, ReadsWhatStandsInTheFile) {
   const auto read = visit::ReadNormalFile(path);
   ASSERT_TRUE(std::holds_alternative<Normals>(read));
   EXPECT_NE(std::get<Normals>(read).Curve("KneeAngles", Component::X), nullptr);
+}
+
+// What the file does not hold takes no room on most disks.
+TEST(NormalFile, OfMoreThan64MiBIsRefused) {
+  const tests::TemporaryFolder folder;
+  const std::string path = (folder / "norms.csv").string();
+  std::ofstream(path, std::ios::binary) << kNormsHeading;
+  std::filesystem::resize_file(path, 67'108'864);
+  const std::string read = std::get<std::string>(visit::ReadNormalFile(path));
+  EXPECT_THAT(read, StartsWith(path + ", line 2: "));
+  std::filesystem::resize_file(path, 67'108'865);
+  EXPECT_EQ(std::get<std::string>(visit::ReadNormalFile(path)),
+            path + ": larger than any file of normals");
 }
 
 TEST(NormalFile, FileThatIsMissingIsNamed) {
