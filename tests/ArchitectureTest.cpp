@@ -11,9 +11,12 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/SourceTree.h"
+
 namespace {
 
 namespace fs = std::filesystem;
+using tests::FilesOfTheTree;
 
 const fs::path kRoot = VANTREL_SOURCE_DIR;
 
@@ -133,20 +136,6 @@ TEST(Architecture, OnlyTheWindowUsesQt) {
     }
   }
   EXPECT_GT(found, 0U) << "the window's own are not recognised";
-}
-
-// The files of the tree, from its root; what was built, and what version control keeps, aside.
-std::vector<std::string> FilesOfTheTree() {
-  std::vector<std::string> files;
-  for (auto entry = fs::recursive_directory_iterator(kRoot); entry != fs::end(entry); ++entry) {
-    const std::string file = fs::relative(entry->path(), kRoot).generic_string();
-    if (file == "build" || file == ".git") {
-      entry.disable_recursion_pending();
-    } else if (entry->is_regular_file()) {
-      files.push_back(file);
-    }
-  }
-  return files;
 }
 
 // By its name. The metadata of the desktop have a field for their own terms, and the stand-ins are

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <algorithm>
+#include <cctype>
 #include <ctime>
 #include <filesystem>
 #include <fstream>
@@ -7,12 +9,16 @@
 #include <iterator>
 #include <locale>
 #include <regex>
+#include <set>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include "tests/SourceTree.h"
 
 // What several documents say of the version and the licence, each by hand, is the same in all.
 namespace {
@@ -96,6 +102,44 @@ TEST(Documents, LicenceIsTheSameInAllOfThem) {
   EXPECT_THAT(TextOf("packaging/debian/copyright"), HasSubstr("\nLicense: GPL-3+\n"));
   EXPECT_THAT(TextOf("README.md"),
               HasSubstr("[GNU General Public License](LICENSE), version 3 or later"));
+}
+
+void AddWords(const std::string& text, std::set<std::string>& words) {
+  std::string word;
+  for (const char letter : text + '\n') {
+    if (std::isalnum(static_cast<unsigned char>(letter)) != 0 || letter == '_') {
+      word += letter;
+    } else if (!word.empty()) {
+      words.insert(std::exchange(word, {}));
+    }
+  }
+}
+
+// Names of the code, such as FileState or kReports, and paths of the tree, such as app/FormRows.
+TEST(Documents, TheTourNamesWhatIsThere) {
+  static const std::regex kCodeName("[A-Za-z]*[a-z0-9][A-Z]\\w*");
+  static const std::regex kTreePath("[a-z]\\w*/[\\w./-]*");
+  const std::vector<std::string> files = tests::FilesOfTheTree();
+  std::set<std::string> words;
+  for (const std::string& file : files) {
+    AddWords(file, words);
+    if (!file.ends_with(".md")) AddWords(TextOf(file), words);
+  }
+  static const std::regex kQuoted("`([^`\n]+)`");
+  const std::string tour = TextOf("docs/tour.md");
+  std::size_t checked = 0;
+  for (std::sregex_iterator next(tour.begin(), tour.end(), kQuoted), end; next != end; ++next) {
+    std::string name = (*next)[1];
+    name.erase(std::min(name.find("..."), name.size()));  // what several files begin with
+    const bool isPath = std::regex_match(name, kTreePath);
+    if (!isPath && !std::regex_match(name, kCodeName)) continue;
+    ++checked;
+    const auto begins = [&](const std::string& file) { return file.starts_with(name); };
+    EXPECT_TRUE(isPath ? name.starts_with("build/") || std::ranges::any_of(files, begins)
+                       : words.contains(name))
+        << name;
+  }
+  EXPECT_GT(checked, 0U);
 }
 
 TEST(Documents, NamedByOtherOnesAreThere) {
