@@ -6,15 +6,16 @@
 
 #include "gait/CheckText.h"
 #include "gait/Checks.h"
+#include "gait/LengthUnit.h"
 #include "support/Text.h"
 
 namespace modVantrel {
 
 namespace {
 
-// The unit without blanks and zero bytes at its end, in upper case.
+// The unit without what fills its field, in upper case.
 std::string UnitKey(std::string_view unit) {
-  return modAllPurpose::SearchKey(unit.substr(0, unit.find_last_not_of('\0') + 1));
+  return modAllPurpose::SearchKey(modAllPurpose::WithoutFilling(unit));
 }
 
 bool IsMomentUnit(std::string unit) {
@@ -49,11 +50,7 @@ void CheckMomentUnits(const CheckedTrial& trial, Findings& findings) {
 std::optional<double> MetresPerUnit(const CheckedTrial& trial) {
   const auto unit = trial.Param("POINT", "UNITS").TextValues.First();
   if (!unit) return std::nullopt;
-  const std::string key = UnitKey(*unit);
-  if (key == "MM") return 0.001;
-  if (key == "CM") return 0.01;
-  if (key == "M") return 1.0;
-  return std::nullopt;
+  return MetresPerUnit(*unit);
 }
 
 void CheckUnits(const CheckedTrial& trial, Findings& findings) {

@@ -12,10 +12,10 @@
 #include "c3d/FrameData.h"
 #include "c3d/ParameterSection.h"
 #include "gait/GcdCalcs.h"
+#include "gait/LengthUnit.h"
 #include "gait/StrideEvents.h"
 #include "support/Arithmetic.h"
 #include "support/RuntimeError.h"
-#include "support/Text.h"
 #include "visit/StrideSelection.h"
 
 namespace visit {
@@ -163,11 +163,8 @@ double MetresPerUnit(const FileState& state) {
     const modVantrel::BinaryFile::Look look(state.C3dFileNumber);
     unit = FindGroupAndParam(state, "POINT", "UNITS").Param.TextValues.First().value_or("");
   });
-  while (unit.ends_with('\0')) unit.pop_back();
-  const std::string key = modAllPurpose::SearchKey(unit);
-  if (key == "M") return 1.0;
-  if (key == "CM") return 0.01;
-  return 0.001;
+  constexpr double kOfAnyOther = 0.001;
+  return modVantrel::MetresPerUnit(unit).value_or(kOfAnyOther);
 }
 
 std::vector<GaitMeasures> MeasuresOfStrides(const FileState& state) {

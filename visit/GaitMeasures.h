@@ -57,8 +57,8 @@ std::string MeasureTitle(std::string_view name);
 // 11 for a stride of no duration.
 GaitMeasures TimeMeasuresOf(const modVantrel::StrideRecord& stride);
 
-// The metres of one unit of the file's positions, by POINT:UNITS: m, cm or mm in any case, zero
-// bytes at its end aside. Anything else counts as mm.
+// The metres of one unit of the file's positions, by POINT:UNITS: m, cm or mm in any case, what
+// fills its field aside. Anything else counts as mm.
 double MetresPerUnit(const modVantrel::FileState& state);
 
 // The measures of the complete strides, in their order. Errors as clsGcdCalcs.

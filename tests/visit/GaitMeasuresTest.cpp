@@ -205,6 +205,7 @@ TEST(GaitMeasures, UnitsOfPositionsBecomeMetres) {
   EXPECT_EQ(metres("cm"), 0.01);
   EXPECT_EQ(metres("Cm"), 0.01);
   EXPECT_EQ(metres(std::string("cm\0\0", 4)), 0.01);
+  EXPECT_EQ(metres(std::string("m\0 \0", 4)), 1);
   EXPECT_EQ(metres("mm"), 0.001);
   EXPECT_EQ(metres("MM"), 0.001);
   EXPECT_EQ(metres("inch"), 0.001) << "not known";
