@@ -115,12 +115,8 @@ std::vector<AnalysisValue> ReadValues(const CheckedTrial& trial) {
     const std::string key = KeyOf(names.At(ElementAt(i)));
     const auto* measure = std::ranges::find(kMeasures, key, &NamedMeasure::Name);
     if (measure == kMeasures.end()) continue;
-    const std::string context = KeyOf(contexts.At(ElementAt(i)));
     values.push_back({Shown(names.At(ElementAt(i))),
-                      context == "LEFT"    ? GaitSide::Left
-                      : context == "RIGHT" ? GaitSide::Right
-                                           : GaitSide::None,
-                      numbers.At(ElementAt(i)),
+                      SideOfContext(KeyOf(contexts.At(ElementAt(i)))), numbers.At(ElementAt(i)),
                       units.Holds(ElementAt(i)) ? KeyOf(units.At(ElementAt(i))) : std::string(),
                       measure});
   }

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "c3d/ParameterSection.h"
+#include "gait/EventNames.h"
 #include "gait/EventSource.h"
 #include "gait/MacEvents.h"
 #include "gait/ValidStrides.h"
@@ -41,12 +42,6 @@ EventParams FindEventParams(const FileState& state) {
           FindGroupAndParam(state, "EVENT", "TIMES").Param};
 }
 
-GaitSide SideOf(const std::string& context) {
-  if (context == "LEFT") return GaitSide::Left;
-  if (context == "RIGHT") return GaitSide::Right;
-  return GaitSide::None;
-}
-
 GaitEventType TypeOf(const std::string& label) {
   if (label == "FOOT STRIKE") return GaitEventType::FootStrike;
   if (label == "FOOT OFF") return GaitEventType::FootOff;
@@ -74,7 +69,7 @@ bool IsOutside(const FileState& state, float time) {
 void FillEventLists(FileState& state, const EventParams& params) {
   GaitEventState& events = state.GaitEvents;
   for (std::int32_t i = 1; i <= events.TotalCount; ++i) {
-    const GaitSide side = SideOf(params.Context(i));
+    const GaitSide side = SideOfContext(params.Context(i));
     const GaitEventType type = TypeOf(params.Label(i));
     const EventList list = ListFor(events, side, type);
     const EventRecord event{side, type, params.Seconds(i)};

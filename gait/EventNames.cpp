@@ -10,6 +10,12 @@ std::string_view SideName(GaitSide side) {
   return "None";
 }
 
+GaitSide SideOfContext(std::string_view context) {
+  if (context == "LEFT") return GaitSide::Left;
+  if (context == "RIGHT") return GaitSide::Right;
+  return GaitSide::None;
+}
+
 std::string_view EventTypeName(GaitEventType type) {
   if (type == GaitEventType::FootStrike) return "Foot Strike";
   if (type == GaitEventType::FootOff) return "Foot Off";

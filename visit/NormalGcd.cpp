@@ -11,6 +11,7 @@
 
 #include <fmt/format.h>
 
+#include "gait/EventNames.h"
 #include "gait/GcdCurveTable.h"
 #include "visit/NormalFile.h"
 #include "visit/PlainNumber.h"
@@ -18,6 +19,7 @@
 namespace visit {
 
 using modVantrel::Component;
+using modVantrel::GaitSide;
 using modVantrel::GcdCurveSpec;
 
 namespace {
@@ -42,7 +44,8 @@ std::optional<Variable> FindVariable(std::string_view name) {
 
 // Whether `name` is a variable with a side in front of it, as the file of one stride has it.
 bool IsOfOneSide(std::string_view name) {
-  for (const std::string_view side : {"Left", "Right"}) {
+  for (const GaitSide foot : {GaitSide::Left, GaitSide::Right}) {
+    const std::string_view side = modVantrel::SideName(foot);
     if (name.starts_with(side) && FindVariable(name.substr(side.size()))) return true;
   }
   return false;
