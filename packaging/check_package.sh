@@ -22,6 +22,9 @@ for program in vantrel vantrel-curves vantrel-report; do
   test -s "$share/man/man1/$program.1.gz"
 done
 test ! -e "$folder/root/usr/bin/vantrel-picture"
+for part in fonts-dejavu-core libcli11-dev rapidjson-dev; do
+  grep -qi copyright "$share/doc/vantrel/licences/$part"
+done
 for page in "$share"/man/man1/*.gz; do
   complaints=$(man --warnings -E UTF-8 -l -Tutf8 -Z "$page" 2>&1 >/dev/null)
   [ -z "$complaints" ] || { echo "$page: $complaints"; exit 1; }
@@ -40,6 +43,7 @@ grep -qx '50:application/x-c3d:\*.c3d' "$share/mime/globs2"
 test ! -e "$folder/root/usr/lib/python3"
 dpkg-deb --extract "$python_package" "$folder/python"
 test ! -e "$folder/python/usr/bin"
+grep -qi copyright "$folder/python/usr/share/doc/python3-vantrel/licences/pybind11-dev"
 modules=$folder/python/usr/lib/python3/dist-packages
 test -s "$modules/vantrel/_core.pyi" && test -e "$modules/vantrel/py.typed"
 dpkg-deb --field "$python_package" Depends | grep -q 'python3 (>= 3\.[0-9]*~), python3 (<< 3\.[0-9]*)'

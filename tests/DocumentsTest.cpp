@@ -100,6 +100,9 @@ TEST(Documents, LicenceIsTheSameInAllOfThem) {
   EXPECT_THAT(TextOf("packaging/desktop/org.vantrel.vantrel.metainfo.xml.in"),
               HasSubstr("<project_license>" + std::string(kLicence) + "</project_license>"));
   EXPECT_THAT(TextOf("packaging/debian/copyright"), HasSubstr("\nLicense: GPL-3+\n"));
+  EXPECT_THAT(TextOf("cmake/mingw/Program.rc.in"),
+              HasSubstr("\"Copyright the Vantrel maintainers. " + std::string(kLicence) + ".\""));
+  EXPECT_THAT(TextOf("app/AboutText.cpp"), HasSubstr("Licence: " + std::string(kLicence) + ". "));
   EXPECT_THAT(TextOf("README.md"),
               HasSubstr("[GNU General Public License](LICENSE), version 3 or later"));
 }
@@ -145,9 +148,8 @@ TEST(Documents, TheTourNamesWhatIsThere) {
 TEST(Documents, NamedByOtherOnesAreThere) {
   static const std::regex kLink(R"re(\]\(([^):#]+)\))re");
   std::size_t links = 0;
-  for (const std::filesystem::path document :
-       {"README.md", "docs/manual.md", "docs/archive.md", "docs/python.md", "docs/tour.md",
-        "docs/speed.md", "docs/fuzzing.md", "docs/reading-c3d.md"}) {
+  for (const std::filesystem::path document : tests::FilesOfTheTree()) {
+    if (document.extension() != ".md") continue;
     const std::string text = TextOf(document.string());
     ASSERT_THAT(text, StartsWith("# ")) << document;
     for (std::sregex_iterator next(text.begin(), text.end(), kLink), end; next != end; ++next) {

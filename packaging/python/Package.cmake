@@ -11,6 +11,7 @@ install(FILES ${VANTREL_PYTHON_COPIES} DESTINATION ${modules} COMPONENT python)
 install(FILES debian/copyright ${PROJECT_SOURCE_DIR}/docs/python.md
   ${PROJECT_SOURCE_DIR}/docs/python-plot.png
   DESTINATION ${python_doc} COMPONENT python)
+vantrel_licences(${python_doc} python pybind11-dev rapidjson-dev)
 file(READ ${CMAKE_CURRENT_BINARY_DIR}/changelog changelog)
 file(CONFIGURE OUTPUT python-changelog CONTENT "python3-${changelog}")
 vantrel_gzipped(${CMAKE_CURRENT_BINARY_DIR}/python-changelog changelog.gz ${python_doc} python)
