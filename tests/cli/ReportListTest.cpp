@@ -121,7 +121,14 @@ TEST(ReportList, IsWhatHelpLists) {
   EXPECT_THAT(Finds(Between(help, "\nReports:", "\nExit status"), R"(\n  (\S+))"),
               ElementsAreArray(Names()));
   for (const ReportInfo& report : reports::kReports) {
-    EXPECT_THAT(help, HasSubstr(fmt::format("\n  {:<27} {}", report.Name, report.Description)));
+    const std::string start = fmt::format("\n  {:<27} {}", report.Name, report.Description);
+    EXPECT_THAT(help, HasSubstr(start));
+    const std::string remark = Between(help, start, "\n");
+    EXPECT_EQ(remark.find("needs --label") != std::string::npos, report.NeedsLabel) << remark;
+    EXPECT_EQ(remark.find("needs --normal") != std::string::npos, report.NeedsNormals) << remark;
+    EXPECT_EQ(remark.find("takes --events") != std::string::npos, report.TakesEvents) << remark;
+    EXPECT_EQ(remark.find("takes --group") != std::string::npos, report.TakesGroup) << remark;
+    EXPECT_EQ(remark.find("--output-dir") != std::string::npos, report.WritesGcdFiles) << remark;
   }
 }
 
