@@ -87,8 +87,7 @@ bool CurvesWindow::MayReplace(const std::string& file) {
 
 void CurvesWindow::WriteOrTell(const std::vector<WholeFile>& files) {
   try {
-    std::string taken = plot::WriteFiles(files, false);
-    if (!taken.empty()) {
+    if (!modAllPurpose::WriteFilesWhereFree(files).empty()) {
       // Each of the names that are taken is asked for by itself.
       for (const WholeFile& file : files) {
         if (modVantrel::IsC3dFile(file.Path)) {
@@ -97,7 +96,7 @@ void CurvesWindow::WriteOrTell(const std::vector<WholeFile>& files) {
         }
         if (modAllPurpose::IsNameTaken(file.Path) && !MayReplace(file.Path)) return;
       }
-      taken = plot::WriteFiles(files, true);
+      modAllPurpose::WriteFilesTogether(files);
     }
     Say(tr("%1 was written.").arg(ToQString(files.front().Path)));
   } catch (const modAllPurpose::RuntimeError& error) {

@@ -34,15 +34,15 @@ constexpr const char* kExitStatus =
 // More would only wait for each other.
 constexpr int kMostJobs = 256;
 
-// The names of the reports, or of those that have a table.
-std::string ReportNames(bool onlyTables = false) {
-  std::string names;
+bool HasTable(const reports::ReportInfo& report) { return !report.Columns.empty(); }
+
+// The names of the reports, or of those that fit.
+std::string ReportNames(bool (*fits)(const reports::ReportInfo&) = nullptr) {
+  std::vector<std::string_view> names;
   for (const auto& report : reports::kReports) {
-    if (onlyTables && report.Columns.empty()) continue;
-    if (!names.empty()) names += ", ";
-    names += report.Name;
+    if (fits == nullptr || fits(report)) names.push_back(report.Name);
   }
-  return names;
+  return fmt::format("{}", fmt::join(names, ", "));
 }
 
 // The options that a report asks for or takes, as a remark behind its description.
@@ -153,9 +153,9 @@ void CheckRequest(const Request& request) {
     throw CLI::RequiresError("--param", "--group");
   }
   const reports::ReportInfo& report = *reports::FindReport(request.Report);
-  if (request.Format != OutputFormat::Text && report.Columns.empty()) {
+  if (request.Format != OutputFormat::Text && !HasTable(report)) {
     throw CLI::ValidationError("--format", fmt::format("'{}' has no table; there are tables of: {}",
-                                                       request.Report, ReportNames(true)));
+                                                       request.Report, ReportNames(HasTable)));
   }
   CheckLabels(request, report);
   CheckNormals(request, report);

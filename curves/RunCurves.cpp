@@ -69,7 +69,11 @@ bool Write(const Request& request, const pages::PageSet& set, const Streams& str
       std::string kept = request.Overwrite ? WhyKept(file.Path, request, set) : "";
       if (!kept.empty()) return kept;
     }
-    taken = plot::WriteFiles(files, request.Overwrite);
+    if (request.Overwrite) {
+      WriteFilesTogether(files);
+    } else {
+      taken = WriteFilesWhereFree(files);
+    }
     return {};
   });
   if (!taken.empty()) Complain(streams, taken + " exists already (--overwrite replaces it)");

@@ -153,10 +153,4 @@ std::vector<WholeFile> FilesOf(const std::string& file, const pages::PageSet& se
   return files;
 }
 
-std::string WriteFiles(const std::vector<WholeFile>& files, bool overwrite) {
-  if (!overwrite) return modAllPurpose::WriteFilesWhereFree(files);
-  modAllPurpose::WriteFilesTogether(files);
-  return {};
-}
-
 }  // namespace plot

@@ -40,9 +40,4 @@ std::vector<modAllPurpose::WholeFile> FilesOf(const std::string& file, const pag
                                               FileKind kind, const SheetKind& sheet,
                                               const DrawingStyle& style);
 
-// Writes files whole or not at all. Where `overwrite` is not set all of them or none: the answer is
-// the name that was taken, empty where all is well. Else none is replaced before all are complete.
-// Errors as modAllPurpose's whole files.
-std::string WriteFiles(const std::vector<modAllPurpose::WholeFile>& files, bool overwrite);
-
 }  // namespace plot

@@ -44,10 +44,13 @@ std::optional<double> Together(std::span<const Score* const> scores) {
   return RootMeanSquare(squares, scores.size());
 }
 
-std::vector<const Score*> VariablesOf(const SideScores& side, bool withPelvis) {
+enum class Pelvis { Counted, LeftOut };
+
+std::vector<const Score*> VariablesOf(const SideScores& side, Pelvis pelvis) {
   std::vector<const Score*> scores;
   for (std::size_t i = 0; i < kScoredVariables.size(); ++i) {
-    if (withPelvis || !kScoredVariables[i].IsOfPelvis) scores.push_back(&side.Variables[i]);
+    if (kScoredVariables[i].IsOfPelvis && pelvis == Pelvis::LeftOut) continue;
+    scores.push_back(&side.Variables[i]);
   }
   return scores;
 }
@@ -93,7 +96,7 @@ SideScores Scores::SideAgainst(const Normals& normals, GaitSide side,
   for (std::size_t i = 0; i < kScoredVariables.size(); ++i) {
     scores.Variables[i] = VariableAgainst(normals, side, kScoredVariables[i], lacking);
   }
-  scores.Profile = {Together(VariablesOf(scores, true)),
+  scores.Profile = {Together(VariablesOf(scores, Pelvis::Counted)),
                     side == GaitSide::Left ? leftStrides_ : rightStrides_};
   return scores;
 }
@@ -102,8 +105,8 @@ GaitScores Scores::Against(const Normals& normals) const {
   GaitScores scores;
   scores.Left = SideAgainst(normals, GaitSide::Left, scores.Lacking);
   scores.Right = SideAgainst(normals, GaitSide::Right, scores.Lacking);
-  auto fifteen = VariablesOf(scores.Left, true);
-  const auto six = VariablesOf(scores.Right, false);
+  auto fifteen = VariablesOf(scores.Left, Pelvis::Counted);
+  const auto six = VariablesOf(scores.Right, Pelvis::LeftOut);
   fifteen.insert(fifteen.end(), six.begin(), six.end());
   scores.Overall = {Together(fifteen), leftStrides_ + rightStrides_};
   return scores;

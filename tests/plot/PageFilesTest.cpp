@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
 #include <map>
 
 #include <QBuffer>
@@ -16,49 +14,18 @@
 
 namespace {
 
-namespace fs = std::filesystem;
 using plot::BytesOf;
 using plot::FileKind;
 using plot_tests::SamplePages;
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::Not;
 using testing::SizeIs;
 
 QByteArray Bytes(const std::string& text) {
   return {text.data(), static_cast<qsizetype>(text.size())};
 }
 
-// A folder of its own for each test.
-class PageFiles : public testing::Test {
- protected:
-  PageFiles() : folder_(fs::path(testing::TempDir()) / Name()) {
-    fs::remove_all(folder_);
-    fs::create_directories(folder_);
-  }
-  ~PageFiles() override { fs::remove_all(folder_); }
-
-  std::string In(const std::string& name) const { return (folder_ / name).string(); }
-  std::vector<std::string> Names() const {
-    std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(folder_)) {
-      names.push_back(entry.path().filename().string());
-    }
-    std::ranges::sort(names);
-    return names;
-  }
-
- private:
-  static std::string Name() {
-    return std::string("vantrel-plot-") +
-           testing::UnitTest::GetInstance()->current_test_info()->name();
-  }
-
-  fs::path folder_;
-};
-
-TEST_F(PageFiles, PdfIsOfTheSheetThatWasAskedFor) {
+TEST(PageFiles, PdfIsOfTheSheetThatWasAskedFor) {
   const auto set = SamplePages({});
   const auto size = [&](const plot::SheetKind& sheet) {
     const auto file = BytesOf(set, FileKind::Pdf, sheet, {})[0];
@@ -91,7 +58,7 @@ SvgParts PartsOf(const std::string& svg) {
   return parts;
 }
 
-TEST_F(PageFiles, SvgHasTextsAsTextsAndALineForEachStrideAndPanel) {
+TEST(PageFiles, SvgHasTextsAsTextsAndALineForEachStrideAndPanel) {
   const auto set = SamplePages({2, 1, false, {}});
   const auto files = BytesOf(set, FileKind::Svg, {}, {});
   ASSERT_THAT(files, SizeIs(5));
@@ -104,7 +71,7 @@ TEST_F(PageFiles, SvgHasTextsAsTextsAndALineForEachStrideAndPanel) {
   EXPECT_FALSE(parts.Elements.contains(QStringLiteral("clipPath")));
 }
 
-TEST_F(PageFiles, SvgIsWellFormedWhateverTheTextsHold) {
+TEST(PageFiles, SvgIsWellFormedWhateverTheTextsHold) {
   auto set = SamplePages({1, 1, false, "\x01\n<&>\x7F\xFF\xEF\xBF\xBF\""});
   set.Pages[0].Title = "Title\x02";
   const auto files = BytesOf(set, FileKind::Svg, {}, {});
@@ -115,14 +82,14 @@ TEST_F(PageFiles, SvgIsWellFormedWhateverTheTextsHold) {
   }
 }
 
-TEST_F(PageFiles, SvgIsAPageOfItsSheetInTenthsOfAPoint) {
+TEST(PageFiles, SvgIsAPageOfItsSheetInTenthsOfAPoint) {
   const auto files = BytesOf(SamplePages({}), FileKind::Svg, {}, {});
   const std::string start = files[0].substr(0, 200);
   EXPECT_THAT(start, HasSubstr("viewBox=\"0 0 5950 8420\"")) << "A4 in whole points";
   EXPECT_THAT(start, HasSubstr("width=\"209.9"));
 }
 
-TEST_F(PageFiles, PngIsAPictureOfEachPage) {
+TEST(PageFiles, PngIsAPictureOfEachPage) {
   const auto files = BytesOf(SamplePages({}), FileKind::Png, {plot::Paper::A4, true}, {});
   ASSERT_THAT(files, SizeIs(5));
   const QImage image = QImage::fromData(Bytes(files[0]), "PNG");
@@ -130,7 +97,7 @@ TEST_F(PageFiles, PngIsAPictureOfEachPage) {
   EXPECT_EQ(image.pixelColor(5, 5), QColor(Qt::white));
 }
 
-TEST_F(PageFiles, OfSeveralPagesAreNumberedBeforeTheirEnding) {
+TEST(PageFiles, OfSeveralPagesAreNumberedBeforeTheirEnding) {
   auto set = SamplePages({});
   const auto named = [&](const std::string& file) {
     std::vector<std::string> names;
@@ -146,24 +113,12 @@ TEST_F(PageFiles, OfSeveralPagesAreNumberedBeforeTheirEnding) {
   EXPECT_THAT(named("visit.svg"), ElementsAre("visit.svg"));
 }
 
-TEST_F(PageFiles, KindIsThatOfTheEndingInAnyCase) {
+TEST(PageFiles, KindIsThatOfTheEndingInAnyCase) {
   EXPECT_EQ(plot::FileKindOf("x.PDF"), FileKind::Pdf);
   EXPECT_EQ(plot::FileKindOf("x.Svg"), FileKind::Svg);
   EXPECT_EQ(plot::FileKindOf("x.pdf.png"), FileKind::Png);
   EXPECT_EQ(plot::FileKindOf("x.pdf/y"), std::nullopt);
   EXPECT_EQ(plot::FileKindOf("pdf"), std::nullopt);
-}
-
-TEST_F(PageFiles, WhereOneNameIsTakenNoneIsWritten) {
-  std::ofstream(In("b-2.svg")) << "kept";
-  EXPECT_EQ(plot::WriteFiles({{In("b-1.svg"), "one"}, {In("b-2.svg"), "two"}}, false),
-            In("b-2.svg"));
-  EXPECT_THAT(Names(), ElementsAre("b-2.svg"));
-  EXPECT_EQ(plot::WriteFiles({{In("b-1.svg"), "one"}, {In("b-2.svg"), "two"}}, true), "");
-  EXPECT_THAT(Names(), ElementsAre("b-1.svg", "b-2.svg"));
-  std::string text;
-  std::getline(std::ifstream(In("b-2.svg")), text);
-  EXPECT_EQ(text, "two");
 }
 
 }  // namespace
