@@ -20,6 +20,10 @@ std::unique_ptr<QTreeWidgetItem> MakeItem(const reports::TreeNode& node) {
   return item;
 }
 
+bool MovesUp(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Up || event.key() == Qt::Key_PageUp || event.key() == Qt::Key_Home;
+}
+
 }  // namespace
 
 NodeTree::NodeTree(QWidget* parent) : QTreeWidget(parent) {
@@ -40,12 +44,23 @@ void NodeTree::Fill(const std::vector<reports::TreeNode>& groups) {
 
 void NodeTree::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-    if (currentItem() != nullptr && !event->isAutoRepeat()) emit DblClick(currentItem());
+    if (event->isAutoRepeat() || !HighlightCurrent()) return;
+    emit DblClick(currentItem());
     return;
   }
   const QTreeWidgetItem* before = currentItem();
   QTreeWidget::keyPressEvent(event);
-  if (currentItem() != nullptr && currentItem() != before) emit NodeClick(currentItem());
+  const bool clicks = currentItem() != before || event->key() == Qt::Key_Space ||
+                      event->key() == Qt::Key_Select || (MovesUp(*event) && IsNothingHighlighted());
+  if (clicks && HighlightCurrent()) emit NodeClick(currentItem());
+}
+
+bool NodeTree::IsNothingHighlighted() const { return selectedItems().isEmpty(); }
+
+bool NodeTree::HighlightCurrent() {
+  if (currentItem() == nullptr) return false;
+  setCurrentItem(currentItem());
+  return true;
 }
 
 void NodeTree::mousePressEvent(QMouseEvent* event) {

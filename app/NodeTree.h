@@ -11,9 +11,10 @@
 namespace app {
 
 // The tree of groups, parameters and labels. The mouse and the keyboard do the same: moving to a
-// node by keys clicks it, Enter double-clicks it. The highlighted node is the one that was clicked
-// last: other buttons than the left one do nothing, and a node that the mouse was pressed on is
-// clicked wherever the button is let go. A click beside the nodes changes nothing.
+// node by keys clicks it, the space bar clicks the one the keys stand on, Enter double-clicks it.
+// The highlighted node is the one that was clicked last: other buttons than the left one do
+// nothing, and a node that the mouse was pressed on is clicked wherever the button is let go. A
+// click beside the nodes changes nothing.
 class NodeTree : public QTreeWidget {
   Q_OBJECT
 
@@ -37,6 +38,10 @@ class NodeTree : public QTreeWidget {
                                                        const QEvent* event) const override;
 
  private:
+  bool IsNothingHighlighted() const;
+  // False where the keys stand on no node.
+  bool HighlightCurrent();
+
   const QTreeWidgetItem* pressed_ = nullptr;  // only ever compared
   bool isPressed_ = false;
 };

@@ -170,6 +170,41 @@ TEST_F(FormTree, GoingToTheTreeByTabChangesNoTextBox) {
   EXPECT_EQ(TextBoxes(), Texts("g", "p", "pl", "al"));
 }
 
+TEST_F(FormTree, EveryKeyThatHighlightsANodeClicksItAndTheOtherWayRound) {
+  Start();
+  for (const Qt::Key key :
+       {Qt::Key_Space, Qt::Key_Return, Qt::Key_Up, Qt::Key_Home, Qt::Key_PageUp, Qt::Key_End}) {
+    Drop(WriteSampleWalk());
+    Type("txtParam", QStringLiteral("p"));
+    CheckBox()->setFocus();
+    QTest::keyClick(CheckBox(), Qt::Key_Tab);
+    ASSERT_TRUE(Tree()->hasFocus());
+    QTest::keyClick(Tree(), key);
+    EXPECT_EQ(Tree()->selectedItems(), QList<QTreeWidgetItem*>({Tree()->currentItem()})) << key;
+    EXPECT_EQ(Box("txtGroup")->text(), Tree()->currentItem()->text(0)) << key;
+    EXPECT_EQ(Box("txtParam")->text(), QString()) << key;
+  }
+}
+
+TEST_F(FormTree, TheSpaceBarFillsTheBoxesAgainFromTheHighlightedNode) {
+  StartWithSample();
+  ClickNode(Path("POINT", "SCALE"));
+  Type("txtGroup", QStringLiteral("g"));
+  Tree()->setFocus();
+  QTest::keyClick(Tree(), Qt::Key_Space);
+  EXPECT_EQ(TextBoxes(), Texts("POINT", "SCALE", "pl", "al"));
+}
+
+TEST_F(FormTree, KeysInATreeWithoutNodesDoNothing) {
+  Start();
+  Tree()->setFocus();
+  for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Up, Qt::Key_Down}) {
+    QTest::keyClick(Tree(), key);
+  }
+  EXPECT_EQ(TextBoxes(), Texts("", "", "", ""));
+  EXPECT_EQ(PaneText(), "");
+}
+
 TEST_F(FormTree, PointLabelsStoredAsNumbersHaveNoLabelNodes) {
   Start(TrialBuilder().SetParam("POINT", sample::IntegerListParam("LABELS", {1, 2})).Build());
   EXPECT_EQ(Node(Path("POINT", "LABELS"))->childCount(), 0);
