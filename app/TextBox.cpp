@@ -34,6 +34,12 @@ bool TextBox::event(QEvent* event) {
   if (event->type() == QEvent::FocusAboutToChange || event->type() == QEvent::WindowDeactivate) {
     HideProposals();
   }
+  // The list comes before a shortcut of the window.
+  if (event->type() == QEvent::ShortcutOverride && ShownProposals() != nullptr &&
+      dynamic_cast<const QKeyEvent&>(*event).key() == Qt::Key_Escape) {
+    event->accept();
+    return true;
+  }
   return QLineEdit::event(event);
 }
 

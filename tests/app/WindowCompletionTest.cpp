@@ -206,6 +206,19 @@ TEST_F(WindowCompletion, ProposalsOfAnEarlierTrialGoWhenAnotherOneIsOpened) {
   EXPECT_FALSE(Popup("txtPointLabel")->isVisible());
 }
 
+TEST_F(WindowCompletion, EscapeClosesTheProposalsBeforeTheFindBar) {
+  Start(WriteSampleWalk());
+  form_.Find();
+  Type("txtPointLabel", QStringLiteral("L"));
+  ASSERT_TRUE(Popup("txtPointLabel")->isVisible());
+  Press("txtPointLabel", Qt::Key_Escape);
+  EXPECT_FALSE(Popup("txtPointLabel")->isVisible());
+  EXPECT_TRUE(Box("txtPointLabel")->hasFocus());
+  EXPECT_TRUE(Control<QWidget>("findBar")->isVisible());
+  Press("txtPointLabel", Qt::Key_Escape);
+  EXPECT_FALSE(Control<QWidget>("findBar")->isVisible());
+}
+
 TEST_F(WindowCompletion, EnterThatIsHeldDownRunsOnce) {
   Start(WriteSampleWalk());
   Type("txtPointLabel", QStringLiteral("LTOE"));
