@@ -74,6 +74,11 @@ FindBar::FindBar(OutputPane* pane)
   connect(next, &QToolButton::clicked, this, &FindBar::FindNext);
   connect(close, &QToolButton::clicked, this, &FindBar::Close);
   connect(txtFind_, &QLineEdit::textEdited, lblFindResult_, &QLabel::hide);
+  // What was said of another text is not true of this one.
+  connect(pane, &OutputPane::TextReplaced, lblFindResult_, &QLabel::hide);
+  connect(pane, &QsciScintilla::SCN_ZOOM, this, [this] {
+    if (isVisible()) TakePlace();
+  });
   pane->installEventFilter(this);
   connect(escape_, &QShortcut::activated, this, &FindBar::Close);
   escape_->setEnabled(false);

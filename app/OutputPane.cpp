@@ -150,6 +150,7 @@ void OutputPane::ReplaceText(std::string_view text) {
   ascii_ = true;
   SendScintilla(SCI_SETXOFFSET, 0UL);
   Append(text);
+  emit TextReplaced();
 }
 
 std::string OutputPane::Text() const {

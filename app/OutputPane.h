@@ -58,6 +58,10 @@ class OutputPane : public QsciScintilla {
   long PositionOf(int offset) const;
   QString TextBetween(long start, long end) const;
 
+ signals:
+  // What was found and selected so far is gone, for the text is another one.
+  void TextReplaced();
+
  protected:
   void changeEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;

@@ -240,6 +240,34 @@ TEST_F(Find, ASearchThatGoesRoundTheEndSaysSo) {
   EXPECT_FALSE(Result()->isVisible());
 }
 
+TEST_F(Find, WhatWasSaidOfAnotherTextIsNotSaidOfThisOne) {
+  StartWith("Left foot\n");
+  Want(QStringLiteral("hand"));
+  QTest::keyClick(Wanted(), Qt::Key_Return);
+  ASSERT_TRUE(Result()->isVisible());
+  Pane()->ReplaceText("Left hand\n");
+  EXPECT_FALSE(Result()->isVisible());
+  EXPECT_TRUE(Bar()->isVisible());
+}
+
+TEST_F(Find, AfterZoomingTheBarStillDoesNotLieOverWhatWasFound) {
+  std::string text;
+  for (int i = 0; i < 100; ++i) text += std::string(30, '.') + (i == 0 ? "toe\n" : "...\n");
+  StartWith(text.c_str());
+  Want(QStringLiteral("toe"));
+  QTest::keyClick(Wanted(), Qt::Key_Return);
+  const QPoint view = Pane()->viewport()->geometry().topLeft();
+  bool crossed = false;
+  for (const int zoom : {0, 4, 8, 12, 16, 20, 0}) {
+    Pane()->zoomTo(zoom);
+    QApplication::processEvents();
+    const QRect found = Pane()->SelectionPlace().translated(view);
+    EXPECT_FALSE(Bar()->geometry().intersects(found)) << zoom;
+    crossed = crossed || Bar()->geometry().top() != view.y();
+  }
+  EXPECT_TRUE(crossed) << "no zoom brings it under the bar";
+}
+
 TEST_F(Find, F3SaysThatItWentRoundWhereTheBarIsClosed) {
   StartWith("toe 1\n");
   Want(QStringLiteral("toe"));
