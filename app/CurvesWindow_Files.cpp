@@ -20,6 +20,7 @@
 #include "app/MessageBoxes.h"
 #include "app/PrinterChoice.h"
 #include "app/QtText.h"
+#include "app/ScreenRoom.h"
 #include "app/modMsgBoxPlus.h"
 #include "c3d/FileKey.h"
 #include "pages/MakePages.h"
@@ -60,6 +61,7 @@ std::string CurvesWindow::AskForFile(const QString& title, const QString& name,
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setOption(QFileDialog::DontConfirmOverwrite);  // asked of all names, where they are known
   dialog.setNameFilters(filters);
+  OpenWithinScreen(dialog);
   if (!visit_.Trials().empty()) {
     dialog.setDirectory(ToQString(modAllPurpose::FolderOf(visit_.Trials().front().Path)));
   }

@@ -10,10 +10,8 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QProgressBar>
-#include <QScreen>
 #include <QSplitter>
 #include <QStatusBar>
-#include <QStyle>
 #include <QTabBar>
 #include <QTimer>
 #include <QToolBar>
@@ -22,7 +20,7 @@
 
 #include "app/CurvesWindow.h"
 #include "app/QtText.h"
-#include "app/Screens.h"
+#include "app/ScreenRoom.h"
 
 namespace app {
 
@@ -256,12 +254,7 @@ void CurvesWindow::OpenAtItsPlace() {
   split_->restoreState(memory_.Split());
   if (restoreGeometry(memory_.Geometry())) return;
   constexpr QSize kSize(1180, 780);
-  const QRect room = screen()->availableGeometry();
-  // What the window system will most likely put around it, and a little more.
-  constexpr int kEdge = 8;
-  const QSize frame(kEdge, style()->pixelMetric(QStyle::PM_TitleBarHeight) + kEdge);
-  resize(kSize.boundedTo(room.size() - frame));
-  move(NearestPlaceInside(room, {room.center() - rect().center(), size() + frame}));
+  OpenInTheMiddle(*this, kSize);
 }
 
 }  // namespace app

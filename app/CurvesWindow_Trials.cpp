@@ -18,6 +18,7 @@
 #include "app/DraggedFiles.h"
 #include "app/MessageBoxes.h"
 #include "app/QtText.h"
+#include "app/ScreenRoom.h"
 #include "reports/CheckReport.h"
 #include "support/FileSystem.h"
 #include "visit/NormalFile.h"
@@ -67,6 +68,7 @@ void CurvesWindow::ChooseTrials() {
   dialog.setOption(QFileDialog::HideNameFilterDetails);
   dialog.setNameFilter(tr("C3D Files (*.c3d *.C3D)"));
   dialog.setFileMode(QFileDialog::ExistingFiles);
+  OpenWithinScreen(dialog);
   if (!visit_.Trials().empty()) {
     dialog.setDirectory(ToQString(modAllPurpose::FolderOf(visit_.Trials().front().Path)));
   }

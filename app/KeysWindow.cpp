@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include "app/MenuRows.h"
+#include "app/ScreenRoom.h"
 
 namespace app {
 
@@ -67,7 +68,7 @@ void Fill(QTableWidget& table) {
 KeysWindow::KeysWindow(QWidget* parent) : QDialog(parent) {
   setObjectName(QStringLiteral("KeysWindow"));
   setWindowTitle(tr("Keys"));
-  resize(kKeysSize);
+  OpenWithinScreen(*this, kKeysSize);
   auto* column = new QVBoxLayout(this);
   auto* table = new QTableWidget(0, 3);
   table->setObjectName(QStringLiteral("tblKeys"));

@@ -110,6 +110,9 @@ QAction* MainWindow::ActionOf(const MenuRow& row) {
 }
 
 void MainWindow::FillMenus() {
+  // On a low screen a menu scrolls; most styles would set it in columns side by side, of which a
+  // narrow screen shows the first.
+  menuBar()->setStyleSheet(QStringLiteral("QMenu { menu-scrollable: 1; }"));
   // These stand first, whatever comes first into them; the others come with their first entry.
   for (const MenuName menu :
        {MenuName::File, MenuName::Edit, MenuName::Reports, MenuName::Curves}) {

@@ -20,6 +20,7 @@
 #include "app/QtText.h"
 #include "app/ReportPrinter.h"
 #include "app/SaveFile.h"
+#include "app/ScreenRoom.h"
 #include "app/TrialStatus.h"
 #include "app/frmVantrel.h"
 #include "reports/CsvTable.h"
@@ -154,10 +155,13 @@ void MainWindow::PrintReport() {
 
 void MainWindow::ChooseNormals() {
   const QString folder = ToQString(modAllPurpose::FolderPart(Normals()));
-  const QString chosen = QFileDialog::getOpenFileName(
-      this, tr("Normals"), folder.isEmpty() ? ToQString(remembered_.LastFolder()) : folder,
-      tr("Normal values (*.csv *.gcd *.CSV *.GCD);;All files (*)"));
-  if (chosen.isEmpty()) return;
+  QFileDialog dialog(this, tr("Normals"),
+                     folder.isEmpty() ? ToQString(remembered_.LastFolder()) : folder,
+                     tr("Normal values (*.csv *.gcd *.CSV *.GCD);;All files (*)"));
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  OpenWithinScreen(dialog);
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return;
+  const QString chosen = dialog.selectedFiles().constFirst();
   const auto normals = visit::ReadNormalFile(PathFrom(chosen));
   if (const auto* fault = std::get_if<std::string>(&normals)) {
     ShowMessage(this, *fault);

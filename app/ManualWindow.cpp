@@ -16,6 +16,7 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include "app/ScreenRoom.h"
 #include "app/TextBox.h"
 
 namespace app {
@@ -81,7 +82,7 @@ ManualWindow::ManualWindow(const QString& markdown, QWidget* parent)
       lblResult_(new QLabel) {
   setObjectName(QStringLiteral("ManualWindow"));
   setWindowTitle(tr("Manual"));
-  resize(kManualSize);
+  OpenInTheMiddle(*this, kManualSize);
   auto* column = new QVBoxLayout(this);
   browser_->setObjectName(QStringLiteral("txtManual"));
   browser_->setAccessibleName(tr("Manual"));

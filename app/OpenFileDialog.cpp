@@ -10,6 +10,7 @@
 #include <QStringList>
 
 #include "app/QtText.h"
+#include "app/ScreenRoom.h"
 #include "support/FileSystem.h"
 #include "support/Text.h"
 
@@ -64,6 +65,7 @@ DialogResult ShowOpenFileDialog(QWidget* owner, std::string_view filter,
     dialog.setFileMode(QFileDialog::ExistingFile);
   }
   HintAtCancel(dialog, cancelHint);
+  app::OpenWithinScreen(dialog);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
   return ResultForChosenFile(app::PathFrom(dialog.selectedFiles().constFirst()));
 }

@@ -11,6 +11,7 @@
 
 #include "app/MessageBoxes.h"
 #include "app/QtText.h"
+#include "app/ScreenRoom.h"
 #include "app/modMsgBoxPlus.h"
 #include "c3d/FileKey.h"
 #include "support/RuntimeError.h"
@@ -45,6 +46,7 @@ std::optional<ChosenName> AskForName(QWidget* owner, const QString& title, const
   QStringList filters;
   for (const FileKind& kind : kinds) filters << FilterOf(kind);
   dialog.setNameFilters(filters);
+  OpenWithinScreen(dialog);
   dialog.setDirectory(QFileInfo(proposed).path());
   dialog.selectFile(QDir::fromNativeSeparators(proposed) + QLatin1Char('.') + kinds.first().Ending);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};

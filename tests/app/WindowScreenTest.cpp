@@ -25,6 +25,16 @@ class WindowScreen : public tests::WindowTest {
   }
 
   QRect Room() const { return window_.screen()->availableGeometry(); }
+
+  void ExpectWithinTheWorkArea(const QWidget& shown, const char* name) {
+    constexpr int kLateAnswers = 100;  // milliseconds; of the window system
+    QTest::qWait(kLateAnswers);
+    // The toolkit sometimes takes a frame that is still being made for an empty one.
+    const QRect frame = shown.frameGeometry().united(shown.geometry());
+    EXPECT_TRUE(Room().contains(frame))
+        << name << ' ' << frame.x() << ' ' << frame.y() << ' ' << frame.width() << ' '
+        << frame.height() << " in " << Room().width() << ' ' << Room().height();
+  }
   app::FormColumn* Column() { return Control<app::FormColumn>("column"); }
 };
 
@@ -93,6 +103,47 @@ TEST_F(WindowScreen, EveryMenuAndEveryEntryIsOnTheScreen) {
         << top->text().toStdString();
     QTest::keyClick(top->menu(), Qt::Key_Escape);
   }
+}
+
+TEST_F(WindowScreen, EveryEntryOfAMenuComesIntoSightByTheArrows) {
+  StartAndSettle();
+  for (QAction* top : window_.menuBar()->actions()) {
+    QMenu* menu = top->menu();
+    QList<QAction*> entries = menu->actions();
+    entries.removeIf([](QAction* entry) { return entry->isSeparator() || !entry->isEnabled(); });
+    QTest::mouseClick(window_.menuBar(), Qt::LeftButton, {},
+                      window_.menuBar()->actionGeometry(top).center());
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(menu));
+    for (QAction* entry : entries) {
+      QTest::keyClick(menu, Qt::Key_Down);
+      QApplication::processEvents();
+      ASSERT_EQ(menu->activeAction(), entry);
+      const QRect place = menu->actionGeometry(entry);
+      EXPECT_TRUE(menu->rect().contains(place)) << entry->text().toStdString();
+      const QRect seen(menu->mapToGlobal(place.topLeft()), place.size());
+      EXPECT_TRUE(window_.screen()->geometry().contains(seen)) << entry->text().toStdString();
+    }
+    QTest::keyClick(menu, Qt::Key_Escape);
+  }
+}
+
+TEST_F(WindowScreen, TheDialogsOfItsEntriesLieWithinTheWorkArea) {
+  StartAndSettle();
+  // To cancel the choice of a trial ends the program, so that one comes last.
+  for (const char* entry :
+       {"mnuChooseNormals", "mnuSaveReport", "mnuSubject", "mnuKeys", "mnuAbout", "mnuOpen"}) {
+    boxes_.Expect([this, entry](QDialog& dialog) {
+      ExpectWithinTheWorkArea(dialog, entry);
+      dialog.reject();
+    });
+    Entry(entry)->trigger();
+  }
+}
+
+TEST_F(WindowScreen, TheManualLiesWithinTheWorkArea) {
+  StartAndSettle();
+  Entry("mnuManual")->trigger();
+  ExpectWithinTheWorkArea(*QApplication::activeWindow(), "the manual");
 }
 
 class DarkWindow : public WindowScreen {
