@@ -50,6 +50,7 @@ MainWindow::MainWindow(modVantrel::FileState& state)
   setAcceptDrops(true);
   installEventFilter(form_);
   FillMenus();
+  recent_->setToolTipsVisible(true);
   // Not while one of its entries runs, which would be deleted.
   connect(recent_, &QMenu::aboutToShow, this, &MainWindow::FillRecentFiles);
   connect(Menu(MenuName::File), &QMenu::aboutToShow, this, &MainWindow::LookAround);

@@ -10,6 +10,7 @@
 #include <QFileDialog>
 #include <QMenu>
 #include <QPrintDialog>
+#include <QScreen>
 #include <QTimer>
 
 #include "app/MainWindow.h"
@@ -21,6 +22,7 @@
 #include "app/ReportPrinter.h"
 #include "app/SaveFile.h"
 #include "app/ScreenRoom.h"
+#include "app/ToolTip.h"
 #include "app/TrialStatus.h"
 #include "app/frmVantrel.h"
 #include "reports/CsvTable.h"
@@ -34,9 +36,13 @@ namespace app {
 
 namespace {
 
-// A path as a menu shows it, where "&" marks a letter.
-QString Caption(const std::string& path) {
-  return ToQString(path).replace(u'&', QStringLiteral("&&"));
+// A path as `menu` shows it, where "&" marks a letter: a long one without its middle, so that its
+// own name is on the screen.
+QString Caption(const QString& path, const QMenu& menu) {
+  const int most = menu.screen()->availableGeometry().width() * 3 / 4;
+  return menu.fontMetrics()
+      .elidedText(path, Qt::ElideMiddle, most)
+      .replace(u'&', QStringLiteral("&&"));
 }
 
 // Nothing where there is no table.
@@ -95,7 +101,9 @@ void MainWindow::changeEvent(QEvent* event) {
 void MainWindow::FillRecentFiles() {
   recent_->clear();
   for (const std::string& path : remembered_.RecentFiles()) {
-    connect(recent_->addAction(Caption(path)), &QAction::triggered, this,
+    QAction* entry = recent_->addAction(Caption(ToQString(path), *recent_));
+    entry->setToolTip(WrappedToolTip(ToQString(path)));
+    connect(entry, &QAction::triggered, this,
             [this, path] { form_->RunCommand([&] { form_->OpenFile(path); }); });
   }
   recent_->addSeparator();

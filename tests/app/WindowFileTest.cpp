@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QDialogButtonBox>
+#include <QScreen>
 #include <QTest>
 
 #include "sample/TrialBuilder.h"
@@ -170,6 +171,22 @@ TEST_F(WindowFile, ARecentTrialIsOpenedByAClickWhateverItsName) {
   ChooseRecent(1);
   EXPECT_EQ(form_.OpenFileSpec(), odd);
   EXPECT_GT(Tree()->topLevelItemCount(), 0);
+}
+
+TEST_F(WindowFile, ARecentTrialBehindALongPathIsOnTheScreenWithItsOwnName) {
+  const auto folder = folder_ / std::string(80, 'd') / std::string(80, 'd');
+  std::filesystem::create_directories(folder);
+  const std::string walk = (folder / "R&D walk.c3d").string();
+  SampleTrial().WriteTo(walk);
+  Start(walk);
+  const QString shown = RecentFiles().first();
+  EXPECT_TRUE(shown.endsWith(QStringLiteral("R&&D walk.c3d"))) << shown.toStdString();
+  EXPECT_LT(Recent()->sizeHint().width(), window_.screen()->availableGeometry().width());
+  EXPECT_TRUE(Recent()->toolTipsVisible());
+  EXPECT_TRUE(Recent()->actions().first()->toolTip().contains(QStringLiteral("R&amp;D walk.c3d")));
+  EXPECT_TRUE(Recent()->actions().first()->toolTip().contains(QString(80, u'd')));
+  ChooseRecent(0);
+  EXPECT_EQ(form_.OpenFileSpec(), walk);
 }
 
 TEST_F(WindowFile, AFileThatCouldNotBeOpenedIsNotRecent) {
