@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QStyleOptionFocusRect>
 #include <QStylePainter>
 #include <QTextLayout>
@@ -88,6 +89,8 @@ void StatusLine::keyPressEvent(QKeyEvent* event) {
     click();
   }
 }
+
+void StatusLine::mouseDoubleClickEvent(QMouseEvent* event) { event->accept(); }
 
 void StatusLine::paintEvent(QPaintEvent* /*event*/) {
   QStylePainter painter(this);

@@ -8,7 +8,8 @@
 namespace app {
 
 // The status of the open trial in two short lines. It is pressed like a button, by mouse, blank or
-// Enter, where there is a trial; its tooltip and what is read out is the whole of it.
+// Enter, where there is a trial, once by a double-click, too; its tooltip and what is read out is
+// the whole of it.
 class StatusLine : public QAbstractButton {
   Q_OBJECT
 
@@ -25,6 +26,7 @@ class StatusLine : public QAbstractButton {
  protected:
   void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
 
  private:
   void Tell();

@@ -168,6 +168,20 @@ TEST_F(FormCommand, ADropWhileItRunsIsRefused) {
   EXPECT_EQ(form_.windowTitle().toStdString(), walk);
 }
 
+TEST_F(FormCommand, ClosedWhileItRunsTheProgramEndsWellBehindIt) {
+  Start(WriteSampleWalk());
+  ReportWatch watch(Pane(), [this] {
+    QWindowSystemInterface::handleCloseEvent<Late>(form_.window()->windowHandle());
+    PostClick("cmdShowAllGroups");
+  });
+  Click("cmdShowHeaderInfo");
+  EXPECT_TRUE(PaneText().starts_with("OpenC3dFileSpec: ")) << "the report is whole";
+  Settle();
+  EXPECT_TRUE(form_.IsUnloaded());
+  EXPECT_EQ(form_.ExitStatus(), 0);
+  EXPECT_EQ(watch.Reports(), 1);
+}
+
 TEST_F(FormCommand, WhatIsPressedAfterwardsRuns) {
   Start(WriteSampleWalk());
   ReportWatch watch(Pane(), [this] { PostClick("cmdShowHeaderInfo"); });

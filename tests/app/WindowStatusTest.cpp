@@ -78,6 +78,20 @@ TEST_F(WindowStatus, SaysFileFramesRateStridesAndFindings) {
   EXPECT_EQ(QTextDocumentFragment::fromHtml(Line()->toolTip()).toPlainText(), Said());
 }
 
+TEST_F(WindowStatus, ADoubleClickShowsTheCheckupOnce) {
+  Start(WriteSampleWalk());
+  int reports = 0;
+  QObject::connect(&form_, &app::frmVantrel::ReportChanged, &form_, [&] {
+    if (form_.Shown()) ++reports;
+  });
+  QTest::mouseClick(Line(), Qt::LeftButton);
+  QTest::mouseDClick(Line(), Qt::LeftButton);
+  QTest::mouseRelease(Line(), Qt::LeftButton);
+  EXPECT_EQ(reports, 1);
+  QTest::mouseClick(Line(), Qt::LeftButton);
+  EXPECT_EQ(reports, 2);
+}
+
 TEST_F(WindowStatus, AClickShowsTheCheckup) {
   Start(WriteSampleWalk());
   AwaitCheckup();
