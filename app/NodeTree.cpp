@@ -7,6 +7,7 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QScopedValueRollback>
 
 #include "app/QtText.h"
 
@@ -33,6 +34,7 @@ NodeTree::NodeTree(QWidget* parent) : QTreeWidget(parent) {
   setUniformRowHeights(true);
   connect(this, &QTreeWidget::itemClicked, this, &NodeTree::NodeClick);
   connect(this, &QTreeWidget::itemDoubleClicked, this, &NodeTree::DblClick);
+  connect(this, &QTreeWidget::itemSelectionChanged, this, &NodeTree::ClickWhatOthersHighlight);
 }
 
 void NodeTree::Fill(const std::vector<reports::TreeNode>& groups) {
@@ -42,7 +44,14 @@ void NodeTree::Fill(const std::vector<reports::TreeNode>& groups) {
   addTopLevelItems(items);
 }
 
+void NodeTree::ClickWhatOthersHighlight() {
+  if (isPressed_ || isAtKeys_ || IsNothingHighlighted()) return;
+  setCurrentItem(selectedItems().constFirst());
+  emit NodeClick(currentItem());
+}
+
 void NodeTree::keyPressEvent(QKeyEvent* event) {
+  const QScopedValueRollback atKeys(isAtKeys_, true);
   if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
     if (event->isAutoRepeat() || !HighlightCurrent()) return;
     emit DblClick(currentItem());

@@ -38,12 +38,15 @@ class NodeTree : public QTreeWidget {
                                                        const QEvent* event) const override;
 
  private:
+  // Neither mouse nor keys: a screen reader does so.
+  void ClickWhatOthersHighlight();
   bool IsNothingHighlighted() const;
   // False where the keys stand on no node.
   bool HighlightCurrent();
 
   const QTreeWidgetItem* pressed_ = nullptr;  // only ever compared
   bool isPressed_ = false;
+  bool isAtKeys_ = false;
 };
 
 // How many ancestors a node has: 0 for a group, 1 for a parameter, 2 for a label.

@@ -2,6 +2,7 @@
 
 // The navigation tree: what it holds, and what clicks on its nodes do.
 
+#include <QAccessible>
 #include <QApplication>
 #include <QMouseEvent>
 #include <QTest>
@@ -193,6 +194,19 @@ TEST_F(FormTree, TheSpaceBarFillsTheBoxesAgainFromTheHighlightedNode) {
   Tree()->setFocus();
   QTest::keyClick(Tree(), Qt::Key_Space);
   EXPECT_EQ(TextBoxes(), Texts("POINT", "SCALE", "pl", "al"));
+}
+
+TEST_F(FormTree, ANodeThatAScreenReaderHighlightsIsClicked) {
+  StartWithSample();
+  ClickNode(Path("SUBJECTS"));
+  QAccessibleTableInterface* table =
+      QAccessible::queryAccessibleInterface(Tree())->tableInterface();
+  ASSERT_NE(table, nullptr);
+  ASSERT_TRUE(table->selectRow(1));
+  EXPECT_EQ(Tree()->selectedItems(), QList<QTreeWidgetItem*>({Tree()->topLevelItem(1)}));
+  EXPECT_EQ(TextBoxes(), Texts("ANALOG", "", "pl", "al"));
+  QTest::keyClick(Tree(), Qt::Key_Down);
+  EXPECT_EQ(Box("txtGroup")->text(), Tree()->topLevelItem(2)->text(0));
 }
 
 TEST_F(FormTree, KeysInATreeWithoutNodesDoNothing) {
