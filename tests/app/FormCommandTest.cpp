@@ -254,6 +254,18 @@ TEST_F(FormCommand, AKeyThatIsHeldDownRunsItOnce) {
   }
 }
 
+TEST_F(FormCommand, AShortcutThatIsHeldDownRunsItOnce) {
+  Start(WriteSampleWalk());
+  ReportWatch watch(Pane(), [] {});
+  for (const bool repeated : {false, true, true}) {
+    QWindowSystemInterface::handleKeyEvent<Late>(form_.window()->windowHandle(), QEvent::KeyPress,
+                                                 Qt::Key_I, Qt::ControlModifier, QString(),
+                                                 repeated);
+    Settle();
+  }
+  EXPECT_EQ(watch.Reports(), 1);
+}
+
 TEST_F(FormCommand, AfterAnErrorNothingStaysShut) {
   Start();
   boxes_.ExpectAndClick(QStringLiteral("OK"));
