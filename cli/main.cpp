@@ -11,6 +11,7 @@
 int main(int argc, char* argv[]) {
   modAllPurpose::KeepPlacesOfStandardStreams();
   modAllPurpose::LetInterruptionsWait();
+  console::AllowManyOpenFiles();
   console::PrepareOutput();
   return cli::RunTool(modAllPurpose::ProgramArguments(argc, argv), {stdout, stderr});
 }

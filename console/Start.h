@@ -19,6 +19,10 @@ std::vector<std::string> WithoutWildcards(const std::string& file);
 // writes come back as errors. A console is as it was when the tool has ended.
 void PrepareOutput();
 
+// Lets as many files be open at once as the system allows the program: each job of GCD files that
+// take the places of others keeps all those of its trial open. For a program's start.
+void AllowManyOpenFiles();
+
 bool IsTerminal(std::FILE* stream);
 
 // How many characters stand in a row of a terminal; 0 where that is not known.

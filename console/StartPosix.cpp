@@ -5,6 +5,7 @@
 #include <csignal>
 #include <poll.h>
 #include <sys/ioctl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -74,6 +75,13 @@ void PrepareOutput() {
   std::signal(SIGPIPE, SIG_IGN);
   // A file that would grow over its limit is met as a failed write, like a full disk.
   std::signal(SIGXFSZ, SIG_IGN);
+}
+
+void AllowManyOpenFiles() {
+  rlimit limit{};
+  if (::getrlimit(RLIMIT_NOFILE, &limit) != 0) return;
+  limit.rlim_cur = limit.rlim_max;
+  ::setrlimit(RLIMIT_NOFILE, &limit);
 }
 
 bool IsTerminal(std::FILE* stream) { return ::isatty(::fileno(stream)) == 1; }

@@ -92,6 +92,9 @@ void PrepareOutput() {
   ::SetConsoleCtrlHandler(RestoreWhenInterrupted, TRUE);
 }
 
+// Files are opened by handles, of which there are millions.
+void AllowManyOpenFiles() {}
+
 bool IsTerminal(std::FILE* stream) { return ::_isatty(::_fileno(stream)) != 0; }
 
 int TerminalColumns(std::FILE* stream) {

@@ -8,6 +8,7 @@
 #include <iterator>
 #include <optional>
 #include <string>
+#include <sys/resource.h>
 #include <thread>
 #include <vector>
 
@@ -99,11 +100,13 @@ TEST(GcdInterrupted, LeavesAWholeSetOrNothing) {
   EXPECT_GT(interrupted, 0);
 }
 
-// A walk of 40 left and 39 right strides.
+constexpr std::size_t kLongWalkStrides = 23;
+
+// A walk of 12 left and 11 right strides.
 sample::Trial LongWalk() {
   sample::TrialBuilder builder;
-  builder.Frames(1, 4100).AddEvent("Left", "Foot Strike", 0.5F);
-  for (int i = 0; i < 40; ++i) {
+  builder.Frames(1, 1300).AddEvent("Left", "Foot Strike", 0.5F);
+  for (int i = 0; i < 12; ++i) {
     const auto start = static_cast<float>(i);
     builder.AddEvent("Right", "Foot Off", start + 0.625F)
         .AddEvent("Right", "Foot Strike", start + 1.0F)
@@ -127,20 +130,19 @@ void AwaitAnother(const std::vector<fs::path>& files) {
 }
 
 TEST(GcdInterrupted, WhileItTakesThePlacesOfOldFilesItTakesThemAll) {
-  constexpr std::size_t kFiles = 79;
   const ToolInFolder tool;
   LongWalk().WriteTo(tool / "walk.c3d");
   int interrupted = 0;
-  for (int i = 0; i < 20; ++i) {
+  for (int i = 0; i < 10; ++i) {
     ASSERT_EQ(tool.Run({"--overwrite", "--gender", "male", "gcd", "walk.c3d"}).Status, 0);
-    ASSERT_EQ(FilesOf(tool, "Male"), kFiles);
+    ASSERT_EQ(FilesOf(tool, "Male"), kLongWalkStrides);
     tests::RunningTool run({"--overwrite", "--gender", "female", "gcd", "walk.c3d"},
                            tests::RunningTool::Output::File, tool.Path());
     AwaitAnother({tool / "walk-L1.gcd", tool / "walk-R1.gcd"});
     run.Send(SIGTERM);
     if (run.WaitAtMost(std::chrono::minutes(1)) == SIGTERM) ++interrupted;
-    EXPECT_EQ(FilesOf(tool, "Female"), kFiles);
-    EXPECT_EQ(NamesIn(tool.Path()).size(), kFiles + 2) << "something temporary is left";
+    EXPECT_EQ(FilesOf(tool, "Female"), kLongWalkStrides);
+    EXPECT_EQ(NamesIn(tool.Path()).size(), kLongWalkStrides + 2) << "something temporary is left";
   }
   EXPECT_GT(interrupted, 0);
 }
@@ -160,6 +162,31 @@ TEST(GcdInterrupted, LeavesAllReplacedFilesOldOrAllNew) {
   EXPECT_GT(interrupted, 0);
 }
 
+// Lets programs that are started have so few files open at once until they ask for more.
+class FewOpenFiles {
+ public:
+  explicit FewOpenFiles(rlim_t count) {
+    EXPECT_EQ(::getrlimit(RLIMIT_NOFILE, &before_), 0);
+    EXPECT_GT(before_.rlim_max, count);
+    const rlimit few{count, before_.rlim_max};
+    EXPECT_EQ(::setrlimit(RLIMIT_NOFILE, &few), 0);
+  }
+  FewOpenFiles(const FewOpenFiles&) = delete;
+  FewOpenFiles& operator=(const FewOpenFiles&) = delete;
+  ~FewOpenFiles() { ::setrlimit(RLIMIT_NOFILE, &before_); }
+
+ private:
+  rlimit before_{};
+};
+
+TEST(GcdOfManyStrides, IsReplacedWhereOnlyFewFilesMayBeOpenUnlessAProgramAsksForMore) {
+  const ToolInFolder tool;
+  LongWalk().WriteTo(tool / "walk.c3d");
+  const FewOpenFiles few(20);
+  EXPECT_EQ(tool.Run({"--overwrite", "gcd", "walk.c3d"}).Status, 0);
+  EXPECT_EQ(GcdFilesIn(tool).size(), kLongWalkStrides);
+}
+
 TEST(GcdLines, ThatAreLostOnAFullDiskAreStandardOutputsFailureAlone) {
   const ToolInFolder tool;
   tests::WholeFrameTrial().Build().WriteTo(tool / "a.c3d");
@@ -173,7 +200,7 @@ TEST(GcdLines, ThatAreLostOnAFullDiskAreStandardOutputsFailureAlone) {
 TEST(GcdLines, OfAToolWithoutAnyOutputStandInNoFile) {
   const ToolInFolder tool;
   std::vector<std::string> arguments = {"--overwrite", "--jobs", "4", "gcd"};
-  for (int i = 0; i < 40; ++i) {
+  for (int i = 0; i < 12; ++i) {
     arguments.push_back(std::to_string(i) + ".c3d");
     tests::WholeFrameTrial().Build().WriteTo(tool / arguments.back());
   }

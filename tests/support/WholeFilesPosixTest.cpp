@@ -47,9 +47,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using modAllPurpose::FileInWaiting;
-using modAllPurpose::WholeFile;
 using modAllPurpose::WriteFileInOneStep;
-using modAllPurpose::WriteFilesTogether;
 using modAllPurpose::WriteFileWhereFree;
 using tests::ErrorNumberOf;
 using tests::kPathFileAccessError;
@@ -217,24 +215,6 @@ TEST_F(PosixFiles, AFileThatMayNotBeWrittenIsNamed) {
     if (status == kNotPossibleHere) GTEST_SKIP() << "not for this user";
     EXPECT_EQ(status, 0) << name;
   }
-}
-
-TEST_F(PosixFiles, WhatASetHasReplacedIsToldWhereTheSystemThenRefusesAnother) {
-  Put("others", 0666);
-  ASSERT_EQ(::chmod(folder_.Path().c_str(), 01777), 0);  // where only the owner may replace it
-  const std::vector<WholeFile> files = {{Path("mine"), "new"}, {Path("others"), "new"}};
-  const int status = StatusAsNobody([&] {
-    std::vector<std::string> replaced;
-    const int failed = NamesTheFile(files[1].Path, tests::kPermissionDenied, [&] {
-      WriteFilesTogether(
-          files, {.Replaced = [&](const WholeFile& file) { replaced.push_back(file.Path); }});
-    });
-    return failed != 0 ? failed : static_cast<int>(replaced != std::vector{files[0].Path}) * 3;
-  });
-  if (status == kNotPossibleHere) GTEST_SKIP() << "not for this user";
-  EXPECT_EQ(status, 0);
-  EXPECT_EQ(ReadWholeFile(Path("others")), "old");
-  EXPECT_EQ(NamesInFolder(), 2);
 }
 
 TEST_F(PosixFiles, AFileThatTheDiskCannotTakeIsNamed) {

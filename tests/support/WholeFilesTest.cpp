@@ -108,24 +108,6 @@ TEST_F(WholeFiles, ASetWithOneTakenNameLeavesNothingOfItself) {
   EXPECT_EQ(NamesInFolder(), 1);
 }
 
-TEST_F(WholeFiles, TogetherReplaceTheOldOnesAndMakeTheOthers) {
-  Put("b", "old and longer");
-  const std::vector<WholeFile> files = {{Path("a"), "new a"}, {Path("b"), "new b"}};
-  WriteFilesTogether(files);
-  EXPECT_EQ(Read("a"), "new a");
-  EXPECT_EQ(Read("b"), "new b");
-  EXPECT_EQ(NamesInFolder(), 2);
-}
-
-TEST_F(WholeFiles, TogetherReplaceNothingWhereOneCannotBeWritten) {
-  Put("a", "old");
-  fs::create_directory(folder_ / "folder");
-  const std::vector<WholeFile> files = {{Path("a"), "new"}, {Path("folder"), "new"}};
-  EXPECT_NE(ErrorLineOf([&] { WriteFilesTogether(files); }), "");
-  EXPECT_EQ(Read("a"), "old");
-  EXPECT_EQ(NamesInFolder(), 2);
-}
-
 TEST_F(WholeFiles, ASetTakesItsNamesInOrderHoweverItIsGiven) {
   Put("b", "old");
   Put("y", "old");
@@ -163,6 +145,18 @@ TEST_F(WholeFiles, ASetIsLeftAsItWasWhereTheLastLookAtItFails) {
   EXPECT_EQ(ErrorNumberOf([&] { WriteFilesTogether(files, steps); }), tests::kDiskFull);
   EXPECT_EQ(Read("a"), "old");
   EXPECT_EQ(NamesInFolder(), 1);
+}
+
+TEST_F(WholeFiles, WhatASetHasReplacedIsToldWhereANameIsTakenBehindTheLastLook) {
+  Put("a", "old");
+  const std::vector<WholeFile> files = {{Path("a"), "new"}, {Path("b"), "new"}};
+  std::vector<std::string> replaced;
+  const StepsTogether steps{
+      .LastLook = [&] { fs::create_directory(folder_ / "b"); },
+      .Replaced = [&](const WholeFile& file) { replaced.push_back(file.Path); }};
+  EXPECT_EQ(ErrorNumberOf([&] { WriteFilesTogether(files, steps); }), kPathFileAccessError);
+  EXPECT_EQ(replaced, std::vector{Path("a")});
+  EXPECT_EQ(NamesInFolder(), 2);
 }
 
 TEST_F(WholeFiles, OnlyTheFileItselfIsTakenAwayAgain) {
