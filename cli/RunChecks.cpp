@@ -24,8 +24,7 @@ using modAllPurpose::PostPiece;
 
 namespace {
 
-FileEnd WorkOn(const std::string& file, std::string heading, const PostPiece& post) {
-  console::PostedOutput output(post, console::Whole::Line, std::move(heading));
+FileEnd WorkOn(const std::string& file, console::PostedOutput& output) {
   const auto findings = reports::CheckFile(file);
   reports::ShowFindings(findings, output);
   output.Flush();
@@ -37,9 +36,12 @@ FileEnd WorkOn(const std::string& file, std::string heading, const PostPiece& po
 void RunChecks(const Request& request, const std::vector<std::string>& files,
                const Streams& streams, int& status) {
   StandardOutput output(streams.Output);
+  const console::Reader reader = console::ReaderOf(streams.Output);
   console::FileRun run;
   run.Work = [&](std::size_t number, const PostPiece& post) {
-    return WorkOn(files[number], console::HeadingOf(files, number), post);
+    console::PostedOutput text(post, console::Whole::Line, reader,
+                               console::HeadingOf(files, number));
+    return WorkOn(files[number], text);
   };
   run.Print = [&](std::string piece) { output.Append(std::move(piece)); };
   run.Close = [&] { output.Flush(); };

@@ -79,9 +79,10 @@ void ReadAll(const std::vector<std::string>& files, int jobs, const Streams& str
 }
 
 // What is printed behind the last trial, made beside the thread that prints it.
-Complaints Write(const Request& request, const PooledReport& report, const PostPiece& post) {
+Complaints Write(const Request& request, const PooledReport& report, const PostPiece& post,
+                 console::Reader reader) {
   const bool isText = request.Format == OutputFormat::Text;
-  console::PostedOutput output(post, isText ? Whole::Line : Whole::Append, {});
+  console::PostedOutput output(post, isText ? Whole::Line : Whole::Append, reader);
   Complaints complaints;
   if (isText) {
     complaints = report.ShowText(output);
@@ -104,7 +105,7 @@ Complaints WriteAndPrint(const Request& request, const PooledReport& report,
   Complaints complaints;
   console::FileRun run;
   run.Work = [&](std::size_t /*number*/, const PostPiece& post) -> FileEnd {
-    complaints = Write(request, report, post);
+    complaints = Write(request, report, post, console::ReaderOf(streams.Output));
     return {[] { return FileOutcome(); }};
   };
   run.Print = [&](std::string piece) {

@@ -26,8 +26,7 @@ using modAllPurpose::PostPiece;
 namespace {
 
 // Makes the rows of one file, as a part of the table.
-FileEnd WorkOn(const Request& request, const std::string& file, const PostPiece& post) {
-  console::PostedOutput output(post, console::Whole::Append, {});
+FileEnd WorkOn(const Request& request, const std::string& file, console::PostedOutput& output) {
   const auto part = MakeTable(request, output);
   const reports::ReportInfo& report = *reports::FindReport(request.Report);
   part->BeginPart(report.Columns);
@@ -44,9 +43,11 @@ void RunTables(const Request& request, const std::vector<std::string>& files,
                const Streams& streams, int& status) {
   StandardOutput output(streams.Output);
   const auto table = MakeTable(request, output);
+  const console::Reader reader = console::ReaderOf(streams.Output);
   console::FileRun run;
   run.Work = [&](std::size_t number, const PostPiece& post) {
-    return WorkOn(request, files[number], post);
+    console::PostedOutput part(post, console::Whole::Append, reader);
+    return WorkOn(request, files[number], part);
   };
   run.Print = [&](const std::string& piece) { table->AddPart(piece); };
   run.Close = [&] {

@@ -107,9 +107,11 @@ void RunTexts(const Request& request, const std::vector<std::string>& files, con
               int& status) {
   TextPrinter printer(request, streams);
   GcdNames gcdNames;
+  const console::Reader reader = console::ReaderOf(streams.Output);
   console::FileRun run;
   run.Work = [&](std::size_t number, const PostPiece& post) -> FileEnd {
-    console::PostedOutput output(post, console::Whole::Line, console::HeadingOf(files, number));
+    console::PostedOutput output(post, console::Whole::Line, reader,
+                                 console::HeadingOf(files, number));
     GcdTurn turn(gcdNames, number);
     TextOutcome said;
     const std::string failure = MessageOf([&] {

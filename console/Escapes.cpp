@@ -2,7 +2,9 @@
 
 #include "console/Escapes.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <string>
 
 #include <fmt/format.h>
 
@@ -31,6 +33,8 @@ std::string EscapedCharacter(std::string_view character) {
 }  // namespace
 
 std::string Escaped(std::string_view text) {
+  const auto isPlain = [](char c) { return c >= ' ' && c <= '~'; };
+  if (std::ranges::all_of(text, isPlain)) return std::string(text);
   std::string escaped;
   while (!text.empty()) {
     const std::size_t length = modAllPurpose::CharacterLength(text);
@@ -43,6 +47,15 @@ std::string Escaped(std::string_view text) {
     }
   }
   return escaped;
+}
+
+std::string EscapedLines(std::string_view lines) {
+  std::string escaped;
+  for (std::size_t end = lines.find('\n'); end != std::string_view::npos; end = lines.find('\n')) {
+    escaped += Escaped(lines.substr(0, end)) + '\n';
+    lines.remove_prefix(end + 1);
+  }
+  return escaped + Escaped(lines);
 }
 
 }  // namespace console

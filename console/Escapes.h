@@ -11,4 +11,7 @@ namespace console {
 // are no UTF-8 as \xFF. All else stays, backslashes too: the text is for people to read.
 std::string Escaped(std::string_view text);
 
+// The same for whole lines, whose ends stay.
+std::string EscapedLines(std::string_view lines);
+
 }  // namespace console

@@ -9,6 +9,7 @@
 namespace {
 
 using console::Escaped;
+using console::EscapedLines;
 
 TEST(Escaped, LeavesWhatIsReadableAsItStands) {
   for (const std::string text :
@@ -36,6 +37,11 @@ TEST(Escaped, ShowsBytesThatAreNoUtf8) {
   EXPECT_EQ(Escaped("\xF0\x80\x82\x9B"), R"(\xF0\x80\x82\x9B)");
   EXPECT_EQ(Escaped("\xED\xA0\x80"), R"(\xED\xA0\x80)") << "half a pair";
   EXPECT_EQ(Escaped("\xF4\x90\x80\x80\xF5"), R"(\xF4\x90\x80\x80\xF5)") << "behind the last one";
+}
+
+TEST(EscapedLines, KeepTheirEndsAlone) {
+  EXPECT_EQ(EscapedLines("a\tb\nc\n\n\x1B[2J"), "a\\tb\nc\n\n\\x1B[2J");
+  EXPECT_EQ(EscapedLines(""), "");
 }
 
 }  // namespace
