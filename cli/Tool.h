@@ -9,7 +9,7 @@
 namespace cli {
 
 // Does what the command line `arguments` (without the program's name) says and returns the exit
-// status. What is printed goes to `streams.Output`, what went wrong is named on `streams.Error`.
-int RunTool(const std::vector<std::string>& arguments, const console::Streams& streams);
+// status. What is printed goes to `given.Output`, what went wrong is named on `given.Error`.
+int RunTool(const std::vector<std::string>& arguments, const console::Streams& given);
 
 }  // namespace cli

@@ -45,8 +45,8 @@ std::string Footer() {
 }
 
 std::string PageNames() {
-  std::vector<std::string_view> names;
-  for (const auto& page : pages::kPages) names.push_back(page.Name);
+  std::vector<std::string_view> names(pages::kPages.size());
+  std::ranges::transform(pages::kPages, names.begin(), &pages::PageInfo::Name);
   return fmt::format("{}", fmt::join(names, "|"));
 }
 

@@ -9,7 +9,7 @@
 namespace curves {
 
 // Does what the command line `arguments` (without the program's name) says and returns the exit
-// status. What was asked for goes to `streams.Output`, what went wrong is named on `streams.Error`.
-int RunCurves(const std::vector<std::string>& arguments, const console::Streams& streams);
+// status. What was asked for goes to `given.Output`, what went wrong is named on `given.Error`.
+int RunCurves(const std::vector<std::string>& arguments, const console::Streams& given);
 
 }  // namespace curves

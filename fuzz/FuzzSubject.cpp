@@ -27,8 +27,8 @@ void CheckValue(std::string_view text, std::string_view value) {
   Require(value.data() >= text.data() && value.data() + value.size() <= end, "a piece of the text");
   Require(value.find_first_of("\r\n") == std::string_view::npos, "within a line");
   constexpr std::string_view kWhite = " \t\v\f";
-  Require(kWhite.find(value.front()) == kWhite.npos, "nothing in front of it");
-  Require(kWhite.find(value.back()) == kWhite.npos, "nothing behind it");
+  Require(kWhite.find(value.front()) == std::string_view::npos, "nothing in front of it");
+  Require(kWhite.find(value.back()) == std::string_view::npos, "nothing behind it");
 }
 
 // The same from a file of LF ends: an end of line in another form adds at most an empty line.

@@ -124,9 +124,7 @@ std::vector<AnalysisValue> ReadValues(const CheckedTrial& trial) {
 }
 
 std::string NumbersText(const std::vector<double>& numbers) {
-  std::vector<std::string> texts;
-  for (const double number : numbers) texts.push_back(fmt::format("{:.4g}", number));
-  return Listed(texts);
+  return Listed(TextsOf(numbers, [](double number) { return fmt::format("{:.4g}", number); }));
 }
 
 }  // namespace

@@ -94,9 +94,8 @@ class GapFindings {
       for (const PointGaps* point : points) Add(*point);
       return;
     }
-    std::vector<std::string> names;
-    for (const PointGaps* point : points) names.push_back(NameOf(*point));
-    Add(names, *points.front());
+    Add(TextsOf(points, [this](const PointGaps* point) { return NameOf(*point); }),
+        *points.front());
   }
 
  private:

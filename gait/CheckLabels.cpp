@@ -45,9 +45,7 @@ std::string CountedWith(const std::vector<std::string>& names, std::string_view 
 }
 
 std::string Numbers(const std::vector<std::int32_t>& numbers) {
-  std::vector<std::string> texts;
-  for (const std::int32_t number : numbers) texts.push_back(fmt::format("{}", number));
-  return Listed(texts);
+  return Listed(TextsOf(numbers, [](std::int32_t number) { return fmt::format("{}", number); }));
 }
 
 // "Point 3" or "Points 3, 5 and 6"; `thing` in lower case.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -16,6 +17,14 @@ std::string Counted(std::int64_t count, std::string_view thing);
 
 // "A", "A and B", "A, B and C"; of many the first ones, "A, B, C, D, E, F and 12 more".
 std::string Listed(const std::vector<std::string>& names);
+
+// What `textOf` says of each of `things`, to be listed.
+template <typename Things, typename TextOf>
+std::vector<std::string> TextsOf(const Things& things, TextOf textOf) {
+  std::vector<std::string> texts(things.size());
+  std::ranges::transform(things, texts.begin(), textOf);
+  return texts;
+}
 
 // "1.250 s".
 std::string SecondsText(double seconds);

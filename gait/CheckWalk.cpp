@@ -28,10 +28,10 @@ namespace {
 class Toe {
  public:
   Toe(std::string name, const FileState& state, const PointSamples& samples)
-      : name_(std::move(name)), state_(state), samples_(samples) {
-    isWhole_ = std::ranges::none_of(samples, [](const PointSample& sample) {
-      return std::isnan(sample.X) || std::isnan(sample.Y);
-    });
+      : name_(std::move(name)),
+        state_(state),
+        samples_(samples),
+        isWhole_(std::ranges::none_of(samples, IsMissing)) {
     if (!isWhole_ || samples.IsEmpty()) return;
     modAllPurpose::IgnoringErrors([&] {
       x_ = modCubicSpline::BuildComponentSpline(samples, samples.Count(), Component::X);
@@ -51,6 +51,10 @@ class Toe {
   float AlongY(float from, float to) const { return Along(y_, from, to); }
 
  private:
+  static bool IsMissing(const PointSample& sample) {
+    return std::isnan(sample.X) || std::isnan(sample.Y);
+  }
+
   static float Along(const SplineCurve& curve, float from, float to) {
     const double start = SplineValueAt(from, curve);
     return ToSingle(std::fabs(SplineValueAt(to, curve) - start));
@@ -59,7 +63,7 @@ class Toe {
   std::string name_;
   const FileState& state_;
   const PointSamples& samples_;
-  bool isWhole_ = false;
+  bool isWhole_;
   SplineCurve x_;
   SplineCurve y_;
 };
@@ -79,12 +83,6 @@ std::vector<StrideRecord> StridesHeld(const CheckedTrial& trial) {
     }
   }
   return strides;
-}
-
-std::vector<std::string> NamesOf(const std::vector<StrideRecord>& strides) {
-  std::vector<std::string> names;
-  for (const StrideRecord& stride : strides) names.push_back(StrideText(stride));
-  return names;
 }
 
 // The strikes that a stride measures, with the toe of their side.
@@ -167,14 +165,15 @@ void AddWalkFindings(const CheckedTrial& trial, const WalkStrides& walk, Finding
                  fmt::format("The walk goes along Y in {}: GCD files take sagittal curves from "
                              "component 2 there, where most models keep the coronal ones; "
                              "--axes anatomical takes component 1.",
-                             Listed(NamesOf(walk.AlongY))));
+                             Listed(TextsOf(walk.AlongY, StrideText))));
   }
   if (!walk.AlongX.empty() && !walk.AlongY.empty()) {
     findings.Add(
         "walk-turns", StrideText(walk.AlongY.front()),
         fmt::format("Strides go along different axes, X in {}, but Y in {}: the subject turned "
                     "or walked diagonally, and their GCD files show different planes.",
-                    Listed(NamesOf(walk.AlongX)), Listed(NamesOf(walk.AlongY))));
+                    Listed(TextsOf(walk.AlongX, StrideText)),
+                    Listed(TextsOf(walk.AlongY, StrideText))));
   }
   // Where the scale is not known, neither is a length.
   if (walk.InPlace.empty() || trial.Outcome.Result == OpenResult::ScaleFactorCorrupt) return;
@@ -184,8 +183,8 @@ void AddWalkFindings(const CheckedTrial& trial, const WalkStrides& walk, Finding
       "walk-in-place", StrideText(walk.InPlace.front()),
       fmt::format("{} {} shorter than 100 mm ({}{:.1f} mm), as on a treadmill: length, speed and "
                   "direction say nothing there, and summaries leave them out.",
-                  Listed(NamesOf(walk.InPlace)), isOne ? "is" : "are", isOne ? "" : "the least ",
-                  walk.ShortestInPlace * kMillimetres));
+                  Listed(TextsOf(walk.InPlace, StrideText)), isOne ? "is" : "are",
+                  isOne ? "" : "the least ", walk.ShortestInPlace * kMillimetres));
 }
 
 void CheckToesMissing(const ToeMarkers& toes, Findings& findings) {

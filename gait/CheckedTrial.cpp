@@ -71,7 +71,7 @@ ParamRecord CheckedTrial::Param(std::string_view group, std::string_view param) 
 }
 
 std::string CheckedTrial::PointName(std::int32_t index) const {
-  const std::string number = fmt::format("point {}", index);
+  std::string number = fmt::format("point {}", index);
   const std::string name =
       index <= State.PointLabels.Count() ? State.PointLabels[index] : std::string();
   if (Shown(name).empty()) return number;

@@ -61,8 +61,8 @@ std::string MeasuresText(const SingleValueMeasures& measures, std::string_view v
 // one is written as 0.
 struct Planes {
   std::optional<Component> Sagittal;
-  Component Coronal;
-  Component Axial;
+  Component Coronal = Component::X;
+  Component Axial = Component::Z;
 };
 
 Planes PlanesBy(GcdAxes axes, WalkAxis walk) {

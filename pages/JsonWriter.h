@@ -48,7 +48,7 @@ class JsonWriter {
   template <typename Range>
   void List(std::string_view name, const Range& range) {
     Key(name);
-    Array(range, [this](const auto& value) { Put(value); });
+    Array(range, [this](const auto& value) { this->Put(value); });
   }
 
   void Put(std::string_view text) {

@@ -11,7 +11,6 @@
 
 namespace plot {
 
-using modVantrel::GaitSide;
 using pages::Bar;
 using pages::BarGroup;
 
@@ -88,7 +87,7 @@ void DrawBar(const Canvas& canvas, const Bar& bar, const Slot& slot, const Axes&
 // "1.23 ± 0.04", or as much of it as fits in a size that can be read.
 QString NumberOf(const Bar& bar, int decimals, double room, const TextStyle& least) {
   if (!bar.Value) return QStringLiteral("–");
-  const QString value = NumberText(*bar.Value, decimals);
+  QString value = NumberText(*bar.Value, decimals);
   if (!bar.Deviation) return value;
   const QString whole = value + QStringLiteral(" ± ") + NumberText(*bar.Deviation, decimals);
   return WidthOf(whole, least) <= room ? whole : value;

@@ -36,12 +36,11 @@ Colours ColoursOf(const DrawingStyle& style) {
 QColor ColourOf(GaitSide side, const DrawingStyle& style) {
   const bool isLeft = side == GaitSide::Left;
   if (side == GaitSide::None) return ColoursOf(style).Quiet;
+  const auto either = [&](QRgb left, QRgb right) { return QColor(isLeft ? left : right); };
   if (style.IsMonochrome) {
-    if (style.IsDark) return QColor(isLeft ? 0xFFFFFF : 0xA8A8A8);
-    return QColor(isLeft ? 0x000000 : 0x606060);
+    return style.IsDark ? either(0xFFFFFF, 0xA8A8A8) : either(0x000000, 0x606060);
   }
-  if (style.IsDark) return QColor(isLeft ? 0xFF6B6B : 0x64B5F6);
-  return QColor(isLeft ? 0xD32F2F : 0x1565C0);
+  return style.IsDark ? either(0xFF6B6B, 0x64B5F6) : either(0xD32F2F, 0x1565C0);
 }
 
 QColor BandOf(GaitSide side, const DrawingStyle& style) {

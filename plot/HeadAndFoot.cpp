@@ -90,16 +90,16 @@ double DrawLegend(const Canvas& canvas, const std::vector<LegendItem>& items, co
   constexpr double kGap = 30;
   const TextStyle style{Face::Regular, kHeadTextSize, ColoursOf(canvas.Style).Ink};
   double x = end.x();
-  for (auto item = items.rbegin(); item != items.rend(); ++item) {
-    SetText(canvas.Painter, {x, end.y()}, Align::Right, item->Text, style);
-    x -= WidthOf(item->Text, style) + kGap + kSample;
+  std::for_each(items.rbegin(), items.rend(), [&](const LegendItem& item) {
+    SetText(canvas.Painter, {x, end.y()}, Align::Right, item.Text, style);
+    x -= WidthOf(item.Text, style) + kGap + kSample;
     const QRectF sample(x, end.y() - kSampleHeight, kSample, kSampleHeight);
-    if (item->Band.alpha() > 0) canvas.Painter.fillRect(sample, item->Band);
-    canvas.Painter.setPen(item->Line);
+    if (item.Band.alpha() > 0) canvas.Painter.fillRect(sample, item.Band);
+    canvas.Painter.setPen(item.Line);
     canvas.Painter.drawLine(QPointF(sample.left(), sample.center().y()),
                             {sample.right(), sample.center().y()});
     x -= kBetweenTexts;
-  }
+  });
   return x;
 }
 
