@@ -114,7 +114,7 @@ void OutputPane::changeEvent(QEvent* event) {
 }
 
 void OutputPane::Empty() {
-  ReplaceText({});
+  ShowText({});
   viewport()->repaint();
 }
 
@@ -140,7 +140,7 @@ void OutputPane::SetScrollWidth() {
   SendScintilla(SCI_SETSCROLLWIDTH, static_cast<unsigned long>(width + kLeftEdge));
 }
 
-void OutputPane::ReplaceText(std::string_view text) {
+void OutputPane::ShowText(std::string_view text) {
   OutputPaneReader::TextWillBeCleared(*this);
   {
     const Writable writable(*this);

@@ -30,7 +30,7 @@ class OutputPane : public QsciScintilla {
   void Append(std::string_view text);
 
   // Lets `text` be all that the pane shows.
-  void ReplaceText(std::string_view text);
+  void ShowText(std::string_view text);
 
   // All of its text, lines ended as they were handed over.
   std::string Text() const;

@@ -65,7 +65,7 @@ void frmVantrel::ShowReport(ShownReport what, const Report& report) {
   FormReport output = NewReport(CopyToDesktop::AsTicked);
   const ReportResult result = RunShowingWhatWasWritten(output, report);
   if (result.IsRejected()) {
-    controls_.txt->ReplaceText(result.Text());
+    controls_.txt->ShowText(result.Text());
   } else {
     PaneShows(std::move(what));
   }
@@ -157,7 +157,7 @@ void frmVantrel::cmdWriteGcdFiles_Click() {
   emit Remarked(ToQString(prompt.Remark()));
   if (result.IsRejected()) {
     ShowMessage(this, result.Text());
-    controls_.txt->ReplaceText(result.Text());
+    controls_.txt->ShowText(result.Text());
   }
   if (prompt.Cancelled()) Unload(0);
 }

@@ -11,7 +11,6 @@
 namespace plot {
 
 using modVantrel::GaitEventType;
-using modVantrel::GaitSide;
 
 namespace {
 

@@ -49,14 +49,16 @@ std::vector<QString> TrialNameLines(const std::vector<pages::PageFile>& files,
                                     const TextStyle& style, double room) {
   std::vector<QString> names(files.size());
   std::ranges::transform(files, names.begin(), NameOf);
-  for (double width = room; width >= kLeastName; width *= 0.9) {
+  double width = room;
+  while (width >= kLeastName) {
     if (const auto lines = InLines(FirstOf(names, names.size(), style, width), style, room)) {
       return *lines;
     }
+    width *= 0.9;
   }
   for (std::size_t shown = names.size(); shown-- > 0;) {
-    const double width = std::min(room, kLeastName);
-    if (const auto lines = InLines(FirstOf(names, shown, style, width), style, room)) return *lines;
+    const double least = std::min(room, kLeastName);
+    if (const auto lines = InLines(FirstOf(names, shown, style, least), style, room)) return *lines;
   }
   return {};
 }

@@ -85,6 +85,7 @@ std::vector<std::string> Paths(const std::vector<py::bytes>& files) {
 using ComplaintRow = std::pair<py::object, std::string>;
 std::vector<ComplaintRow> Rows(const std::vector<Complaint>& complaints) {
   std::vector<ComplaintRow> rows;
+  rows.reserve(complaints.size());
   for (const Complaint& complaint : complaints) {
     rows.emplace_back(
         complaint.File ? py::object(FileName(*complaint.File)) : py::object(py::none()),

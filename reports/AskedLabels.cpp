@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <numeric>
 
+#include <fmt/format.h>
+
 #include "support/Text.h"
 
 namespace reports {
@@ -34,7 +36,7 @@ AskedLabels FindAskedLabels(const modAllPurpose::OneBasedTable<std::string>& lab
   for (const std::string& label : options.Labels) {
     const std::int32_t number = NumberOf(labels, label);
     if (number == 0) {
-      asked.Missing.push_back(refusal + ": " + label);
+      asked.Missing.push_back(fmt::format("{}: {}", refusal, label));
     } else {
       asked.Numbers.push_back(number);
     }

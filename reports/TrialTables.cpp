@@ -16,7 +16,6 @@
 
 namespace reports {
 
-using modAllPurpose::OneBasedTable;
 using modVantrel::EventRecord;
 using modVantrel::FileState;
 using modVantrel::SideName;

@@ -153,6 +153,7 @@ char* PutShortest(char* place, float number) {
 }
 
 void AppendShortest(std::string& text, float number) {
+  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): filled before it is read
   std::array<char, kRoomOfFloat> room;
   text.append(room.data(), PutShortest(room.data(), number));
 }

@@ -245,7 +245,7 @@ TEST_F(Find, WhatWasSaidOfAnotherTextIsNotSaidOfThisOne) {
   Want(QStringLiteral("hand"));
   QTest::keyClick(Wanted(), Qt::Key_Return);
   ASSERT_TRUE(Result()->isVisible());
-  Pane()->ReplaceText("Left hand\n");
+  Pane()->ShowText("Left hand\n");
   EXPECT_FALSE(Result()->isVisible());
   EXPECT_TRUE(Bar()->isVisible());
 }

@@ -27,7 +27,7 @@ class ReportWatch : public QObject {
   ReportWatch(app::OutputPane* pane, std::function<void()> action)
       : pane_(pane), action_(std::move(action)) {
     for (int i = 0; i < 5; ++i) QApplication::processEvents();  // paints that are due already
-    pane_->ReplaceText("not empty");
+    pane_->ShowText("not empty");
     QApplication::processEvents();
     pane_->viewport()->installEventFilter(this);
   }

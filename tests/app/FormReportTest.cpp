@@ -307,7 +307,7 @@ TEST_F(FormReport, AWaitCursorShowsWhileAReportRunsAndNotAfterwards) {
 TEST_F(FormReport, ButtonsArePressedByEnterAndByTheSpaceBar) {
   StartWithSample();
   for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space}) {
-    Pane()->ReplaceText({});
+    Pane()->ShowText({});
     QTest::keyClick(Button("cmdShowParameterHeader"), key);
     EXPECT_TRUE(PaneText().starts_with("ParamBlockPointer:"));
   }

@@ -142,7 +142,7 @@ TEST_F(FormScreen, EveryReportRunsByAClickOnWhatIsInSight) {
   StartAndSettle();
   for (const char* name : {"cmdShowHeaderInfo", "cmdShowStrikeOffEvents", "cmdShowAllGroups"}) {
     QPushButton* button = Button(name);
-    Pane()->ReplaceText({});
+    Pane()->ShowText({});
     Column()->ensureWidgetVisible(button);
     QApplication::processEvents();
     const QPoint middle = button->mapTo(&form_, button->rect().center());

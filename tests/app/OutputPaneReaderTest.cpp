@@ -69,7 +69,7 @@ TEST_F(PaneReader, OffsetsCountCharactersAndNotBytes) {
   EXPECT_EQ(Text()->text(1, 3), QStringLiteral("\u00FCr"));
   EXPECT_EQ(LineAt(10), std::pair(QStringLiteral("next\n"), 9));
   EXPECT_EQ(Text()->text(7, 100), QStringLiteral("\u20AC\nnext\n"));
-  Pane()->ReplaceText("plain");
+  Pane()->ShowText("plain");
   EXPECT_EQ(Text()->characterCount(), 5);
 }
 
@@ -139,7 +139,7 @@ class PaneReaderEvents : public PaneReader {
 TEST_F(PaneReaderEvents, TellOfTextsThatComeAndGo) {
   Pane()->Append("\xC3\xBC\n");
   Pane()->Append("two\n");
-  Pane()->ReplaceText("three");
+  Pane()->ShowText("three");
   Pane()->Empty();
   EXPECT_EQ(Notes(), QStringList({QStringLiteral("+0:\u00FC\n"), QStringLiteral("+2:two\n"),
                                   QStringLiteral("-0:\u00FC\ntwo\n"), QStringLiteral("+0:three"),

@@ -39,7 +39,7 @@ TEST_F(OutputPane, KeepsWhatItWasGivenByteForByte) {
   Pane()->Append("one\n");
   Pane()->Append("two\0 with a NUL, \xC3\xBC and \t\r\n\n"sv);
   EXPECT_EQ(PaneText(), "one\ntwo\0 with a NUL, \xC3\xBC and \t\r\n\n"sv);
-  Pane()->ReplaceText("group not found");
+  Pane()->ShowText("group not found");
   EXPECT_EQ(PaneText(), "group not found");
   Pane()->Empty();
   EXPECT_EQ(PaneText(), "");
@@ -124,7 +124,7 @@ TEST_F(OutputPane, LongLinesAreNotWrappedAndCanBeScrolledTo) {
   Pane()->Append(std::string(300, 'x') + "\nshort\n");
   EXPECT_EQ(Pane()->wrapMode(), QsciScintilla::WrapNone);
   EXPECT_GT(Pane()->horizontalScrollBar()->maximum(), 0);
-  Pane()->ReplaceText("short");
+  Pane()->ShowText("short");
   EXPECT_EQ(Pane()->horizontalScrollBar()->maximum(), 0);
 }
 

@@ -26,7 +26,7 @@ class WindowCompletion : public tests::WindowTest {
   std::string ReportOf(const char* button) {
     Click(button);
     const std::string text = PaneText();
-    Pane()->ReplaceText({});
+    Pane()->ShowText({});
     return text;
   }
   void Press(const char* box, Qt::Key key) {

@@ -120,15 +120,15 @@ TEST_F(WindowMenu, EveryReportRunsByMouseByArrowsAndByItsKeys) {
     const std::string expected = PaneText();
     ASSERT_FALSE(expected.empty());
     QAction* entry = Entry(name.constData());
-    Pane()->ReplaceText({});
+    Pane()->ShowText({});
     Choose(entry);
     EXPECT_EQ(PaneText(), expected) << name.constData();
-    Pane()->ReplaceText({});
+    Pane()->ShowText({});
     ChooseByArrows(entry);
     EXPECT_EQ(PaneText(), expected) << name.constData();
     for (QWidget* focus : {static_cast<QWidget*>(Box("txtGroup")), static_cast<QWidget*>(Pane())}) {
       focus->setFocus();
-      Pane()->ReplaceText({});
+      Pane()->ShowText({});
       PressKeysOf(entry);
       EXPECT_EQ(PaneText(), expected) << name.constData();
     }

@@ -36,7 +36,7 @@ class WindowSave : public tests::WindowTest {
 
 TEST_F(WindowSave, AReportIsSavedAsThePaneShowsItUnderTheNameOfTheTrial) {
   Start(WriteSampleWalk());
-  Pane()->ReplaceText("gr\xC3\xBC\xC3\x9F\n");
+  Pane()->ShowText("gr\xC3\xBC\xC3\x9F\n");
   boxes_.Expect([this](QDialog& dialog) {
     const auto& files = dynamic_cast<QFileDialog&>(dialog);
     EXPECT_EQ(files.directory().path().toStdString(), folder_.Path().generic_string());
@@ -203,7 +203,7 @@ TEST_F(WindowSave, CheckupStridesAndSummaryStandInThePaneAndOnTheDesktopLikeAnyR
     EXPECT_EQ(PaneText(), expected);
     EXPECT_EQ(tests::WithoutCarriageReturns(tests::ReadWholeFile(DesktopFile())), expected);
     for (const bool byKeys : {true, false}) {
-      Pane()->ReplaceText({});
+      Pane()->ShowText({});
       if (byKeys) {
         PressKeysOf(entry);
       } else {

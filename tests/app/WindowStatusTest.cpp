@@ -108,7 +108,7 @@ TEST_F(WindowStatus, EnterAndBlankShowTheCheckup) {
   QTest::keyClick(Box("txtAnalogLabel"), Qt::Key_Tab);
   ASSERT_TRUE(Line()->hasFocus());
   for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
-    Pane()->ReplaceText({});
+    Pane()->ShowText({});
     QTest::keyClick(Line(), key);
     EXPECT_FALSE(PaneText().empty()) << key;
   }
