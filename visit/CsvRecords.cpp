@@ -30,7 +30,7 @@ std::string CsvRecords::QuotedField() {
   text_.remove_prefix(1);
   for (;;) {
     const std::size_t quote = text_.find('"');
-    if (quote == text_.npos) throw NormalFault{opened, "a quote is not closed"};
+    if (quote == std::string_view::npos) throw NormalFault{opened, "a quote is not closed"};
     const std::string_view piece = text_.substr(0, quote);
     line_ += std::ranges::count(piece, '\n');
     field += piece;

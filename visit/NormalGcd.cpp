@@ -3,6 +3,7 @@
 #include "visit/NormalGcd.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdint>
 #include <optional>
@@ -44,16 +45,15 @@ std::optional<Variable> FindVariable(std::string_view name) {
 
 // Whether `name` is a variable with a side in front of it, as the file of one stride has it.
 bool IsOfOneSide(std::string_view name) {
-  for (const GaitSide foot : {GaitSide::Left, GaitSide::Right}) {
+  return std::ranges::any_of(std::array{GaitSide::Left, GaitSide::Right}, [name](GaitSide foot) {
     const std::string_view side = modVantrel::SideName(foot);
-    if (name.starts_with(side) && FindVariable(name.substr(side.size()))) return true;
-  }
-  return false;
+    return name.starts_with(side) && FindVariable(name.substr(side.size()));
+  });
 }
 
 std::string_view TrimmedOfWhite(std::string_view text) {
   const auto first = text.find_first_not_of(kWhite);
-  if (first == text.npos) return {};
+  if (first == std::string_view::npos) return {};
   return text.substr(first, text.find_last_not_of(kWhite) - first + 1);
 }
 

@@ -30,7 +30,7 @@ enum class Around { Nothing, Window };
 
 // A button that prints a report, and what the tool is called with for the same one.
 struct ButtonCommand {
-  const char* Button;
+  const char* Button = "";
   QStringList ToolArguments;
 };
 

@@ -53,7 +53,7 @@ const std::string kGcdHeader = "#!DST-0.1 GCD normals\n$Gender\nMale\n";  // thr
 
 std::string Replaced(std::string text, const std::string& what, const std::string& by) {
   const auto at = text.find(what);
-  EXPECT_NE(at, text.npos);
+  EXPECT_NE(at, std::string::npos);
   return text.replace(at, what.size(), by);
 }
 
