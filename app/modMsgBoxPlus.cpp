@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <vector>
 
+#include <QDeadlineTimer>
 #include <QPushButton>
 #include <QTimer>
 
@@ -112,10 +113,13 @@ QString MsgBoxPlus(QWidget* ownerWindow, int buttonSet, const QString& caption, 
   box.setWindowFlag(Qt::WindowCloseButtonHint, canBeClosed);
 
   bool timedOut = false;
+  const QDeadlineTimer end(timeoutMs, Qt::PreciseTimer);
   QTimer timer;
   timer.setSingleShot(true);
   timer.setTimerType(Qt::PreciseTimer);
   QObject::connect(&timer, &QTimer::timeout, &box, [&] {
+    const int early = static_cast<int>(end.remainingTime());
+    if (early > 0) return timer.start(early);  // a system's timer may come a moment before its time
     timedOut = true;
     box.reject();
   });
