@@ -23,7 +23,7 @@ struct TextOutcome {
 };
 
 // Writes the GCD files of one trial and prints their names. Without Overwrite all of them or none;
-// with it one after the other, and an error names those that were written before it. They are
+// with it once all are complete, and those that an error then leaves written are named. They are
 // refused, before anything is written, where one of them exists and may not be replaced, or was
 // written for another trial of this command, or all were, for this trial, or where the names of two
 // lead to one file.

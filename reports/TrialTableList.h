@@ -29,8 +29,8 @@ struct TrialTable {
 const TrialTable& FindTrialTable(std::string_view name);
 
 // Writes the rows of the open file's table, between Begin and End. Puts into `said` the labels
-// asked for that the file lacks, then what the rows say: an error of the rows keeps the first of
-// them not back. Errors as the rows.
+// asked for that the file lacks, then what the rows say: an error of the rows does not keep
+// back the former. Errors as the rows.
 void WriteTrialRows(const TrialTable& trialTable, const modVantrel::FileState& state,
                     std::string_view file, const TableOptions& options, TableOutput& table,
                     Complaints& said);
